@@ -1,0 +1,12 @@
+# What every target of this project is compiled with; link it as osd_flags.
+add_library(osd_flags INTERFACE)
+target_compile_options(osd_flags INTERFACE
+  -Wall -Wextra -Wconversion -Wshadow
+  $<$<COMPILE_LANGUAGE:CXX>:-Wdouble-promotion -Wnon-virtual-dtor -Woverloaded-virtual>
+  # Arm has a fused multiply-add; used in a layout formula, it could move a row by a pixel.
+  -ffp-contract=off)
+if(OSD_SANITIZE)
+  target_compile_options(osd_flags INTERFACE -fsanitize=${OSD_SANITIZE} -fno-omit-frame-pointer
+                                             -fno-sanitize-recover=all)
+  target_link_options(osd_flags INTERFACE -fsanitize=${OSD_SANITIZE})
+endif()

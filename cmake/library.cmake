@@ -1,0 +1,44 @@
+# libosdmenu.so, layer by layer.
+add_library(osdmenu SHARED
+  comm/arrow.cpp
+  comm/bar.cpp
+  comm/font.cpp
+  comm/image.cpp
+  comm/log.cpp
+  comm/shape.cpp
+  comm/surface.cpp
+  comm/text.cpp
+  comm/text_surface.cpp
+  menu/core/attr.cpp
+  menu/core/canvas.cpp
+  menu/core/flat_list.cpp
+  menu/core/item_parse.cpp
+  menu/core/manager.cpp
+  menu/core/page.cpp
+  menu/core/page_parse.cpp
+  menu/core/refresh.cpp
+  menu/core/value_bind.cpp
+  menu/core/value_status.cpp
+  menu/render/layouts.cpp
+  menu/render/row.cpp
+  menu/render/value.cpp
+  menu/render/vertical_list.cpp)
+add_library(osdmenu::osdmenu ALIAS osdmenu)
+
+target_include_directories(osdmenu
+  PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>
+         $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
+         $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/osdmenu>)
+target_link_libraries(osdmenu
+  PUBLIC PkgConfig::SDL2 PkgConfig::SDL2_TTF Threads::Threads
+  PRIVATE $<BUILD_INTERFACE:osd_flags> PkgConfig::SDL2_IMAGE PkgConfig::SDL2_GFX PkgConfig::TINYXML2)
+target_compile_definitions(osdmenu PRIVATE OSD_RESOURCE_DIR="${OSD_RESOURCE_DIR}")
+set_target_properties(osdmenu PROPERTIES
+  VERSION ${PROJECT_VERSION}
+  SOVERSION ${PROJECT_VERSION_MAJOR}
+  C_VISIBILITY_PRESET hidden
+  CXX_VISIBILITY_PRESET hidden
+  VISIBILITY_INLINES_HIDDEN ON
+  LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/osdmenu.map)
+# Templates of the standard library are visible by themselves; the map keeps inside what is no name of the interface.
+target_link_options(osdmenu PRIVATE LINKER:--version-script=${PROJECT_SOURCE_DIR}/cmake/osdmenu.map)

@@ -1,0 +1,15 @@
+#include "comm/text.h"
+
+void osdTextCopy(char* pcDst, size_t u32Size, const char* pcSrc, size_t u32SrcMax)
+{
+    size_t u32Len = 0;
+    while (u32Len < u32SrcMax && u32Len < u32Size - 1 && pcSrc[u32Len] != '\0') {
+        u32Len++;
+    }
+    const bool bCut = u32Len < u32SrcMax && pcSrc[u32Len] != '\0';
+    while (bCut && u32Len > 0 && (static_cast<unsigned char>(pcSrc[u32Len]) & 0xC0) == 0x80) {
+        u32Len--; // the cut fell into a UTF-8 sequence
+    }
+    memmove(pcDst, pcSrc, u32Len);
+    memset(pcDst + u32Len, 0, u32Size - u32Len);
+}

@@ -1,0 +1,29 @@
+// Fixed text fields: copies that never pass the field and always end it.
+#pragma once
+
+#include <cstddef>
+#include <cstring>
+
+#include "osd_types.h"
+
+inline bool osdTextEqual(const char* pcLeft, const char* pcRight) { return strcmp(pcLeft, pcRight) == 0; }
+
+// A text with its end fits a field of the records.
+inline bool osdTextFits(const char* pcText) { return strlen(pcText) < OSD_TEXT_LEN; }
+
+// Copies at most u32SrcMax bytes of a text into a field of u32Size bytes and clears the rest of the field. What doesn't
+// fit is cut before the character that would not be whole.
+void osdTextCopy(char* pcDst, size_t u32Size, const char* pcSrc, size_t u32SrcMax);
+
+template <size_t N>
+void osdTextSet(char (&acDst)[N], const char* pcSrc)
+{
+    osdTextCopy(acDst, N, pcSrc, SIZE_MAX);
+}
+
+// The same from a field that may lack its end.
+template <size_t N, size_t M>
+void osdTextSetField(char (&acDst)[N], const char (&acSrc)[M])
+{
+    osdTextCopy(acDst, N, acSrc, M);
+}

@@ -1,0 +1,167 @@
+/* The on-screen menu: start, drawing, pages, values. Compiles as C11 and as C++17.
+ *
+ * Holds for every function here, unless its own comment says otherwise:
+ *   - int results are 0 on success and -1 on failure, with a line in the log.
+ *   - Pointer arguments must not be null; texts are zero-terminated UTF-8 and stay the caller's.
+ *   - One call at a time: the host serialises its calls. A call has drawn and shown its effect when it returns.
+ *
+ * Order of calls: OSD_MENU_InitOpensourceRes, OSD_MENU_InitSdkRes, Osd_GetVersionCallback, then keys and refreshes.
+ * There is no teardown; canvas and fonts live as long as the process. */
+#pragma once
+
+#include <SDL.h>
+#include <SDL_ttf.h>
+#include <pthread.h>
+
+#include "osd_canvas.h"
+#include "osd_records.h"
+#include "osd_types.h"
+
+OSD_EXTERN_C_BEGIN
+
+/* Place and size as fractions of the base rectangle, 0.0 to 1.0. */
+typedef struct tagOSD_MENU_RECT_S {
+    float f32X;
+    float f32Y;
+    float f32W;
+    float f32H;
+} tagOSD_MENU_RECT_S;
+
+typedef struct tagOSD_MENU_CFG_S {
+    tagOSD_MENU_RECT_S stMenuFrac; /* place and size of the menu */
+    uint32_t enPixFmt;             /* 0 ARGB1555, 1 ARGB4444, 2 ARGB8888 */
+    OSD_BOOL bSupport4K;           /* exactly 1: base 3840 by 2160, else 1920 by 1080 */
+    uint32_t enMenuStyle;          /* skin, 0 to 2 */
+} tagOSD_MENU_CFG_S;
+
+/* Applies an item's value. Called on the key's thread with no lock held; the result is not read. */
+typedef int (*OSD_BUSINESS_FUNC)(tagITEM_NODE_S*);
+
+/* Maps a data zone to the parent key of a lookup; null looks the key up without a parent. */
+typedef const char* (*OSD_DATA_ZONE_FUNC)(const char*);
+
+/* What the library asks the host's get-callback for. */
+OSD_ENUM(tagOSD_MENU_GET_EVENT_E){
+    OSD_MENU_GET_AF_VERSION = 0,
+    OSD_MENU_GET_ISP_VERSION = 1,
+    OSD_MENU_GET_AI_VERSION = 2,
+    OSD_MENU_GET_FW_VERSION = 3,
+    OSD_MENU_GET_VIDEO_FORMAT = 4,
+    OSD_MENU_GET_DEVICE_NAME = 5,
+    OSD_MENU_GET_SN = 6,
+    OSD_MENU_GET_MAC = 7,
+    OSD_MENU_GET_NDI_VERSION = 8,
+    OSD_MENU_GET_FULL_NDI_VERSION = 9,
+    OSD_MENU_GET_NDI_STATUS = 10,       /* the answer is a translation key */
+    OSD_MENU_GET_LED_CUSTOM_COLOR = 11, /* six hexadecimal digits */
+};
+
+/* Answer block of the get-callback: a zero-terminated text, of which 31 bytes are shown. */
+typedef struct tagOSD_MENU_CONTROL_PARAM_S {
+    char acText[OSD_ANSWER_LEN];
+} tagOSD_MENU_CONTROL_PARAM_S;
+
+/* Answers an event by writing into the block before it returns. The first argument is the host's user pointer. */
+typedef void (*OSD_GET_FUNC)(void*, tagOSD_MENU_GET_EVENT_E, tagOSD_MENU_CONTROL_PARAM_S*);
+
+typedef struct tagOSD_HANDLER_S {
+    OSD_GET_FUNC pfnGet;
+    void* pvUser;
+} tagOSD_HANDLER_S;
+
+/* The manager; the canvas stands first, so the manager's address is the canvas's. */
+typedef struct tagOSD_MENU_MGR_S {
+    tagOSD_MENU_CANVAS_S stCanvas;
+    SDL_Surface* pstSurface; /* over the canvas's pixels; null until initialised */
+    TTF_Font* pstFont;
+    TTF_Font* pstSelectFont; /* bold */
+    float f32Scale;          /* 1.0 or 1.5, the factor of font sizes */
+    SDL_Rect stPopRect;      /* popup */
+    SDL_Rect stPopMsgRect;   /* popup with message */
+    OSD_BUSINESS_FUNC pfnBusinessFunc;
+    OSD_DATA_ZONE_FUNC pfnGetDataZoneParent; /* may be null */
+} tagOSD_MENU_MGR_S;
+
+#if UINTPTR_MAX == 0xFFFFFFFFFFFFFFFFu
+static_assert(sizeof(tagOSD_MENU_CFG_S) == 28, "configuration record");
+static_assert(sizeof(tagOSD_MENU_MGR_S) == 216, "manager record");
+static_assert(offsetof(tagOSD_MENU_MGR_S, pstSurface) == 136, "manager record");
+static_assert(offsetof(tagOSD_MENU_MGR_S, stPopRect) == 164, "manager record");
+static_assert(offsetof(tagOSD_MENU_MGR_S, pfnBusinessFunc) == 200, "manager record");
+#endif
+static_assert(sizeof(tagOSD_MENU_CONTROL_PARAM_S) == 4096, "answer block");
+
+extern OSD_API tagOSD_MENU_MGR_S gstMenuMgr;
+extern OSD_API uint32_t enMenuStyle;
+extern OSD_API pthread_mutex_t g_stMutex; /* held by OSD_MENU_RenderCanvas through one redraw and its push */
+extern OSD_API tagOSD_HANDLER_S gs_OsdHandler;
+
+/* Starts SDL (timer, haptic, events, sensor), SDL_image and SDL_ttf. What was started before a failure is shut down. */
+OSD_API int OSD_MENU_InitOpensourceRes(void);
+
+/* Builds the manager, its canvas in media memory and the surface over it, and registers with the media service.
+ * pstCfg                is copied
+ * pfnBusinessFunc       never null
+ * pfnGetDataZoneParent  may be null
+ * On failure everything that was made is released and the menu refuses to draw. The host calls this once; a further
+ * call closes the menu, releases canvas and fonts and builds them anew. */
+OSD_API int OSD_MENU_InitSdkRes(tagOSD_MENU_CFG_S* pstCfg, OSD_BUSINESS_FUNC pfnBusinessFunc,
+                                OSD_DATA_ZONE_FUNC pfnGetDataZoneParent);
+
+/* Opens the root page "main" when the menu is closed, and draws; does nothing when it is open. Returns 0. */
+OSD_API int OSD_MENU_OpenMenu(void);
+
+/* Redraws the top page and shows it on all channels; with no page open hides the overlay. Takes g_stMutex.
+ * Returns -1 before OSD_MENU_InitSdkRes has succeeded and on a page of unknown layout, both without a push. */
+OSD_API int OSD_MENU_RenderCanvas(void);
+
+/* Refreshes one channel with the pixels as they are; the media service calls it at a time of its own. No lock, no
+ * drawing. bShow counts only while a page is open. pstAttach is passed through. Returns 0. */
+OSD_API int OSD_MENU_UpdateCanvas(OSD_BOOL bShow, OSD_ATTACH_INFO_S* pstAttach);
+
+/* 1 while a page is open. */
+OSD_API OSD_BOOL OSD_MENU_GetMenuStatus(void);
+
+/* 1 when the selected item of the top page opens a sub-page; 1 also while the menu is closed. */
+OSD_API OSD_BOOL OSD_Menu_HasSubPage(void);
+
+/* The same question, answered 0 while the menu is closed and on an icon page. */
+OSD_API OSD_BOOL OSD_MENU_HasSubPageWithOutIcon(void);
+
+/* Sets the get-callback for versions and device facts, and the pointer handed to it. Either may be null. Returns 0. */
+OSD_API int Osd_GetVersionCallback(OSD_GET_FUNC pfnGet, void* pvUser);
+
+/* The address of gs_OsdHandler. */
+OSD_API tagOSD_HANDLER_S* OsdMenuGetHandler(void);
+
+/* Builds the top page anew from its file and draws it: cursor on the first item, uncommitted changes gone.
+ * Returns -1 with no page open, else 0, also when the file can't be parsed. */
+OSD_API int OSD_MENU_RefreshCurrentPage(void);
+
+/* Reads the top-level items with this key again, with their visible sub-items, and draws when there is one.
+ * Returns 0. */
+OSD_API int OSD_MENU_RefreshItem(char* pcItemIndex);
+
+/* Reads the top-level items again, in order, up to and with the first CONFIRM_POP_BTN item; doesn't draw. Returns 0. */
+OSD_API int OSD_MENU_RefreshPage(void);
+
+/* Fills pstPage from the file of the page; the caller chooses the record and counts it in gstPageMgr.s32PageCnt.
+ * The record must hold no items. Whatever the failure, pstPage->stItemList is a valid list afterwards. */
+OSD_API int OSD_MENU_ParseXml(char* pcPageName, tagPAGE_NODE_S* pstPage);
+
+/* Draws a page of layout "vertical_align" onto the canvas. Call under g_stMutex. Returns 0. */
+OSD_API int OSD_MENU_RenderVerticalCanvas(tagPAGE_NODE_S* pstPage);
+
+/* Draws one item with its visible sub-items in the vertical list.
+ * pstLayoutCursor  y and h of the row above, y 0 for none; stands on this item's row afterwards
+ * bSelected        the item holds the cursor
+ * On failure nothing of the item is drawn and the cursor stays. Call under g_stMutex. */
+OSD_API int OSD_MENU_RenderVerticalItem(tagITEM_NODE_S* pstItemNode, SDL_Rect* pstLayoutCursor, OSD_BOOL bSelected);
+
+/* Blits the whole of pstSrc onto the canvas at stDst.x, stDst.y; a null pstSrc draws nothing. Returns 0. */
+OSD_API int OSD_MENU_FillData2Canvas(SDL_Surface* pstSrc, SDL_Rect stDst);
+
+/* Draws the pending message line of the top page; the argument is not read. Returns 0. */
+OSD_API int OSD_MENU_HandleKeyMsg(SDL_Rect stLayoutCursor);
+
+OSD_EXTERN_C_END

@@ -1,0 +1,15 @@
+// How a page of each layout is drawn. The rows stand in menu/render/layouts.cpp.
+#pragma once
+
+#include "osd_records.h"
+
+struct tagLAYOUT_S {
+    tagPAGE_LAYOUT_E enLayout;
+    const SDL_Rect* pstRect; // background, in surface coordinates
+    int s32Frame;            // frame width in pixels, 0 for none
+    int (*pfnDrawPage)(tagPAGE_NODE_S*);
+    int (*pfnDrawMsg)(tagITEM_NODE_S*, SDL_Rect*, OSD_BOOL); // null: no message line
+};
+
+// The row of a layout, or null where nothing draws it.
+const tagLAYOUT_S* osdLayoutFind(tagPAGE_LAYOUT_E enLayout);

@@ -1,0 +1,143 @@
+#include "menu/core/page_parse.h"
+
+#include <tinyxml2.h>
+
+#include <cstdio>
+#include <memory>
+
+#include "comm/list.h"
+#include "comm/log.h"
+#include "comm/paths.h"
+#include "menu/core/attr.h"
+#include "osd_menu.h"
+#include "platform/config_call.h"
+
+static int osdPageReadLayout(const tinyxml2::XMLElement* pstRoot, tagPAGE_NODE_S* pstPage)
+{
+    if (osdAttrWord(pstRoot, "Layout", g_astLayoutWord, &pstPage->enLayout) != 0) {
+        return -1;
+    }
+    return pstPage->enLayout == PAGE_LAYOUT_ICON ? osdAttrInt(pstRoot, "CountPerLine", &pstPage->s32CountPerLine) : 0;
+}
+
+// Reads an optional text and notes whether it is there.
+static int osdPageReadTurnText(const tinyxml2::XMLElement* pstRoot, const char* pcName, char (&acOut)[OSD_TEXT_LEN],
+                               OSD_BOOL* pbThere)
+{
+    const tagATTR_E enAttr = osdAttrText(pstRoot, pcName, acOut);
+    *pbThere = enAttr == ATTR_READ ? 1 : 0;
+    return enAttr == ATTR_TOO_LONG ? -1 : 0;
+}
+
+static int osdPageReadTurn(const tinyxml2::XMLElement* pstRoot, tagPAGE_NODE_S* pstPage)
+{
+    tagPAGE_TURN_S& stTurn = pstPage->stTurn;
+    if (pstPage->enLayout != PAGE_LAYOUT_VERTICAL_KETH) {
+        return 0;
+    }
+    if (osdPageReadTurnText(pstRoot, "CurPagesNum", stTurn.acCurPagesNum, &stTurn.bCurPagesNum) != 0) {
+        return -1;
+    }
+    if (stTurn.bCurPagesNum == 0) {
+        return 0;
+    }
+    if (osdPageReadTurnText(pstRoot, "NextPage", stTurn.acNextPage, &stTurn.bNextPage) != 0) {
+        return -1;
+    }
+    return osdPageReadTurnText(pstRoot, "PrevPage", stTurn.acPrevPage, &stTurn.bPrevPage);
+}
+
+static int osdPageReadMsg(const char* pcLanguage, const tinyxml2::XMLElement* pstRoot, tagPAGE_NODE_S* pstPage)
+{
+    if (pstPage->enLayout != PAGE_LAYOUT_HORIZONTAL_KETH) {
+        return 0;
+    }
+    char acMsgKey[OSD_TEXT_LEN] = {};
+    const tagATTR_E enAttr = osdAttrText(pstRoot, "Msg", acMsgKey);
+    if (enAttr != ATTR_READ) {
+        return enAttr == ATTR_ABSENT ? 0 : -1;
+    }
+    return osdCfgTranslate(pcLanguage, acMsgKey, pstPage->acPageMsg) == 0 ? 0 : -1;
+}
+
+static int osdPageReadTitle(const char* pcLanguage, const tinyxml2::XMLElement* pstRoot, tagPAGE_NODE_S* pstPage)
+{
+    const tagATTR_E enAttr = osdAttrText(pstRoot, "Title", pstPage->acTitleKey);
+    if (enAttr != ATTR_READ) {
+        return enAttr == ATTR_ABSENT ? 0 : -1;
+    }
+    if (osdCfgTranslate(pcLanguage, pstPage->acTitleKey, pstPage->acTitle) != 0) {
+        return -1;
+    }
+    pstPage->bTitle = 1;
+    return osdAttrWord(pstRoot, "TitlePos", g_astTitlePosWord, &pstPage->enTitlePos);
+}
+
+static void osdPageReadFlags(const tinyxml2::XMLElement* pstRoot, tagPAGE_NODE_S* pstPage)
+{
+    pstPage->bConfirmBtn = pstRoot->Attribute("ConfirmBtn", "Yes") != nullptr ? 1 : 0;
+    int32_t s32RdOnly = 0;
+    (void)osdAttrInt(pstRoot, "RdOnly", &s32RdOnly); // 0 when absent
+    pstPage->bRdOnly = s32RdOnly == 1 ? 1 : 0;
+}
+
+int osdXmlParsePageAttribute(char* pcLanguage, tinyxml2::XMLElement* pstRoot, tagPAGE_NODE_S* pstPage, char* pcPageName)
+{
+    char acName[OSD_TEXT_LEN];
+    osdTextSet(acName, pcPageName); // the name may stand in the record itself
+    *pstPage = {};
+    osdListInit(&pstPage->stItemList);
+    osdTextSet(pstPage->acPageName, acName);
+    if (osdPageReadLayout(pstRoot, pstPage) != 0 || osdPageReadTurn(pstRoot, pstPage) != 0 ||
+        osdPageReadMsg(pcLanguage, pstRoot, pstPage) != 0 || osdPageReadTitle(pcLanguage, pstRoot, pstPage) != 0) {
+        return -1;
+    }
+    osdPageReadFlags(pstRoot, pstPage);
+    return 0;
+}
+
+static int osdPageReadItems(char* pcLanguage, tinyxml2::XMLElement* pstRoot, tagPAGE_NODE_S* pstPage)
+{
+    const tagITEM_LEVEL_E enLevel = pstPage->bTitle == 1 ? ITEM_LEVEL_UNDER_TITLE : ITEM_LEVEL_TOP;
+    for (tinyxml2::XMLElement* pstElem = pstRoot->FirstChildElement(); pstElem != nullptr;
+         pstElem = pstElem->NextSiblingElement()) {
+        const OSD_BOOL bActive = pstPage->s32ItemCnt == pstPage->s32SelIdx ? 1 : 0;
+        if (osdXmlParseItemAttribute(pcLanguage, pstElem, enLevel, 0, bActive, &pstPage->stItemList) != 0) {
+            return -1;
+        }
+        pstPage->s32ItemCnt++;
+    }
+    return 0;
+}
+
+static int osdPageReadRoot(tinyxml2::XMLElement* pstRoot, tagPAGE_NODE_S* pstPage, char* pcPageName)
+{
+    char acLanguage[OSD_TEXT_LEN];
+    if (osdCfgLanguage(acLanguage) != 0 || osdXmlParsePageAttribute(acLanguage, pstRoot, pstPage, pcPageName) != 0 ||
+        osdPageReadItems(acLanguage, pstRoot, pstPage) != 0) {
+        OSD_TRACE_FAILED();
+        return -1;
+    }
+    return 0;
+}
+
+int OSD_MENU_ParseXml(char* pcPageName, tagPAGE_NODE_S* pstPage)
+{
+    osdListInit(&pstPage->stItemList);
+    char acPath[OSD_PATH_LEN];
+    (void)snprintf(acPath, sizeof(acPath), "%s%s_page.xml", OSD_DIR_MENU, pcPageName);
+    // a name that no page record holds belongs to no page
+    const std::unique_ptr<tinyxml2::XMLDocument> pstDoc(osdTextFits(pcPageName) ? CFG_GetDocByFileName(acPath, 1)
+                                                                                : nullptr);
+    if (pstDoc == nullptr) {
+        OSD_LOG(OSD_LOG_LEVEL_ERR, "Load %s failed\n", acPath);
+        return -1;
+    }
+    osdTrace("[%s:%d] \n", OSD_PLACE);
+    tinyxml2::XMLElement* pstRoot = pstDoc->FirstChildElement();
+    if (pstRoot == nullptr) {
+        OSD_LOG(OSD_LOG_LEVEL_ERR, "Acquire %s root failed\n", acPath);
+        return -1;
+    }
+    return osdPageReadRoot(pstRoot, pstPage, pcPageName);
+}

@@ -1,0 +1,236 @@
+#include "menu/core/value_bind.h"
+
+#include <tinyxml2.h>
+
+#include <algorithm>
+
+#include "comm/log.h"
+#include "menu/core/attr.h"
+#include "menu/core/flat_list.h"
+#include "menu/core/words.h"
+#include "platform/config_call.h"
+
+// The parent key of a lookup, or null for a lookup without one.
+static const char* osdBindParent(const char* pcDataZone)
+{
+    return gstMenuMgr.pfnGetDataZoneParent != nullptr ? gstMenuMgr.pfnGetDataZoneParent(pcDataZone) : nullptr;
+}
+
+// Records are cleared first: what the service doesn't fill reads as empty.
+static tagCFG_VALUE_TXT_S osdBindTxt(const char* pcKey, const char* pcDataZone)
+{
+    tagCFG_VALUE_TXT_S stTxt = {};
+    osdCfgGetTxt(osdBindParent(pcDataZone), pcKey, &stTxt);
+    return stTxt;
+}
+
+struct tagLED_BYTE_S {
+    const char* pcKey;
+    unsigned u32Shift;
+};
+
+static constexpr tagLED_BYTE_S gs_astLedByte[] = {{OSD_KEY_LED_RED, 16}, {OSD_KEY_LED_GREEN, 8}};
+
+static const tagLED_BYTE_S* osdLedByteFind(const char* pcKey)
+{
+    for (const tagLED_BYTE_S& stByte : gs_astLedByte) {
+        if (osdTextEqual(stByte.pcKey, pcKey)) {
+            return &stByte;
+        }
+    }
+    return nullptr;
+}
+
+// The integer record of an item; the LED keys take their byte out of the one colour.
+static tagCFG_VALUE_INT_S osdBindInt(const tagITEM_NODE_S* pstItem)
+{
+    const tagLED_BYTE_S* pstByte = osdLedByteFind(pstItem->acItemIndex);
+    tagCFG_VALUE_INT_S stInt = {};
+    osdCfgGetInt(osdBindParent(pstItem->acDataZone), pstByte != nullptr ? OSD_KEY_LED_COLOR : pstItem->acItemIndex,
+                 &stInt);
+    if (pstByte != nullptr) {
+        stInt.s32Max = 255;
+        stInt.s32Cur = static_cast<int32_t>((static_cast<uint32_t>(stInt.s32Cur) >> pstByte->u32Shift) & 0xFFU);
+    }
+    return stInt;
+}
+
+// Every option whose key equals the value takes the index, so the last of equal keys wins.
+static void osdBindSelect(tagITEM_NODE_S* pstItem, const tagCFG_VALUE_TXT_S& stTxt)
+{
+    char acValue[OSD_TEXT_LEN];
+    osdTextSetField(acValue, stTxt.acValue);
+    const int32_t s32Cnt = std::min<int32_t>(pstItem->s32ValCnt, OSD_OPTION_MAX);
+    for (int32_t i = 0; i < s32Cnt; i++) {
+        if (osdTextEqual(pstItem->acValueKey[i], acValue)) {
+            pstItem->s32CurIdx = i;
+            pstItem->s32SavedIdx = i;
+        }
+    }
+}
+
+// Cuts the option list at each ":" into options; what is beyond the item's options is left out.
+static void osdBindOptions(const char* pcLanguage, tagITEM_NODE_S* pstItem, const tagCFG_VALUE_TXT_S& stTxt)
+{
+    const char* pcPiece = stTxt.acList;
+    const char* pcListEnd = std::find(pcPiece, pcPiece + sizeof(stTxt.acList), '\0');
+    while (pstItem->s32ValCnt < OSD_OPTION_MAX) {
+        const char* pcEnd = std::find(pcPiece, pcListEnd, ':');
+        const int32_t s32Option = pstItem->s32ValCnt;
+        osdTextCopy(pstItem->acValueKey[s32Option], OSD_TEXT_LEN, pcPiece, static_cast<size_t>(pcEnd - pcPiece));
+        (void)osdCfgTranslate(pcLanguage, pstItem->acValueKey[s32Option], pstItem->acValue[s32Option]);
+        pstItem->s32ValCnt++;
+        if (pcEnd == pcListEnd) {
+            return;
+        }
+        pcPiece = pcEnd + 1;
+    }
+}
+
+static void osdBindNumber(tagITEM_NODE_S* pstItem)
+{
+    const tagCFG_VALUE_INT_S stInt = osdBindInt(pstItem);
+    pstItem->s32Min = stInt.s32Min;
+    pstItem->s32Max = stInt.s32Max;
+    pstItem->s32Reserved = stInt.s32Reserved;
+    pstItem->s32Step = stInt.s32Step;
+    pstItem->s32Cur = stInt.s32Cur;
+    pstItem->s32Saved = stInt.s32Cur;
+}
+
+static void osdBindValue(const char* pcLanguage, tagITEM_NODE_S* pstItem)
+{
+    if (pstItem->enValType == NUMERICAL) {
+        osdBindNumber(pstItem);
+        return;
+    }
+    const tagCFG_VALUE_TXT_S stTxt = osdBindTxt(pstItem->acItemIndex, pstItem->acDataZone);
+    osdBindOptions(pcLanguage, pstItem, stTxt);
+    osdBindSelect(pstItem, stTxt);
+}
+
+static int osdBindButton(const char* pcLanguage, const tinyxml2::XMLElement* pstElem, tagITEM_NODE_S* pstItem)
+{
+    if (osdAttrReqText(pstElem, "Value", pstItem->acValueKey[0]) != 0) {
+        return -1;
+    }
+    (void)osdCfgTranslate(pcLanguage, pstItem->acValueKey[0], pstItem->acValue[0]);
+    if (pstItem->enAttr == CONFIRM_POP && osdAttrReqText(pstElem, "ConfirmPage", pstItem->acConfirmPage) != 0) {
+        OSD_TRACE_FAILED();
+        return -1;
+    }
+    pstItem->s32CurIdx = 0;
+    pstItem->s32SavedIdx = 0;
+    pstItem->s32ValCnt = 1;
+    return 0;
+}
+
+int osdXmlFillItemParam(char* pcLanguage, tinyxml2::XMLElement* pstElem, tagITEM_NODE_S* pstItemNode)
+{
+    if (!osdContextHasValue(pstItemNode->enCtx)) {
+        return 0;
+    }
+    switch (pstItemNode->enAttr) {
+    case CONFIRM:
+    case CONFIRM_POP:
+        return osdBindButton(pcLanguage, pstElem, pstItemNode);
+    case SUBITEM:
+    case MSG_WITH_SUBITEM: // the options came from the page file
+        osdBindSelect(pstItemNode, osdBindTxt(pstItemNode->acItemIndex, pstItemNode->acDataZone));
+        return 0;
+    case KEY_WITH_MSG:
+    case COMMON:
+        osdBindValue(pcLanguage, pstItemNode);
+        return 0;
+    case EDITABLE:
+        osdXmlFillEditableValue(pstItemNode);
+        return 0;
+    case STATUS:
+        return osdXmlParseStatusParam(pcLanguage, pstItemNode);
+    case CONST_TXT:
+    case CONFIRM_POP_BTN:
+    case SUBPAGE:
+    case MSG_LINE:
+    case TITLE_LINE:
+        return 0;
+    }
+    return 0;
+}
+
+int osdMenuGetItemValue(tagITEM_NODE_S* pstItemNode)
+{
+    if (pstItemNode->enValType == NUMERICAL) {
+        pstItemNode->s32Cur = osdBindInt(pstItemNode).s32Cur;
+        pstItemNode->s32Saved = pstItemNode->s32Cur;
+    } else if (pstItemNode->enValType == OPTTXT) {
+        osdBindSelect(pstItemNode, osdBindTxt(pstItemNode->acItemIndex, pstItemNode->acDataZone));
+    }
+    return 0;
+}
+
+void osdXmlFillEditableValue(tagITEM_NODE_S* pstItemNode)
+{
+    const tagCFG_VALUE_TXT_S stTxt = osdBindTxt(pstItemNode->acItemIndex, pstItemNode->acDataZone);
+    osdTextSetField(pstItemNode->acValue[0], stTxt.acValue);
+    osdTextSetField(pstItemNode->acValue[1], stTxt.acValue);
+}
+
+static void osdBindSubItems(tagITEM_NODE_S* pstItem)
+{
+    list_head* pstSubList = osdItemSubList(pstItem, pstItem->s32CurIdx);
+    if (pstSubList == nullptr) {
+        return;
+    }
+    for (tagITEM_NODE_S* pstSub : osdItems(pstSubList)) {
+        (void)osdXmlFillItemOfSubItem(pstSub); // always 0
+    }
+}
+
+int osdXmlFillItemOfSubItem(tagITEM_NODE_S* pstItemNode)
+{
+    if (!osdContextHasValue(pstItemNode->enCtx)) {
+        return 0;
+    }
+    if (pstItemNode->enAttr == COMMON) {
+        (void)osdMenuGetItemValue(pstItemNode); // always 0
+    } else if (pstItemNode->enAttr == EDITABLE) {
+        osdXmlFillEditableValue(pstItemNode);
+    } else if (osdItemHasOptionLists(pstItemNode)) {
+        (void)osdMenuGetItemValue(pstItemNode);
+        osdBindSubItems(pstItemNode); // of the option just read
+    }
+    return 0;
+}
+
+int osdMenuUpdateSubItems(tagITEM_NODE_S* pstItemNode)
+{
+    if (!osdItemHasOptionLists(pstItemNode)) {
+        return -1;
+    }
+    list_head* pstSubList = osdItemSubList(pstItemNode, pstItemNode->s32CurIdx);
+    if (pstSubList == nullptr) {
+        return 0;
+    }
+    for (tagITEM_NODE_S* pstSub : osdItems(pstSubList)) {
+        osdTrace("[%s:%d] INDEX %s \n", OSD_PLACE, pstSub->acItemIndex);
+        (void)osdXmlFillItemOfSubItem(pstSub); // always 0
+    }
+    return 0;
+}
+
+int osdMenuGetTxtValue(char* pcKey, char* pcDataZone, char* pcOut)
+{
+    const tagCFG_VALUE_TXT_S stTxt = osdBindTxt(pcKey, pcDataZone);
+    osdTextCopy(pcOut, sizeof(stTxt.acValue), stTxt.acValue, sizeof(stTxt.acValue));
+    return 0;
+}
+
+int osdMenuGetTranslatedValue(tagITEM_NODE_S* pstItemNode, char* pcLanguage)
+{
+    char acValue[OSD_CFG_VALUE_LEN] = {};
+    (void)osdMenuGetTxtValue(pstItemNode->acItemIndex, pstItemNode->acDataZone, acValue); // always 0
+    if (osdCfgTranslate(pcLanguage, acValue, pstItemNode->acValue[0]) != 0) {
+        osdTextSet(pstItemNode->acValue[0], acValue);
+    }
+    return 0;
+}

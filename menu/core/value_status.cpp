@@ -1,0 +1,90 @@
+// Texts of STATUS items: each key has one fixed source.
+#include "comm/text.h"
+#include "menu/core/value_bind.h"
+#include "menu/core/words.h"
+#include "platform/config_call.h"
+
+struct tagSTATUS_SOURCE_S;
+using OSD_STATUS_FUNC = void (*)(const tagSTATUS_SOURCE_S&, const char* pcLanguage, tagITEM_NODE_S*);
+
+struct tagSTATUS_SOURCE_S {
+    const char* pcKey;
+    OSD_STATUS_FUNC pfnFill;
+    tagOSD_MENU_GET_EVENT_E enEvent; // for the get-callback
+    const char* pcParent;            // for the configuration
+};
+
+// The callback's answer, ended within its block; empty without a callback.
+static void osdStatusAsk(tagOSD_MENU_GET_EVENT_E enEvent, tagOSD_MENU_CONTROL_PARAM_S* pstAnswer)
+{
+    pstAnswer->acText[0] = '\0';
+    if (gs_OsdHandler.pfnGet != nullptr) {
+        gs_OsdHandler.pfnGet(gs_OsdHandler.pvUser, enEvent, pstAnswer);
+        pstAnswer->acText[sizeof(pstAnswer->acText) - 1] = '\0';
+    }
+}
+
+static void osdStatusFromHost(const tagSTATUS_SOURCE_S& stSource, const char* /*pcLanguage*/, tagITEM_NODE_S* pstItem)
+{
+    tagOSD_MENU_CONTROL_PARAM_S stAnswer;
+    osdStatusAsk(stSource.enEvent, &stAnswer);
+    osdTextSetField(pstItem->acValue[0], stAnswer.acText);
+}
+
+static void osdStatusTranslated(const tagSTATUS_SOURCE_S& stSource, const char* pcLanguage, tagITEM_NODE_S* pstItem)
+{
+    tagOSD_MENU_CONTROL_PARAM_S stAnswer;
+    osdStatusAsk(stSource.enEvent, &stAnswer);
+    (void)osdCfgTranslate(pcLanguage, stAnswer.acText, pstItem->acValue[0]);
+}
+
+static void osdStatusFromConfig(const tagSTATUS_SOURCE_S& stSource, const char* /*pcLanguage*/, tagITEM_NODE_S* pstItem)
+{
+    tagCFG_VALUE_TXT_S stTxt = {};
+    osdCfgGetTxt(stSource.pcParent, stSource.pcKey, &stTxt);
+    osdTextSetField(pstItem->acValue[0], stTxt.acValue);
+}
+
+static void osdStatusFromDevice(const tagSTATUS_SOURCE_S& /*stSource*/, const char* /*pcLanguage*/,
+                                tagITEM_NODE_S* pstItem)
+{
+    tagDEV_ATTR_CONTENT_S stAttr = {};
+    (void)BSP_PARTITION_GetDevAttribute(&stAttr); // the record counts, not the result
+    osdTextSetField(pstItem->acValue[0], stAttr.acDeviceType);
+}
+
+static constexpr tagOSD_MENU_GET_EVENT_E NO_EVENT = OSD_MENU_GET_AF_VERSION; // where the source is another
+
+static constexpr tagSTATUS_SOURCE_S gs_astStatusSource[] = {
+    {"FwVersion", osdStatusFromHost, OSD_MENU_GET_FW_VERSION, nullptr},
+    {"IspVersion", osdStatusFromHost, OSD_MENU_GET_ISP_VERSION, nullptr},
+    {"AfVersion", osdStatusFromHost, OSD_MENU_GET_AF_VERSION, nullptr},
+    {"AiVersion", osdStatusFromHost, OSD_MENU_GET_AI_VERSION, nullptr},
+    {"VideoFormat", osdStatusFromHost, OSD_MENU_GET_VIDEO_FORMAT, nullptr},
+    {OSD_KEY_IP_ADDR, osdStatusFromConfig, NO_EVENT, "NetCard0"},
+    {"NetMask", osdStatusFromConfig, NO_EVENT, "NetCard0"},
+    {"GateWay", osdStatusFromConfig, NO_EVENT, "NetCard0"},
+    {"Dns1", osdStatusFromConfig, NO_EVENT, "NetCard0"},
+    {"Dns2", osdStatusFromConfig, NO_EVENT, "NetCard0"},
+    {"IrisLevel", osdStatusFromConfig, NO_EVENT, "Panorama"},
+    {"DeviceName", osdStatusFromHost, OSD_MENU_GET_DEVICE_NAME, nullptr},
+    {"DeviceType", osdStatusFromDevice, NO_EVENT, nullptr},
+    {"SN", osdStatusFromHost, OSD_MENU_GET_SN, nullptr},
+    {"Mac", osdStatusFromHost, OSD_MENU_GET_MAC, nullptr},
+    {"NdiVersion", osdStatusFromHost, OSD_MENU_GET_NDI_VERSION, nullptr},
+    {"FullNdiVersion", osdStatusFromHost, OSD_MENU_GET_FULL_NDI_VERSION, nullptr},
+    {"NdiStatus", osdStatusTranslated, OSD_MENU_GET_NDI_STATUS, nullptr},
+    {OSD_KEY_LED_COLOR, osdStatusFromHost, OSD_MENU_GET_LED_CUSTOM_COLOR, nullptr}};
+
+int osdXmlParseStatusParam(char* pcLanguage, tagITEM_NODE_S* pstItemNode)
+{
+    pstItemNode->s32ValCnt = 1;
+    osdTextSet(pstItemNode->acValue[0], "");
+    for (const tagSTATUS_SOURCE_S& stSource : gs_astStatusSource) {
+        if (osdTextEqual(stSource.pcKey, pstItemNode->acItemIndex)) {
+            stSource.pfnFill(stSource, pcLanguage, pstItemNode);
+            break;
+        }
+    }
+    return 0;
+}

@@ -1,0 +1,204 @@
+#include "simulator/core/definitions.h"
+
+#include <algorithm>
+#include <set>
+
+#include "include/osd_types.h"
+#include "simulator/core/errors.h"
+#include "simulator/core/json_file.h"
+
+namespace sim {
+namespace {
+
+using nlohmann::json;
+
+constexpr std::size_t max_text_bytes = OSD_TEXT_LEN - 1;
+constexpr std::size_t max_value_bytes = OSD_CFG_VALUE_LEN - 1;
+constexpr std::size_t max_list_bytes = OSD_CFG_LIST_LEN - 1;
+
+struct KindName {
+    const char* name;
+    SettingKind kind;
+};
+constexpr KindName kind_names[] = {{"option", SettingKind::Option},
+                                   {"integer", SettingKind::Integer},
+                                   {"text", SettingKind::Text},
+                                   {"color", SettingKind::Color}};
+
+constexpr const char* fact_names[] = {"FwVersion",  "IspVersion", "AfVersion",  "AiVersion",     "VideoFormat", "DeviceName",
+                                      "SN",         "Mac",        "NdiVersion", "FullNdiVersion", "NdiStatus",  "DeviceType"};
+
+std::map<std::string, std::string> read_text_map(const json& object, const std::string& place)
+{
+    FieldReader reader(object, place);
+    std::map<std::string, std::string> texts;
+    for (const auto& [name, value] : object.items()) {
+        texts[name] = reader.text(name, 0, max_text_bytes);
+    }
+    return texts;
+}
+
+SettingKind read_kind(FieldReader& reader)
+{
+    const std::string word = reader.text("kind", 1, max_text_bytes);
+    for (const KindName& row : kind_names) {
+        if (word == row.name) {
+            return row.kind;
+        }
+    }
+    reader.complain("unknown kind '" + word + "', expected option, integer, text or color");
+}
+
+void check_option_list(const FieldReader& reader, const std::vector<std::string>& options)
+{
+    std::size_t joined = 0;
+    std::set<std::string> seen;
+    for (const std::string& option : options) {
+        if (option.empty() || option.size() > max_value_bytes || option.find(':') != std::string::npos) {
+            reader.complain("option '" + option + "' must have 1 to 15 bytes and no ':'");
+        }
+        if (!seen.insert(option).second) {
+            reader.complain("option '" + option + "' stands twice");
+        }
+        joined += option.size() + 1;
+    }
+    if (options.empty() || options.size() > OSD_OPTION_MAX || joined - 1 > max_list_bytes) {
+        reader.complain("'options' must hold 1 to 32 entries, together at most 271 bytes with ':' between them");
+    }
+}
+
+std::vector<std::string> read_options(FieldReader& reader)
+{
+    const json& list = reader.field("options");
+    const auto is_text = [](const json& entry) { return entry.is_string(); };
+    if (!list.is_array() || !std::all_of(list.begin(), list.end(), is_text)) {
+        reader.complain("'options' must be a list of texts");
+    }
+    auto options = list.get<std::vector<std::string>>();
+    check_option_list(reader, options);
+    return options;
+}
+
+void read_range(FieldReader& reader, Setting& setting)
+{
+    setting.min = reader.integer("min");
+    setting.max = reader.integer("max");
+    setting.step = reader.integer("step");
+    if (reader.has("unit")) {
+        setting.unit = reader.text("unit", 0, max_value_bytes);
+    }
+    if (setting.min >= setting.max || setting.step < 1) {
+        reader.complain("expected 'min' below 'max' and a 'step' of 1 or more");
+    }
+}
+
+void read_kind_fields(FieldReader& reader, Setting& setting)
+{
+    switch (setting.kind) {
+    case SettingKind::Option:
+        setting.options = read_options(reader);
+        break;
+    case SettingKind::Integer:
+        read_range(reader, setting);
+        break;
+    case SettingKind::Color:
+        setting.max = 0xFFFFFF;
+        setting.step = reader.has("step") ? reader.integer("step") : 1;
+        break;
+    case SettingKind::Text:
+        break;
+    }
+}
+
+Setting read_setting(const json& object, const std::string& file)
+{
+    Setting setting;
+    FieldReader first(object, file + ": a setting");
+    setting.id.key = first.text("key", 1, max_text_bytes);
+    FieldReader reader(object, file + ": setting '" + setting.id.key + "'");
+    (void)reader.field("key");
+    if (reader.has("parent")) {
+        setting.id.parent = reader.text("parent", 0, max_text_bytes);
+    }
+    setting.kind = read_kind(reader);
+    read_kind_fields(reader, setting);
+    setting.default_text = setting.kind == SettingKind::Integer ? std::to_string(reader.integer("default"))
+                                                                : reader.text("default", 0, max_value_bytes);
+    reader.refuse_other_fields();
+    const std::string problem = problem_with(setting, setting.default_text);
+    if (!problem.empty()) {
+        reader.complain("'default': " + problem);
+    }
+    return setting;
+}
+
+void read_settings(const json& list, const std::string& file, Definitions& definitions)
+{
+    if (!list.is_array()) {
+        throw BadInput(file + ": 'settings' must be a list, [ ... ]");
+    }
+    for (const json& object : list) {
+        Setting setting = read_setting(object, file);
+        const SettingId id = setting.id;
+        if (!definitions.settings.emplace(id, std::move(setting)).second) {
+            throw BadInput(file + ": setting " + to_string(id) + " is defined twice");
+        }
+    }
+}
+
+std::map<std::string, std::string> read_facts(const json& object, const std::string& file)
+{
+    FieldReader reader(object, file + ": 'facts'");
+    std::map<std::string, std::string> facts;
+    for (const char* name : fact_names) {
+        facts[name] = reader.text(name, 0, max_text_bytes);
+    }
+    reader.refuse_other_fields();
+    return facts;
+}
+
+void check_languages(const Definitions& definitions, const std::string& file)
+{
+    const auto found = definitions.settings.find(language_setting);
+    if (found == definitions.settings.end() || found->second.kind != SettingKind::Option) {
+        throw BadInput(file + ": there must be a setting 'Language' of kind option, without parent");
+    }
+    for (const std::string& option : found->second.options) {
+        if (definitions.languages.count(option) == 0) {
+            throw BadInput(file + ": setting 'Language': option '" + option + "' is missing in 'languages'");
+        }
+    }
+}
+
+void check_zones(const Definitions& definitions, const std::string& file)
+{
+    std::set<std::string> parents;
+    for (const auto& [id, setting] : definitions.settings) {
+        parents.insert(id.parent);
+    }
+    for (const auto& [zone, parent] : definitions.zones) {
+        if (parents.count(parent) == 0) {
+            throw BadInput(file + ": zone '" + zone + "': no setting has the parent '" + parent + "'");
+        }
+    }
+}
+
+} // namespace
+
+Definitions load_definitions(const std::filesystem::path& path)
+{
+    const std::string file = path.string();
+    const json root = load_json_object(path);
+    FieldReader reader(root, file);
+    Definitions definitions;
+    definitions.languages = read_text_map(reader.field("languages"), file + ": 'languages'");
+    definitions.facts = read_facts(reader.field("facts"), file);
+    definitions.zones = read_text_map(reader.field("zones"), file + ": 'zones'");
+    read_settings(reader.field("settings"), file, definitions);
+    reader.refuse_other_fields();
+    check_languages(definitions, file);
+    check_zones(definitions, file);
+    return definitions;
+}
+
+} // namespace sim

@@ -1,0 +1,88 @@
+#include "simulator/core/setting.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdio>
+#include <tuple>
+
+#include "include/osd_types.h"
+
+namespace sim {
+namespace {
+
+bool parse_whole(const std::string& text, int base, std::int32_t& number)
+{
+    const char* end = text.data() + text.size();
+    const auto result = std::from_chars(text.data(), end, number, base);
+    return result.ec == std::errc() && result.ptr == end;
+}
+
+std::string joined(const std::vector<std::string>& words)
+{
+    std::string all;
+    for (const std::string& word : words) {
+        all += (all.empty() ? "" : ", ") + word;
+    }
+    return all;
+}
+
+std::string problem_with_number(const Setting& setting, const std::string& text)
+{
+    std::int32_t number = 0;
+    if (parse_whole(text, 10, number) && number >= setting.min && number <= setting.max) {
+        return "";
+    }
+    return "'" + text + "' is no whole number from " + std::to_string(setting.min) + " to " +
+           std::to_string(setting.max);
+}
+
+} // namespace
+
+bool operator<(const SettingId& a, const SettingId& b)
+{
+    return std::tie(a.parent, a.key) < std::tie(b.parent, b.key);
+}
+
+std::string to_string(const SettingId& id)
+{
+    return "'" + id.key + "'" + (id.parent.empty() ? "" : " of '" + id.parent + "'");
+}
+
+std::string problem_with(const Setting& setting, const std::string& text)
+{
+    std::int32_t number = 0;
+    switch (setting.kind) {
+    case SettingKind::Option:
+        return std::count(setting.options.begin(), setting.options.end(), text) > 0
+                   ? ""
+                   : "'" + text + "' is none of " + joined(setting.options);
+    case SettingKind::Integer:
+        return problem_with_number(setting, text);
+    case SettingKind::Text:
+        return text.size() < OSD_CFG_VALUE_LEN ? "" : "'" + text + "' has more than 15 bytes";
+    case SettingKind::Color:
+        return text.size() == 6 && parse_whole(text, 16, number) && number >= 0
+                   ? ""
+                   : "'" + text + "' is no color of six hexadecimal digits";
+    }
+    return "unknown kind";
+}
+
+std::int32_t number_of(const Setting& setting, const std::string& text)
+{
+    std::int32_t number = 0;
+    (void)parse_whole(text, setting.kind == SettingKind::Color ? 16 : 10, number); // the text was checked when it came
+    return number;
+}
+
+std::string text_of(const Setting& setting, std::int32_t number)
+{
+    if (setting.kind != SettingKind::Color) {
+        return std::to_string(number);
+    }
+    char digits[16];
+    (void)std::snprintf(digits, sizeof digits, "%06X", static_cast<unsigned>(number) & 0xFFFFFFU);
+    return digits;
+}
+
+} // namespace sim

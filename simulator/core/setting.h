@@ -1,0 +1,44 @@
+// One setting of the camera: what values it can have.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace sim {
+
+enum class SettingKind { Option, Integer, Text, Color };
+
+/// A setting is known by its parent key, empty for none, and its own key.
+struct SettingId {
+    std::string parent;
+    std::string key;
+};
+
+bool operator<(const SettingId& a, const SettingId& b);
+
+/// "'key'", or "'key' of 'parent'": how messages name a setting.
+std::string to_string(const SettingId& id);
+
+struct Setting {
+    SettingId id;
+    SettingKind kind = SettingKind::Text;
+    std::vector<std::string> options; ///< Option only
+    std::int32_t min = 0;             ///< the range of Integer and Color
+    std::int32_t max = 0;
+    std::int32_t step = 1;
+    std::string unit; ///< shown behind the number by front ends, may be empty
+    std::string default_text;
+};
+
+/// Why the setting can't have this value, in words; empty when it can. All values are texts: an option's key, a
+/// decimal number, a text of at most 15 bytes, six hexadecimal digits.
+std::string problem_with(const Setting& setting, const std::string& text);
+
+/// The number in the text of an Integer or Color setting. The text must fit the setting.
+std::int32_t number_of(const Setting& setting, const std::string& text);
+
+/// The text of a number, as the settings store it.
+std::string text_of(const Setting& setting, std::int32_t number);
+
+} // namespace sim

@@ -1,0 +1,54 @@
+// The database of setting values, one SQLite file.
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <string>
+
+#include "simulator/core/errors.h"
+#include "simulator/core/setting.h"
+
+struct sqlite3;
+
+namespace sim {
+
+/// The file isn't a settings database, or it is damaged.
+class BadDatabase : public BadInput {
+public:
+    using BadInput::BadInput;
+};
+
+/// Values that differ from their defaults, by setting. What write() has stored survives a kill at any moment: write-
+/// ahead log, synchronised to the disk with each commit.
+class SettingsStore {
+public:
+    /// Opens the file, or makes it. Throws BadDatabase for a file that is no healthy settings database, which stays as
+    /// it is, and BadInput when it is locked or can't be written.
+    explicit SettingsStore(const std::filesystem::path& file);
+
+    std::map<SettingId, std::string> load_all();
+    /// Both throw std::runtime_error when the database refuses; nothing has changed then.
+    void write(const SettingId& id, const std::string& value);
+    void clear();
+
+private:
+    struct Close {
+        void operator()(sqlite3* database) const;
+    };
+
+    void run(const char* sql);
+    int read_number(const char* sql);
+    void check_owner();
+    void check_health();
+    void make_tables();
+    [[noreturn]] void fail(int code) const;
+
+    std::string name_;
+    std::unique_ptr<sqlite3, Close> database_;
+};
+
+/// Renames a database with its write-ahead log to the first free name with ".bak" behind it. Returns the new name.
+std::filesystem::path move_database_aside(const std::filesystem::path& file);
+
+} // namespace sim

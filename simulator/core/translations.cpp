@@ -1,0 +1,44 @@
+#include "simulator/core/translations.h"
+
+#include "include/osd_types.h"
+#include "simulator/core/json_file.h"
+
+namespace sim {
+namespace {
+
+constexpr std::size_t max_bytes = OSD_TEXT_LEN - 1;
+
+std::map<std::string, std::string> load_language(const std::filesystem::path& path)
+{
+    const nlohmann::json root = load_json_object(path);
+    FieldReader reader(root, path.string());
+    std::map<std::string, std::string> texts;
+    for (const auto& [key, value] : root.items()) {
+        if (key.size() > max_bytes) {
+            reader.complain("key '" + key + "' has " + std::to_string(key.size()) + " bytes, at most 31 fit the menu");
+        }
+        texts[key] = reader.text(key, 0, max_bytes);
+    }
+    return texts;
+}
+
+} // namespace
+
+Translations::Translations(const std::filesystem::path& folder, const std::map<std::string, std::string>& languages)
+{
+    for (const auto& [key, language] : languages) {
+        texts_[language] = load_language(folder / (language + ".json"));
+    }
+}
+
+const std::string* Translations::find(const std::string& language, const std::string& key) const
+{
+    const auto texts = texts_.find(language);
+    if (texts == texts_.end()) {
+        return nullptr;
+    }
+    const auto text = texts->second.find(key);
+    return text == texts->second.end() ? nullptr : &text->second;
+}
+
+} // namespace sim

@@ -1,0 +1,67 @@
+// Pixels in memory, as all parts of the picture pass them on.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace sim {
+
+/// A color as 0xAARRGGBB.
+using Color = std::uint32_t;
+
+struct Size {
+    int width = 0;
+    int height = 0;
+};
+
+/// Rows from top to bottom without gaps between them.
+struct Image {
+    Image() = default;
+    explicit Image(Size wanted)
+        : size(wanted), pixels(static_cast<std::size_t>(wanted.width) * static_cast<std::size_t>(wanted.height))
+    {
+    }
+
+    Color* row(int y) { return pixels.data() + offset(y); }
+    const Color* row(int y) const { return pixels.data() + offset(y); }
+
+    Size size;
+    std::vector<Color> pixels;
+
+private:
+    std::size_t offset(int y) const { return static_cast<std::size_t>(y) * static_cast<std::size_t>(size.width); }
+};
+
+/// The component of a color that starts at this bit: 24 alpha, 16 red, 8 green, 0 blue.
+constexpr std::uint32_t component(Color color, int shift) { return (color >> shift) & 0xFFU; }
+
+constexpr Color make_color(std::uint32_t alpha, std::uint32_t red, std::uint32_t green, std::uint32_t blue)
+{
+    return alpha << 24 | red << 16 | green << 8 | blue;
+}
+
+/// value * factor / 255, rounded; both 0 to 255.
+constexpr std::uint32_t scale_byte(std::uint32_t value, std::uint32_t factor)
+{
+    const std::uint32_t product = value * factor + 128;
+    return (product + (product >> 8)) >> 8;
+}
+
+/// Lays a color whose components are already multiplied by its alpha over an opaque one.
+constexpr Color lay_over(Color below, Color premultiplied)
+{
+    const std::uint32_t rest = 255 - component(premultiplied, 24);
+    return make_color(255, component(premultiplied, 16) + scale_byte(component(below, 16), rest),
+                      component(premultiplied, 8) + scale_byte(component(below, 8), rest),
+                      component(premultiplied, 0) + scale_byte(component(below, 0), rest));
+}
+
+constexpr Color premultiply(Color color)
+{
+    const std::uint32_t alpha = component(color, 24);
+    return make_color(alpha, scale_byte(component(color, 16), alpha), scale_byte(component(color, 8), alpha),
+                      scale_byte(component(color, 0), alpha));
+}
+
+} // namespace sim

@@ -1,0 +1,27 @@
+// The camera's picture: the scene as the image settings show it.
+#pragma once
+
+#include "simulator/core/settings.h"
+#include "simulator/video/image.h"
+
+namespace sim {
+
+/// How the picture is to look. The default values leave the scene as it is.
+struct Look {
+    double brightness = 0; ///< -1 to 1
+    double contrast = 0;
+    double saturation = 0;
+    bool mirror = false;
+    bool flip = false;
+    double zoom = 1;
+    bool tally = false;
+    Color tally_color = 0xFF0000;
+};
+
+/// What the present settings say. A setting that the definitions don't have leaves its value as it is.
+Look look_of(const Settings& settings);
+
+/// The picture after this many seconds.
+Image draw_picture(Size size, const Look& look, double seconds);
+
+} // namespace sim

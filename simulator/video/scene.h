@@ -1,0 +1,15 @@
+// What the simulated camera looks at: a street in the hills.
+#pragma once
+
+#include "simulator/video/image.h"
+
+namespace sim {
+
+/// Draws the scene as it is after this many seconds. The scene is 1920 wide and 1080 high; zoom 1 shows all of it,
+/// larger values its middle, drawn at the image's full detail.
+void draw_scene(Image& image, double seconds, double zoom);
+
+/// Writes hours, minutes, seconds and hundredths into the upper right corner.
+void draw_time_code(Image& image, double seconds);
+
+} // namespace sim

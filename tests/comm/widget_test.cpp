@@ -1,0 +1,234 @@
+// Composite widgets: recorded calls, pixels, failures.
+#include "tests/fake/menu_test.h"
+
+using namespace fake;
+using testing::ElementsAre;
+using testing::EndsWith;
+using testing::IsEmpty;
+
+namespace {
+
+constexpr SDL_Rect MENU = {0, 0, 1536, 864};
+
+enum Widget { BAR, BAR_KETH, ARROWS };
+
+} // namespace
+
+class WidgetTest : public MenuTest {
+  protected:
+    void SetUp() override
+    {
+        MenuTest::SetUp();
+        start({0, 2, 0, {0.0f, 0.0f, 0.8f, 0.8f}, false});
+        ASSERT_EQ(TTF_SetFontSize(gstMenuMgr.pstFont, 28), 0);
+        calls().lines.clear();
+    }
+
+    int build(Widget widget, OSD_BOOL selected, SDL_Rect rect, int index = 0, int count = 1)
+    {
+        char text[] = "Cinema";
+        TTF_Font* font = gstMenuMgr.pstFont;
+        return widget == ARROWS ? OSD_COMM_GetTxtSurfaceAroundArrows(font, text, 28, selected, rect, &surface)
+               : widget == BAR
+                   ? OSD_COMM_GetBarTxtSurface(font, text, index, count, 28, selected, rect, &surface)
+                   : OSD_COMM_GetBarTxtSurfaceWithKETH(font, text, index, count, 28, selected, rect, &surface);
+    }
+
+    void discard()
+    {
+        SDL_FreeSurface(surface);
+        surface = nullptr;
+        calls().lines.clear();
+    }
+
+    SDL_Surface* surface = nullptr;
+};
+
+TEST_F(WidgetTest, BarPlacesSliderAndText)
+{
+    ASSERT_EQ(build(BAR, 1, {40, 50, 760, 40}, 50, 101), 0);
+    EXPECT_THAT(linesOf({"blit"}),
+                ElementsAre("blit bar 532x20 at 0,10 on 760x40", "blit block 26x40 at 253,0 on 760x40",
+                            "blit plain 28 white 'Cinema' at 570,0 on 760x40"));
+    EXPECT_EQ(surface->format->format, static_cast<uint32_t>(SDL_PIXELFORMAT_ARGB4444));
+    EXPECT_EQ(pixelAt(surface, 0, 0), 0u) << "transparent beside the bar";
+    EXPECT_EQ(pixelAt(surface, 531, 29), 0xFF0000FFu);
+    EXPECT_EQ(pixelAt(surface, 278, 39), 0xFFFF0000u);
+    EXPECT_EQ(calls().lines.back(), "free bar 532x20");
+    EXPECT_THAT(std::vector<std::string>(calls().lines.end() - 3, calls().lines.end()),
+                ElementsAre("free plain 28 white 'Cinema'", "free block 26x40", "free bar 532x20"));
+    discard();
+}
+
+TEST_F(WidgetTest, BlockTravelsTheWholeBar)
+{
+    const struct {
+        int index, count;
+        const char* block;
+    } cases[] = {{0, 101, "blit block 15x30 at 0,0 on 445x30"},   {100, 101, "blit block 15x30 at 296,0 on 445x30"},
+                 {1, 4, "blit block 15x30 at 98,0 on 445x30"},    {5, 1, "blit block 15x30 at 0,0 on 445x30"},
+                 {0, 0, "blit block 15x30 at 0,0 on 445x30"},     {1000000, 1000001, "blit block 15x30 at 296,0 on 445x30"},
+                 {10000000, 20000001, "blit block 15x30 at 148,0 on 445x30"}};
+    for (const auto& c : cases) {
+        for (Widget widget : {BAR, BAR_KETH}) {
+            ASSERT_EQ(build(widget, 0, {0, 0, 445, 30}, c.index, c.count), 0);
+            EXPECT_THAT(linesOf({"blit block"}), ElementsAre(c.block));
+            EXPECT_THAT(linesOf({"blit plain"}), ElementsAre("blit plain 28 grey 'Cinema' at 333,0 on 445x30"));
+            EXPECT_THAT(linesOf({"blit bar"}), ElementsAre("blit bar 311x15 at 0,7 on 445x30"));
+            discard();
+        }
+    }
+}
+
+TEST_F(WidgetTest, OnlyTheLayerOfADimBarIsDimmed)
+{
+    ASSERT_EQ(build(BAR_KETH, 0, {0, 0, 760, 40}, 50, 101), 0);
+    EXPECT_THAT(linesOf({"alpha"}), ElementsAre("alpha 760x40 191"));
+    EXPECT_EQ(pixelAt(surface, 10, 20) >> 24, 0xBBu);
+    EXPECT_EQ(pixelAt(surface, 260, 20) >> 24, 0xBBu);
+    EXPECT_EQ(pixelAt(surface, 570, 0), 0xFFBBBBBBu) << "grey text in four bits a channel";
+    EXPECT_THAT(std::vector<std::string>(calls().lines.end() - 4, calls().lines.end()),
+                ElementsAre("free plain 28 grey 'Cinema'", "free 760x40", "free block 26x40", "free bar 532x20"));
+    discard();
+}
+
+TEST_F(WidgetTest, AlphaIsSetOnlyForTheFlagZero)
+{
+    const struct {
+        Widget widget;
+        OSD_BOOL selected;
+        size_t dimmed;
+        const char* colour;
+    } cases[] = {{BAR, 0, 0, "grey"},    {BAR, 1, 0, "white"},    {BAR_KETH, 1, 0, "white"}, {BAR_KETH, 2, 0, "grey"},
+                 {ARROWS, 0, 2, "grey"}, {ARROWS, 1, 0, "white"}, {ARROWS, 2, 0, "grey"}};
+    for (const auto& c : cases) {
+        ASSERT_EQ(build(c.widget, c.selected, {0, 0, 600, 50}), 0);
+        EXPECT_EQ(linesOf({"alpha"}).size(), c.dimmed) << c.widget << " " << c.selected;
+        EXPECT_EQ(linesOf({std::string("blit plain 28 ") + c.colour}).size(), 1u);
+        discard();
+    }
+}
+
+TEST_F(WidgetTest, TextStandsBetweenArrows)
+{
+    ASSERT_EQ(build(ARROWS, 0, {0, 0, 600, 50}), 0);
+    EXPECT_EQ(calls().lines.front(), "measure plain 28 'Cinema'");
+    EXPECT_THAT(linesOf({"blit", "alpha"}),
+                ElementsAre("alpha arrow_left 54x21 191", "blit arrow_left 54x21 at 0,21 on 600x50",
+                            "blit plain 28 grey 'Cinema' at 66,0 on 600x50", "alpha arrow_right 54x21 191",
+                            "blit arrow_right 54x21 at 198,21 on 600x50"));
+    EXPECT_THAT(std::vector<std::string>(calls().lines.end() - 3, calls().lines.end()),
+                ElementsAre("free arrow_right 54x21", "free plain 28 grey 'Cinema'", "free arrow_left 54x21"));
+    EXPECT_EQ(pixelAt(surface, 66, 0), 0xFFBBBBBBu);
+    discard();
+}
+
+TEST_F(WidgetTest, FailingBuilderLeavesNothing)
+{
+    const std::string failed = "F L failed\n";
+    const std::string arrow = "[F:L] Draw nav_arrow fail\n";
+    const struct {
+        Widget widget;
+        const char* call;
+        int n;
+        std::string last; // line, after those of the picture or text itself
+    } cases[] = {{BAR, "SDL_CreateRGBSurfaceWithFormat", 1, failed},
+                 {BAR, "access", 1, failed},
+                 {BAR, "access", 2, failed},
+                 {BAR, "TTF_RenderUTF8_Blended", 1, failed},
+                 {BAR_KETH, "SDL_CreateRGBSurfaceWithFormat", 1, failed},
+                 {BAR_KETH, "SDL_CreateRGBSurfaceWithFormat", 2, failed},
+                 {BAR_KETH, "IMG_Load", 1, failed},
+                 {BAR_KETH, "SDL_ConvertSurfaceFormat", 2, failed},
+                 {BAR_KETH, "TTF_SetFontSize", 1, failed},
+                 {ARROWS, "SDL_CreateRGBSurfaceWithFormat", 1, failed},
+                 {ARROWS, "access", 1, arrow},
+                 {ARROWS, "TTF_RenderUTF8_Blended", 1, failed},
+                 {ARROWS, "rotozoomSurfaceXY", 2, arrow}};
+    const size_t alive = calls().surfaces.size();
+    for (const auto& c : cases) {
+        surface = gstMenuMgr.pstSurface;
+        failCall(c.call, c.n);
+        const std::string output = printed([&] { EXPECT_EQ(build(c.widget, 1, {0, 0, 600, 50}), -1); });
+        EXPECT_THAT(output, EndsWith(c.last)) << c.widget << " " << c.call;
+        EXPECT_EQ(surface, gstMenuMgr.pstSurface);
+        EXPECT_EQ(calls().surfaces.size(), alive) << c.widget << " " << c.call;
+    }
+}
+
+TEST_F(WidgetTest, ArrowsBesideItemAndInTheCorner)
+{
+    SDL_Surface* canvas = gstMenuMgr.pstSurface;
+    char turn[] = "arrow_all";
+    EXPECT_EQ(OSD_COMM_DrawArrows(canvas, MENU, {100, 200, 300, 40}), 0);
+    EXPECT_EQ(OSD_COMM_DrawArrows(canvas, MENU, {30, 200, 300, 20}), 0);
+    EXPECT_EQ(OSD_COMM_DrawArrows(canvas, {64, 0, 1536, 864}, {100, 200, 300, 40}), 0);
+    EXPECT_EQ(OSD_COMM_DrawTurnArrows(canvas, {192, 108, 1536, 864}, turn), 0);
+    EXPECT_EQ(OSD_COMM_DrawSubPageEnter(canvas, MENU, {100, 200, 300, 40}, 1), 0);
+    EXPECT_THAT(linesOf({"alpha"}), IsEmpty());
+    EXPECT_EQ(OSD_COMM_DrawSubPageEnter(canvas, MENU, {100, 200, 300, 40}, 0), 0);
+    EXPECT_THAT(linesOf({"alpha"}), ElementsAre("alpha nav_arrow 46x25 191"));
+    EXPECT_THAT(blits(),
+                ElementsAre("nav_arrow 46x25 at 38,207", "nav_arrow 46x25 at 0,198", "nav_arrow 46x25 at 64,207",
+                            "arrow_all 107x60 at 1421,799", "nav_arrow 46x25 at 419,214", "nav_arrow 46x25 at 419,214"));
+}
+
+TEST_F(WidgetTest, ConfirmPictureMovesThePen)
+{
+    char confirm[] = "confirm";
+    SDL_Rect pen = {100, 200, 3, 4};
+    EXPECT_EQ(OSD_COMM_DrawConfirmImg(gstMenuMgr.pstSurface, &pen, MENU, 1, confirm), 0);
+    EXPECT_EQ(pen.x, 161);
+    EXPECT_EQ(OSD_COMM_DrawConfirmImg(gstMenuMgr.pstSurface, &pen, MENU, 0, confirm), 0);
+    EXPECT_EQ(pen.x, 222);
+    EXPECT_THAT(blits(), ElementsAre("confirm 61x34 at 100,208", "confirm 61x34 at 161,208"));
+    EXPECT_THAT(linesOf({"alpha"}), ElementsAre("alpha confirm 61x34 191"));
+    EXPECT_EQ(pen.y, 200);
+    EXPECT_EQ(pen.w, 3);
+    EXPECT_EQ(pen.h, 4);
+
+    pen.x = 1500; // clipped at the right edge: the pen moves by what was drawn
+    EXPECT_EQ(OSD_COMM_DrawConfirmImg(gstMenuMgr.pstSurface, &pen, MENU, 1, confirm), 0);
+    EXPECT_EQ(pen.x, 1536);
+}
+
+TEST_F(WidgetTest, MissingPictureIsToldTwice)
+{
+    char stem[] = "restart";
+    SDL_Rect pen = {100, 200, 3, 4};
+    SDL_Surface* canvas = gstMenuMgr.pstSurface;
+    calls().missingFiles = {"nav_arrow.bmp", "restart.bmp"};
+    const std::string nav = "F L failed, acFilePath = " OSD_RESOURCE_DIR "/pic/nav_arrow.bmp\n[F:L] Draw nav_arrow fail\n";
+    const std::string other = "F L failed, acFilePath = " OSD_RESOURCE_DIR "/pic/restart.bmp\n";
+    EXPECT_EQ(printed([&] { EXPECT_EQ(OSD_COMM_DrawArrows(canvas, MENU, MENU), -1); }), nav);
+    EXPECT_EQ(printed([&] { EXPECT_EQ(OSD_COMM_DrawSubPageEnter(canvas, MENU, MENU, 1), -1); }), nav);
+    EXPECT_EQ(printed([&] { EXPECT_EQ(OSD_COMM_DrawTurnArrows(canvas, MENU, stem), -1); }),
+              other + "[F:L] Draw nav_arrow fail\n");
+    EXPECT_EQ(printed([&] { EXPECT_EQ(OSD_COMM_DrawConfirmImg(canvas, &pen, MENU, 1, stem), -1); }),
+              other + "[F:L] Draw confirm fail\n");
+    EXPECT_EQ(pen.x, 100);
+}
+
+TEST_F(WidgetTest, FrameLineAndBackground)
+{
+    SDL_Surface* canvas = gstMenuMgr.pstSurface;
+    ASSERT_EQ(OSD_COMM_DrawMenuBg(canvas, MENU), 0);
+    ASSERT_EQ(OSD_COMM_DrawRect(canvas, {20, 30, 100, 50}, 5, 0x40FF8020), 0);
+    ASSERT_EQ(OSD_COMM_DrawLine(canvas, {200, 30, 100, 3}), 0);
+    EXPECT_THAT(calls().lines,
+                ElementsAre("fill 0,0 1536x864 800a0a0a", "fill 20,30 100x5 40ff8020", "fill 20,75 100x5 40ff8020",
+                            "fill 20,30 5x50 40ff8020", "fill 115,30 5x50 40ff8020", "fill 200,30 100x3 white"));
+    EXPECT_EQ(pixelAt(canvas, 24, 34), 0x40FF8020u);
+    EXPECT_EQ(pixelAt(canvas, 25, 35), 0x800A0A0Au) << "replaced, not blended, and empty inside";
+    EXPECT_EQ(pixelAt(canvas, 114, 74), 0x800A0A0Au);
+    EXPECT_EQ(pixelAt(canvas, 119, 79), 0x40FF8020u);
+
+    calls().lines.clear();
+    failCall("SDL_FillRect", 3);
+    EXPECT_EQ(printed([&] { EXPECT_EQ(OSD_COMM_DrawRect(canvas, {20, 30, 100, 50}, 5, 0xFFFFFFFF), -1); }), "");
+    EXPECT_EQ(linesOf({"fill"}).size(), 3u) << "the sides before the failure stay";
+    failCall("SDL_FillRect");
+    EXPECT_EQ(OSD_COMM_DrawLine(canvas, MENU), -1);
+    failCall("SDL_FillRect");
+    EXPECT_EQ(OSD_COMM_DrawMenuBg(canvas, MENU), -1);
+}

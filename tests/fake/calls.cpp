@@ -1,0 +1,77 @@
+#include "tests/fake/calls.h"
+
+#include <cstdarg>
+#include <cstdio>
+#include <gtest/gtest.h>
+#include <regex>
+
+namespace fake {
+
+Calls& calls()
+{
+    static Calls instance;
+    return instance;
+}
+
+bool fails(const std::string& name)
+{
+    const int count = ++calls().counts[name];
+    const auto it = calls().failing.find(name);
+    return it != calls().failing.end() && count >= it->second.first && count <= it->second.second;
+}
+
+void failCall(const std::string& name, int n, int last)
+{
+    const int count = calls().counts[name];
+    calls().failing[name] = {count + n, count + (last > n ? last : n)};
+}
+
+void record(const std::string& line) { calls().lines.push_back(line); }
+
+std::string format(const char* pattern, ...)
+{
+    char text[4352];
+    va_list arguments;
+    va_start(arguments, pattern);
+    (void)vsnprintf(text, sizeof text, pattern, arguments);
+    va_end(arguments);
+    return text;
+}
+
+std::string baseName(const std::string& path) { return path.substr(path.find_last_of('/') + 1); }
+
+std::vector<std::string> linesOf(const std::vector<std::string>& words)
+{
+    std::vector<std::string> found;
+    for (const std::string& line : calls().lines) {
+        for (const std::string& word : words) {
+            if (line.compare(0, word.size(), word) == 0) {
+                found.push_back(line);
+                break;
+            }
+        }
+    }
+    return found;
+}
+
+std::vector<std::string> blits()
+{
+    std::vector<std::string> found;
+    for (const std::string& line : calls().lines) {
+        if (line.compare(0, 5, "blit ") == 0 && line.find(" on ") == std::string::npos) {
+            found.push_back(line.substr(5));
+        }
+    }
+    return found;
+}
+
+void beginCapture() { testing::internal::CaptureStdout(); }
+
+std::string endCapture()
+{
+    (void)fflush(stdout);
+    static const std::regex place(R"((\w+)([ :])\d+)");
+    return std::regex_replace(testing::internal::GetCapturedStdout(), place, "F$2L");
+}
+
+} // namespace fake

@@ -1,0 +1,86 @@
+#include "tests/fake/menu_test.h"
+
+#include <cstring>
+
+#include "menu/core/page.h"
+#include "platform/media_service.h"
+
+namespace fake {
+
+void MenuTest::SetUp()
+{
+    calls() = {};
+    platform() = {};
+    calls().recording = true;
+}
+
+int MenuTest::init(const Config& config)
+{
+    tagOSD_MENU_CFG_S record = {config.place, config.format, config.big, config.style};
+    return OSD_MENU_InitSdkRes(&record, business, config.parents ? dataZoneParent : nullptr);
+}
+
+void MenuTest::start(const Config& config)
+{
+    ASSERT_EQ(OSD_MENU_InitOpensourceRes(), 0);
+    ASSERT_EQ(init(config), 0);
+    ASSERT_EQ(Osd_GetVersionCallback(answer, &platform()), 0);
+    calls().lines.clear();
+}
+
+void MenuTest::stop()
+{
+    calls().failing.clear();
+    while (gstPageMgr.s32PageCnt > 0) {
+        (void)osdMenuReleaseSinglePage();
+    }
+    if (gstMenuMgr.pstSurface != nullptr) {
+        SDL_FreeSurface(gstMenuMgr.pstSurface);
+        TTF_CloseFont(gstMenuMgr.pstSelectFont);
+        TTF_CloseFont(gstMenuMgr.pstFont);
+        (void)MPP_FreeMem(&gstMenuMgr.stCanvas.stScaleMem);
+        (void)MPP_FreeMem(&gstMenuMgr.stCanvas.stMem);
+    }
+    gstMenuMgr = {};
+    gstPageMgr = {};
+    gs_OsdHandler = {};
+    enMenuStyle = 0;
+}
+
+void MenuTest::TearDown()
+{
+    stop();
+    calls().recording = false;
+    EXPECT_EQ(liveItems(), 0);
+    EXPECT_EQ(calls().fonts.size(), 0u);
+    EXPECT_EQ(platform().blocks.size(), 0u);
+    EXPECT_EQ(platform().damaged, 0);
+    EXPECT_EQ(platform().documents, 0);
+    for (const auto& [surface, name] : calls().surfaces) {
+        ADD_FAILURE() << "surface left: " << name;
+    }
+    EXPECT_EQ(pthread_mutex_trylock(&g_stMutex), 0) << "the render lock is still held";
+    (void)pthread_mutex_unlock(&g_stMutex);
+}
+
+tagPAGE_NODE_S* MenuTest::open(const std::string& name, const std::string& document, int expected)
+{
+    platform().pages[name] = document;
+    tagPAGE_NODE_S* page = &gstPageMgr.astPage[gstPageMgr.s32PageCnt];
+    std::string copy = name;
+    EXPECT_EQ(OSD_MENU_ParseXml(copy.data(), page), expected) << document;
+    gstPageMgr.s32PageCnt++;
+    return page;
+}
+
+uint32_t pixelAt(SDL_Surface* surface, int x, int y)
+{
+    const auto* row = static_cast<const unsigned char*>(surface->pixels) + y * surface->pitch;
+    Uint32 pixel = 0;
+    memcpy(&pixel, row + x * surface->format->BytesPerPixel, surface->format->BytesPerPixel);
+    SDL_Color c;
+    SDL_GetRGBA(pixel, surface->format, &c.r, &c.g, &c.b, &c.a);
+    return static_cast<uint32_t>(c.a << 24 | c.r << 16 | c.g << 8 | c.b);
+}
+
+} // namespace fake

@@ -1,0 +1,61 @@
+// The camera's services in memory: settings, translations, pages, device facts, media memory, log, host callbacks.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "include/osd_menu.h"
+#include "platform/config_service.h"
+
+namespace fake {
+
+struct Push {
+    bool show;
+    bool locked; // under the render lock
+    const void* canvas;
+    const void* attach; // null for all channels
+    std::vector<unsigned char> pixels;
+};
+
+struct Log {
+    int level;
+    std::string tag;
+    std::string text;
+};
+
+struct Platform {
+    std::map<std::string, tagCFG_VALUE_TXT_S> texts;   // by "key" or "parent/key"
+    std::map<std::string, tagCFG_VALUE_INT_S> numbers; // the same
+    std::map<std::string, std::string> pages;          // page name to document text
+    std::function<void(tinyxml2::XMLDocument&)> build; // builds any document, when set
+    std::map<std::string, std::string> translations;
+    std::set<std::string> untranslated; // keys that the language service refuses
+    bool echo = true;                   // any other key answers "t." and the key; off: refuses it
+    std::string language = "English";
+    std::string deviceType;
+    std::map<int, std::string> answers; // of the get-callback, by event
+    std::map<std::string, std::string> parents; // of data zones
+    bool garbage = false;               // unterminated texts and wild numbers everywhere
+    int (*update)(OSD_BOOL, OSD_ATTACH_INFO_S*) = nullptr; // what MPP_MENU_SetMenuCb got
+    tagOSD_MENU_CANVAS_S canvasAtCreate = {};
+    std::map<void*, std::string> blocks; // media memory in use, by address
+    std::vector<Push> pushes;
+    std::vector<Log> log;
+    int documents = 0; // alive
+    int damaged = 0;   // guard bytes overwritten
+};
+
+Platform& platform();
+
+void setText(const std::string& key, const char* list, const char* value);
+void setNumber(const std::string& key, int min, int max, int step, int cur);
+
+// The host's callbacks.
+int business(tagITEM_NODE_S* item);
+const char* dataZoneParent(const char* zone);
+void answer(void* user, tagOSD_MENU_GET_EVENT_E event, tagOSD_MENU_CONTROL_PARAM_S* block);
+
+} // namespace fake
