@@ -41,4 +41,6 @@ set_target_properties(osdmenu PROPERTIES
   VISIBILITY_INLINES_HIDDEN ON
   LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/osdmenu.map)
 # Templates of the standard library are visible by themselves; the map keeps inside what is no name of the interface.
-target_link_options(osdmenu PRIVATE LINKER:--version-script=${PROJECT_SOURCE_DIR}/cmake/osdmenu.map)
+# Calls inside the library stay inside, whatever names the host has.
+target_link_options(osdmenu PRIVATE LINKER:--version-script=${PROJECT_SOURCE_DIR}/cmake/osdmenu.map
+                                    LINKER:-Bsymbolic-functions)

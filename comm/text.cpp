@@ -2,10 +2,7 @@
 
 void osdTextCopy(char* pcDst, size_t u32Size, const char* pcSrc, size_t u32SrcMax)
 {
-    size_t u32Len = 0;
-    while (u32Len < u32SrcMax && u32Len < u32Size - 1 && pcSrc[u32Len] != '\0') {
-        u32Len++;
-    }
+    size_t u32Len = strnlen(pcSrc, u32SrcMax < u32Size ? u32SrcMax : u32Size - 1);
     const bool bCut = u32Len < u32SrcMax && pcSrc[u32Len] != '\0';
     while (bCut && u32Len > 0 && (static_cast<unsigned char>(pcSrc[u32Len]) & 0xC0) == 0x80) {
         u32Len--; // the cut fell into a UTF-8 sequence

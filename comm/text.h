@@ -6,7 +6,11 @@
 
 #include "osd_types.h"
 
-inline bool osdTextEqual(const char* pcLeft, const char* pcRight) { return strcmp(pcLeft, pcRight) == 0; }
+// Exact equality; mostly the first byte tells.
+inline bool osdTextEqual(const char* pcLeft, const char* pcRight)
+{
+    return *pcLeft == *pcRight && strcmp(pcLeft, pcRight) == 0;
+}
 
 // A text with its end fits a field of the records.
 inline bool osdTextFits(const char* pcText) { return strlen(pcText) < OSD_TEXT_LEN; }

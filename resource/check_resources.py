@@ -73,7 +73,7 @@ class Checker:
         definitions = self.read(read_json, self.settings_file) or {}
         self.facts = definitions.get("facts", {})
         self.zones = definitions.get("zones", {})
-        self.settings = {(s.get("parent", ""), s["key"]): s for s in definitions.get("settings", [])}
+        self.settings = {(s.get("parent", ""), s.get("key")): s for s in definitions.get("settings", [])}
         self.languages = {path: self.read(read_json, path) or {} for path in sorted(folder.glob("lang/*.json"))}
         self.pages = {path: self.read(read_page, path) for path in sorted(folder.glob("pages/*" + PAGE_ENDING))}
 
@@ -132,7 +132,8 @@ class Checker:
 
     def check_value(self, item):
         if "ShowValue" in item.attributes:
-            self.need_setting(item, ("option", "text"))
+            # A live value is shown translated, only an address as it stands.
+            self.need_setting(item, ("text",) if item["ItemIndex"] == "IpAddr" else ("option",))
         if item["Ctx"] not in VALUE_CONTEXTS:
             return
         if item["Attr"] == "STATUS":
@@ -165,22 +166,22 @@ class Checker:
         setting = self.settings.get((parent, key))
         owner = f"with parent '{parent}'" if parent else "without parent"
         if setting is None:
-            self.error(item.place, f"item '{item['ItemIndex']}': {self.settings_file.name} has no setting '{key}' {owner}")
-        elif setting["kind"] not in kinds:
-            self.error(item.place, f"item '{item['ItemIndex']}': setting '{key}' {owner} is of kind {setting['kind']}, "
-                                   f"expected {' or '.join(kinds)}")
+            self.error(item.place, f"item '{item['ItemIndex']}': no setting '{key}' {owner} in "
+                                   f"{self.settings_file.name}")
+        elif setting.get("kind") not in kinds:
+            self.error(item.place, f"item '{item['ItemIndex']}': setting '{key}' {owner} is of kind "
+                                   f"{setting.get('kind')}, expected {' or '.join(kinds)}")
         else:
             for option in setting.get("options", []):
                 self.need_text(f"{self.settings_file}: setting '{key}': option", option)
         return setting
 
     def check_options(self, item, setting):
-        if setting is None or setting["kind"] != "option":
-            return
+        options = setting.get("options", []) if setting else []
         on_page = [option["ModeIndex"] for option in item.children]
-        if sorted(on_page) != sorted(setting["options"]):
+        if options and sorted(on_page) != sorted(options):
             self.error(item.place, f"item '{item['ItemIndex']}' offers {', '.join(on_page)}; "
-                                   f"its setting has {', '.join(setting['options'])}")
+                                   f"its setting has {', '.join(options)}")
 
 
 def main():

@@ -6,7 +6,8 @@ from pathlib import Path
 
 ROOT = Path(sys.argv[1] if len(sys.argv) > 1 else Path(__file__).parent.parent).resolve()
 FOLDERS = ["include", "platform", "comm", "menu", "prompt"]
-FIXED = {"enMenuStyle", "bZoomRatioActive", "gs_OsdHandler", "next", "prev"}  # names that hosts know
+# Names that hosts know, and the one counter that needs no prefix.
+FIXED = {"enMenuStyle", "bZoomRatioActive", "gs_OsdHandler", "next", "prev", "i"}
 
 # Comments, macros, and what stands in quotes; line breaks stay, so that line numbers do.
 NO_CODE = re.compile(r'^ *#define(?:[^\n]*\\\n)*[^\n]*|/\*.*?\*/|//[^\n]*|"(?:\\.|[^"\\\n])*"|\'(?:\\.|[^\'\\\n])+\'', re.S | re.M)
@@ -48,7 +49,7 @@ for path in sorted(p for folder in FOLDERS for p in (ROOT / folder).rglob("*") i
             fault(match, f"{match[1]}: a global is called g_..., a static one gs_...")
     for pattern, prefix in PREFIX:
         for match in pattern.finditer(code):
-            if not named(match[1], rf"(?:gs?_?)?a?(?:{prefix})(?:[A-Z]|$)"):
+            if not named(match[1], rf"(?:gs?_?)?a?(?:{prefix})(?:[A-Z0-9]|$)"):
                 fault(match, f"{match[1]}: expected prefix {prefix}")
     for pattern, reason in FORBIDDEN.items():
         for match in re.finditer(pattern, code, re.M) if path.suffix == ".cpp" or "extern" not in pattern else ():

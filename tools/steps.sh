@@ -1,27 +1,34 @@
+# shellcheck shell=bash disable=SC2154
 # What ./run and ./check share; sourced by both, after they have set `root` (this checkout) and `me` (their name).
 # All output of preparing goes to standard error: standard output belongs to the camera.
 
 say() { printf '%s: %s\n' "$me" "$*" >&2; }
 die() { say "$*"; exit 1; }
 
-# Reads a command's output and shows a line of it now and then, so that a long step is seen to live.
-pulse()
+# logged TITLE FILE COMMAND...: the output goes to the file. On a terminal its last line is seen, elsewhere one now and
+# then, so that a long step is seen to live. The title comes first, when there is something to do at all.
+logged()
 {
-    local line next=$((SECONDS + 20))
+    local title=$1 log=$2
+    shift 2
+    "$@" 2>&1 </dev/null | tee "$log" | show_progress "$title"
+}
+
+show_progress()
+{
+    local title=$1 line next=$((SECONDS + 20))
     while IFS= read -r line; do
-        if ((SECONDS >= next)); then
+        [[ $line =~ ^ninja:|"Re-checking globbed" ]] && continue
+        [ -z "$title" ] || say "$title"
+        title=""
+        if [ -t 2 ]; then
+            printf '\r\e[K%s' "${line:0:78}" >&2
+        elif ((SECONDS >= next)); then
             printf '    %s\n' "${line:0:110}" >&2
             next=$((SECONDS + 20))
         fi
     done
-}
-
-# logged FILE COMMAND...: the output goes to the file; only the pulse is seen.
-logged()
-{
-    local log=$1
-    shift
-    "$@" 2>&1 </dev/null | tee "$log" | pulse
+    [ ! -t 2 ] || printf '\r\e[K' >&2
 }
 
 as_root()
@@ -61,11 +68,11 @@ install_packages()
     done
     [ ${#missing[@]} = 0 ] && return
     become_root || die "cannot install ${missing[*]}: run as root or as a user with sudo"
-    say "installing ${#missing[@]} packages: ${missing[*]}"
+    say "installing ${#missing[@]} packages and what they need: ${missing[*]}"
     log=$(mktemp)
     for step in update "install -y --no-install-recommends ${missing[*]}"; do
         # shellcheck disable=SC2086
-        logged "$log" as_root env DEBIAN_FRONTEND=noninteractive apt-get -q -o DPkg::Lock::Timeout=120 $step || {
+        logged "" "$log" as_root env DEBIAN_FRONTEND=noninteractive apt-get -q -o DPkg::Lock::Timeout=120 $step || {
             tail -n 8 "$log" >&2
             die "apt-get ${step%% *} failed, its last lines stand above ($log)"
         }
@@ -80,8 +87,9 @@ own_build_folder()
     mkdir -p "$dir" 2>/dev/null || die "cannot make $dir: the checkout must be writable"
     [ -z "$(find "$dir" ! -user "$(id -u)" -print -quit)" ] && return
     [ "$(id -u)" = 0 ] && return
-    become_root && sudo chown -R "$(id -u):$(id -g)" "$dir" ||
+    if ! become_root || ! sudo chown -R "$(id -u):$(id -g)" "$dir"; then
         die "$dir holds files of another user: remove it, or run as root"
+    fi
 }
 
 # configure PRESET: only where needed; the build itself notices changed CMake files, but not changed presets or a
@@ -106,17 +114,10 @@ configure()
 # build PRESET TARGET...: silent when everything is up to date. A failure shows the compiler's message.
 build()
 {
-    local dir="$root/build/$1" log
+    local name="build/$1"
     shift
-    [ "$(ninja -C "$dir" -n "$@" 2>/dev/null | tail -n 1)" = "ninja: no work to do." ] && return
-    say "building ${dir#"$root"/}"
-    if [ -t 2 ]; then
-        ninja -C "$dir" "$@" >&2 || die "the build failed"
-        return
-    fi
-    log="$dir/build.log"
-    logged "$log" ninja -C "$dir" "$@" || {
-        without_progress "$log" >&2
+    logged "building $name" "$root/$name/build.log" ninja -C "$root/$name" "$@" || {
+        without_progress "$root/$name/build.log" >&2
         die "the build failed"
     }
 }

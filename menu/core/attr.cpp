@@ -1,18 +1,74 @@
 #include "menu/core/attr.h"
 
+#include <iterator>
+
 #include "comm/log.h"
 
-tagATTR_E osdAttrText(const tinyxml2::XMLElement* pstElem, const char* pcName, char (&acOut)[OSD_TEXT_LEN])
+static constexpr char gs_aacAttrName[][16] = { // in the order of tagATTR_ID_E, which is that of the names
+    "Attr",      "ConfirmBtn", "ConfirmPage",     "CountPerLine", "Ctx",      "CurPagesNum", "DataZone",
+    "ItemCnt",   "ItemIndex",  "ItemIndexOnLine", "ItemPos",      "Layout",   "Line",        "ModeIndex",
+    "Msg",       "NextPage",   "NumOfChar",       "Pic",          "PicType",  "PrevPage",    "RdOnly",
+    "SelectPic", "ShowValue",  "SubPage",         "Title",        "TitlePos", "ValType",     "Value"};
+static_assert(std::size(gs_aacAttrName) == ATTR_ID_CNT);
+
+struct tagLETTER_INDEX_S {
+    uint8_t au8First[26]; // place of the first name with this letter or a later one
+};
+
+static constexpr tagLETTER_INDEX_S osdLetterIndex()
 {
-    const tinyxml2::XMLAttribute* pstAttr = pstElem->FindAttribute(pcName);
-    if (pstAttr == nullptr) {
+    tagLETTER_INDEX_S stIndex = {};
+    uint8_t u8Id = 0;
+    for (int i = 0; i < 26; i++) {
+        while (u8Id < ATTR_ID_CNT && gs_aacAttrName[u8Id][0] < 'A' + i) {
+            u8Id++;
+        }
+        stIndex.au8First[i] = u8Id;
+    }
+    return stIndex;
+}
+
+// The number of a name, or ATTR_ID_CNT for a name that means nothing here.
+static size_t osdAttrId(const char* pcName)
+{
+    static constexpr tagLETTER_INDEX_S stIndex = osdLetterIndex();
+    const int s32Letter = *pcName - 'A';
+    if (s32Letter < 0 || s32Letter >= 26) {
+        return ATTR_ID_CNT;
+    }
+    for (size_t i = stIndex.au8First[s32Letter]; i < ATTR_ID_CNT && gs_aacAttrName[i][0] == *pcName; i++) {
+        if (strcmp(gs_aacAttrName[i], pcName) == 0) {
+            return i;
+        }
+    }
+    return ATTR_ID_CNT;
+}
+
+tagATTR_SET_S osdAttrCollect(const tinyxml2::XMLElement* pstElem)
+{
+    tagATTR_SET_S stSet = {pstElem, {}};
+    for (const tinyxml2::XMLAttribute* pstAttr = pstElem->FirstAttribute(); pstAttr != nullptr;
+         pstAttr = pstAttr->Next()) {
+        const size_t u32Id = osdAttrId(pstAttr->Name());
+        if (u32Id < ATTR_ID_CNT) {
+            stSet.apstAttr[u32Id] = pstAttr;
+        }
+    }
+    return stSet;
+}
+
+tagATTR_E osdAttrText(const tagATTR_SET_S& stSet, tagATTR_ID_E enId, char (&acOut)[OSD_TEXT_LEN])
+{
+    const char* pcValue = osdAttrValue(stSet, enId);
+    if (pcValue == nullptr) {
         return ATTR_ABSENT;
     }
-    if (!osdTextFits(pstAttr->Value())) {
-        OSD_LOG(OSD_LOG_LEVEL_ERR, "line %d: %s holds %zu bytes, at most %d fit\n", pstElem->GetLineNum(), pcName,
-                strlen(pstAttr->Value()), OSD_TEXT_LEN - 1);
+    const size_t u32Len = strlen(pcValue);
+    if (u32Len >= OSD_TEXT_LEN) {
+        OSD_LOG(OSD_LOG_LEVEL_ERR, "line %d: %s holds %zu bytes, at most %d fit\n", stSet.pstElem->GetLineNum(),
+                gs_aacAttrName[enId], u32Len, OSD_TEXT_LEN - 1);
         return ATTR_TOO_LONG;
     }
-    osdTextSet(acOut, pstAttr->Value());
+    memcpy(acOut, pcValue, u32Len + 1);
     return ATTR_READ;
 }

@@ -5,6 +5,55 @@
 
 #include "menu/core/keyword.h"
 
+// Every attribute that a page file can give, in the order of their names.
+enum tagATTR_ID_E : int32_t {
+    ATTR_ATTR,
+    ATTR_CONFIRM_BTN,
+    ATTR_CONFIRM_PAGE,
+    ATTR_COUNT_PER_LINE,
+    ATTR_CTX,
+    ATTR_CUR_PAGES_NUM,
+    ATTR_DATA_ZONE,
+    ATTR_ITEM_CNT,
+    ATTR_ITEM_INDEX,
+    ATTR_ITEM_INDEX_ON_LINE,
+    ATTR_ITEM_POS,
+    ATTR_LAYOUT,
+    ATTR_LINE,
+    ATTR_MODE_INDEX,
+    ATTR_MSG,
+    ATTR_NEXT_PAGE,
+    ATTR_NUM_OF_CHAR,
+    ATTR_PIC,
+    ATTR_PIC_TYPE,
+    ATTR_PREV_PAGE,
+    ATTR_RD_ONLY,
+    ATTR_SELECT_PIC,
+    ATTR_SHOW_VALUE,
+    ATTR_SUB_PAGE,
+    ATTR_TITLE,
+    ATTR_TITLE_POS,
+    ATTR_VAL_TYPE,
+    ATTR_VALUE,
+    ATTR_ID_CNT,
+};
+
+// The attributes of one element, found in one walk: an item asks for more of them than it has.
+struct tagATTR_SET_S {
+    const tinyxml2::XMLElement* pstElem;
+    const tinyxml2::XMLAttribute* apstAttr[ATTR_ID_CNT]; // null where absent
+};
+
+tagATTR_SET_S osdAttrCollect(const tinyxml2::XMLElement* pstElem);
+
+inline bool osdAttrIsThere(const tagATTR_SET_S& stSet, tagATTR_ID_E enId) { return stSet.apstAttr[enId] != nullptr; }
+
+// A text, or null when it is absent.
+inline const char* osdAttrValue(const tagATTR_SET_S& stSet, tagATTR_ID_E enId)
+{
+    return osdAttrIsThere(stSet, enId) ? stSet.apstAttr[enId]->Value() : nullptr;
+}
+
 enum tagATTR_E : int32_t {
     ATTR_READ,
     ATTR_ABSENT,
@@ -12,31 +61,30 @@ enum tagATTR_E : int32_t {
 };
 
 // A text, refused as a whole when it doesn't fit its field.
-tagATTR_E osdAttrText(const tinyxml2::XMLElement* pstElem, const char* pcName, char (&acOut)[OSD_TEXT_LEN]);
+tagATTR_E osdAttrText(const tagATTR_SET_S& stSet, tagATTR_ID_E enId, char (&acOut)[OSD_TEXT_LEN]);
 
 // A text that may be absent: -1 only when it is too long.
-inline int osdAttrOptText(const tinyxml2::XMLElement* pstElem, const char* pcName, char (&acOut)[OSD_TEXT_LEN])
+inline int osdAttrOptText(const tagATTR_SET_S& stSet, tagATTR_ID_E enId, char (&acOut)[OSD_TEXT_LEN])
 {
-    return osdAttrText(pstElem, pcName, acOut) == ATTR_TOO_LONG ? -1 : 0;
+    return osdAttrText(stSet, enId, acOut) == ATTR_TOO_LONG ? -1 : 0;
 }
 
 // A text that must be there: -1 when it is absent or too long.
-inline int osdAttrReqText(const tinyxml2::XMLElement* pstElem, const char* pcName, char (&acOut)[OSD_TEXT_LEN])
+inline int osdAttrReqText(const tagATTR_SET_S& stSet, tagATTR_ID_E enId, char (&acOut)[OSD_TEXT_LEN])
 {
-    return osdAttrText(pstElem, pcName, acOut) == ATTR_READ ? 0 : -1;
+    return osdAttrText(stSet, enId, acOut) == ATTR_READ ? 0 : -1;
 }
 
 // An integer; -1 when it is absent or none, and *ps32Out is left alone.
-inline int osdAttrInt(const tinyxml2::XMLElement* pstElem, const char* pcName, int32_t* ps32Out)
+inline int osdAttrInt(const tagATTR_SET_S& stSet, tagATTR_ID_E enId, int32_t* ps32Out)
 {
-    const tinyxml2::XMLAttribute* pstAttr = pstElem->FindAttribute(pcName);
-    return pstAttr != nullptr && pstAttr->QueryIntValue(ps32Out) == tinyxml2::XML_SUCCESS ? 0 : -1;
+    return osdAttrIsThere(stSet, enId) && stSet.apstAttr[enId]->QueryIntValue(ps32Out) == tinyxml2::XML_SUCCESS ? 0
+                                                                                                                : -1;
 }
 
 // A word of a table; -1 when it is absent or not in the table, and *penOut is left alone.
 template <typename E, size_t N>
-int osdAttrWord(const tinyxml2::XMLElement* pstElem, const char* pcName, const tagKEYWORD_S<E> (&astWord)[N], E* penOut)
+int osdAttrWord(const tagATTR_SET_S& stSet, tagATTR_ID_E enId, const tagKEYWORD_S<E> (&astWord)[N], E* penOut)
 {
-    const tinyxml2::XMLAttribute* pstAttr = pstElem->FindAttribute(pcName);
-    return pstAttr != nullptr ? osdKeywordFind(astWord, pstAttr->Value(), penOut) : -1;
+    return osdAttrIsThere(stSet, enId) ? osdKeywordFind(astWord, stSet.apstAttr[enId]->Value(), penOut) : -1;
 }

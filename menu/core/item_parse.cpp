@@ -11,38 +11,38 @@
 #include "osd_menu.h"
 #include "platform/config_call.h"
 
-static int osdItemReadLabel(const char* pcLanguage, const tinyxml2::XMLElement* pstElem, tagITEM_NODE_S* pstItem)
+static int osdItemReadLabel(const char* pcLanguage, const tagATTR_SET_S& stSet, tagITEM_NODE_S* pstItem)
 {
     pstItem->s32ItemCnt = 1;
-    (void)osdAttrInt(pstElem, "ItemCnt", &pstItem->s32ItemCnt); // the defaults stay when these are absent
-    (void)osdAttrInt(pstElem, "ItemIndexOnLine", &pstItem->s32ItemIndexOnLine);
-    if (osdAttrReqText(pstElem, "ItemIndex", pstItem->acItemIndex) != 0) {
+    (void)osdAttrInt(stSet, ATTR_ITEM_CNT, &pstItem->s32ItemCnt); // the defaults stay when these are absent
+    (void)osdAttrInt(stSet, ATTR_ITEM_INDEX_ON_LINE, &pstItem->s32ItemIndexOnLine);
+    if (osdAttrReqText(stSet, ATTR_ITEM_INDEX, pstItem->acItemIndex) != 0) {
         return -1;
     }
     return osdCfgTranslate(pcLanguage, pstItem->acItemIndex, pstItem->acItemName) == 0 ? 0 : -1;
 }
 
-static int osdItemReadPictures(const tinyxml2::XMLElement* pstElem, tagITEM_NODE_S* pstItem)
+static int osdItemReadPictures(const tagATTR_SET_S& stSet, tagITEM_NODE_S* pstItem)
 {
-    if (osdAttrOptText(pstElem, "Pic", pstItem->acPic) != 0) {
+    if (osdAttrOptText(stSet, ATTR_PIC, pstItem->acPic) != 0) {
         return -1;
     }
-    return ::enMenuStyle == 1 ? osdAttrOptText(pstElem, "SelectPic", pstItem->acSelectPic) : 0;
+    return ::enMenuStyle == 1 ? osdAttrOptText(stSet, ATTR_SELECT_PIC, pstItem->acSelectPic) : 0;
 }
 
-static int osdItemReadContext(const tinyxml2::XMLElement* pstElem, tagITEM_NODE_S* pstItem)
+static int osdItemReadContext(const tagATTR_SET_S& stSet, tagITEM_NODE_S* pstItem)
 {
-    if (osdAttrWord(pstElem, "Ctx", g_astCtxWord, &pstItem->enCtx) != 0) {
+    if (osdAttrWord(stSet, ATTR_CTX, g_astCtxWord, &pstItem->enCtx) != 0) {
         return -1;
     }
     switch (pstItem->enCtx) {
     case NAME_IP_VAL:
-        (void)osdAttrInt(pstElem, "NumOfChar", &pstItem->s32NumOfChar); // 0 when absent
+        (void)osdAttrInt(stSet, ATTR_NUM_OF_CHAR, &pstItem->s32NumOfChar); // 0 when absent
         return 0;
     case ICON:
     case ICON_TXT:
     case ICON_TXT_KETH:
-        return osdItemReadPictures(pstElem, pstItem);
+        return osdItemReadPictures(stSet, pstItem);
     case NAME:
     case NAME_BAR_VAL:
     case NAME_VAL:
@@ -51,37 +51,37 @@ static int osdItemReadContext(const tinyxml2::XMLElement* pstElem, tagITEM_NODE_
     return 0;
 }
 
-static int osdItemReadAttr(const tinyxml2::XMLElement* pstElem, tagITEM_NODE_S* pstItem)
+static int osdItemReadAttr(const tagATTR_SET_S& stSet, tagITEM_NODE_S* pstItem)
 {
-    if (osdAttrWord(pstElem, "Attr", g_astAttrWord, &pstItem->enAttr) != 0) {
+    if (osdAttrWord(stSet, ATTR_ATTR, g_astAttrWord, &pstItem->enAttr) != 0) {
         return -1;
     }
     if (pstItem->enAttr != CONFIRM_POP_BTN) {
         return 0;
     }
-    (void)osdAttrWord(pstElem, "ItemPos", g_astItemPosWord, &pstItem->enItemPos); // left stays when absent
-    if (osdAttrReqText(pstElem, "ConfirmPage", pstItem->acConfirmPage) != 0) {
+    (void)osdAttrWord(stSet, ATTR_ITEM_POS, g_astItemPosWord, &pstItem->enItemPos); // left stays when absent
+    if (osdAttrReqText(stSet, ATTR_CONFIRM_PAGE, pstItem->acConfirmPage) != 0) {
         return -1;
     }
-    pstItem->bLine = pstElem->FindAttribute("Line") != nullptr ? 1 : 0;
+    pstItem->bLine = osdAttrIsThere(stSet, ATTR_LINE) ? 1 : 0;
     return 0;
 }
 
-static void osdItemReadKinds(const tinyxml2::XMLElement* pstElem, tagITEM_NODE_S* pstItem)
+static void osdItemReadKinds(const tagATTR_SET_S& stSet, tagITEM_NODE_S* pstItem)
 {
     pstItem->enValType = OPTTXT; // these two stay when absent or unknown
-    (void)osdAttrWord(pstElem, "ValType", g_astValTypeWord, &pstItem->enValType);
+    (void)osdAttrWord(stSet, ATTR_VAL_TYPE, g_astValTypeWord, &pstItem->enValType);
     pstItem->enPicType = PIC_TYPE_NONE;
-    (void)osdAttrWord(pstElem, "PicType", g_astPicTypeWord, &pstItem->enPicType);
-    const char* pcDataZone = pstElem->Attribute("DataZone");
+    (void)osdAttrWord(stSet, ATTR_PIC_TYPE, g_astPicTypeWord, &pstItem->enPicType);
+    const char* pcDataZone = osdAttrValue(stSet, ATTR_DATA_ZONE);
     if (pcDataZone != nullptr) {
         osdTextSet(pstItem->acDataZone, pcDataZone); // cut at the field's end
     }
 }
 
-static void osdItemReadLiveValue(char* pcLanguage, const tinyxml2::XMLElement* pstElem, tagITEM_NODE_S* pstItem)
+static void osdItemReadLiveValue(char* pcLanguage, const tagATTR_SET_S& stSet, tagITEM_NODE_S* pstItem)
 {
-    if (pstElem->FindAttribute("ShowValue") == nullptr) {
+    if (!osdAttrIsThere(stSet, ATTR_SHOW_VALUE)) {
         return;
     }
     (void)osdMenuGetTranslatedValue(pstItem, pcLanguage); // always 0
@@ -89,9 +89,9 @@ static void osdItemReadLiveValue(char* pcLanguage, const tinyxml2::XMLElement* p
     pstItem->bShowValue = 1;
 }
 
-static int osdItemReadMsg(const char* pcLanguage, const tinyxml2::XMLElement* pstElem, tagITEM_NODE_S* pstItem)
+static int osdItemReadMsg(const char* pcLanguage, const tagATTR_SET_S& stSet, tagITEM_NODE_S* pstItem)
 {
-    if (osdAttrReqText(pstElem, "Msg", pstItem->acMsgKey) != 0) {
+    if (osdAttrReqText(stSet, ATTR_MSG, pstItem->acMsgKey) != 0) {
         return -1;
     }
     (void)osdCfgTranslate(pcLanguage, pstItem->acMsgKey, pstItem->acMsg); // a message without text is no failure
@@ -101,7 +101,8 @@ static int osdItemReadMsg(const char* pcLanguage, const tinyxml2::XMLElement* ps
 static int osdItemReadOption(char* pcLanguage, tinyxml2::XMLElement* pstElem, tagITEM_NODE_S* pstItem,
                              int32_t s32Option)
 {
-    if (osdAttrReqText(pstElem, "ModeIndex", pstItem->acValueKey[s32Option]) != 0 ||
+    const tagATTR_SET_S stSet = osdAttrCollect(pstElem);
+    if (osdAttrReqText(stSet, ATTR_MODE_INDEX, pstItem->acValueKey[s32Option]) != 0 ||
         osdCfgTranslate(pcLanguage, pstItem->acValueKey[s32Option], pstItem->acValue[s32Option]) != 0) {
         return -1;
     }
@@ -136,22 +137,23 @@ static int osdItemReadOptions(char* pcLanguage, tinyxml2::XMLElement* pstElem, t
 }
 
 // What each attribute adds. A value that can't be bound stays empty, and the item counts all the same.
-static int osdItemReadByAttr(char* pcLanguage, tinyxml2::XMLElement* pstElem, tagITEM_NODE_S* pstItem)
+static int osdItemReadByAttr(char* pcLanguage, tinyxml2::XMLElement* pstElem, const tagATTR_SET_S& stSet,
+                             tagITEM_NODE_S* pstItem)
 {
     int s32Ret = 0;
     switch (pstItem->enAttr) {
     case SUBPAGE:
-        return osdAttrReqText(pstElem, "SubPage", pstItem->acSubPage);
+        return osdAttrReqText(stSet, ATTR_SUB_PAGE, pstItem->acSubPage);
     case CONST_TXT:
     case CONFIRM_POP_BTN:
     case MSG_LINE:
     case TITLE_LINE:
         return 0;
     case KEY_WITH_MSG:
-        s32Ret = osdItemReadMsg(pcLanguage, pstElem, pstItem);
+        s32Ret = osdItemReadMsg(pcLanguage, stSet, pstItem);
         break;
     case MSG_WITH_SUBITEM:
-        s32Ret = osdItemReadMsg(pcLanguage, pstElem, pstItem);
+        s32Ret = osdItemReadMsg(pcLanguage, stSet, pstItem);
         s32Ret = s32Ret == 0 ? osdItemReadOptions(pcLanguage, pstElem, pstItem) : s32Ret;
         break;
     case SUBITEM:
@@ -165,7 +167,7 @@ static int osdItemReadByAttr(char* pcLanguage, tinyxml2::XMLElement* pstElem, ta
         break;
     }
     if (s32Ret == 0) {
-        (void)osdXmlFillItemParam(pcLanguage, pstElem, pstItem);
+        (void)osdValueBind(pcLanguage, stSet, pstItem);
     }
     return s32Ret;
 }
@@ -177,13 +179,14 @@ static int osdItemRead(char* pcLanguage, tinyxml2::XMLElement* pstElem, tagITEM_
                 OSD_ITEM_DEPTH_MAX);
         return -1;
     }
-    if (osdItemReadLabel(pcLanguage, pstElem, pstItem) != 0 || osdItemReadContext(pstElem, pstItem) != 0 ||
-        osdItemReadAttr(pstElem, pstItem) != 0) {
+    const tagATTR_SET_S stSet = osdAttrCollect(pstElem);
+    if (osdItemReadLabel(pcLanguage, stSet, pstItem) != 0 || osdItemReadContext(stSet, pstItem) != 0 ||
+        osdItemReadAttr(stSet, pstItem) != 0) {
         return -1;
     }
-    osdItemReadKinds(pstElem, pstItem);
-    osdItemReadLiveValue(pcLanguage, pstElem, pstItem);
-    return osdItemReadByAttr(pcLanguage, pstElem, pstItem);
+    osdItemReadKinds(stSet, pstItem);
+    osdItemReadLiveValue(pcLanguage, stSet, pstItem);
+    return osdItemReadByAttr(pcLanguage, pstElem, stSet, pstItem);
 }
 
 int osdXmlParseItemAttribute(char* pcLanguage, tinyxml2::XMLElement* pstElem, tagITEM_LEVEL_E enLevel,

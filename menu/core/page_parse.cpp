@@ -12,57 +12,58 @@
 #include "osd_menu.h"
 #include "platform/config_call.h"
 
-static int osdPageReadLayout(const tinyxml2::XMLElement* pstRoot, tagPAGE_NODE_S* pstPage)
+static int osdPageReadLayout(const tagATTR_SET_S& stSet, tagPAGE_NODE_S* pstPage)
 {
-    if (osdAttrWord(pstRoot, "Layout", g_astLayoutWord, &pstPage->enLayout) != 0) {
+    if (osdAttrWord(stSet, ATTR_LAYOUT, g_astLayoutWord, &pstPage->enLayout) != 0) {
         return -1;
     }
-    return pstPage->enLayout == PAGE_LAYOUT_ICON ? osdAttrInt(pstRoot, "CountPerLine", &pstPage->s32CountPerLine) : 0;
+    return pstPage->enLayout == PAGE_LAYOUT_ICON ? osdAttrInt(stSet, ATTR_COUNT_PER_LINE, &pstPage->s32CountPerLine)
+                                                 : 0;
 }
 
 // Reads an optional text and notes whether it is there.
-static int osdPageReadTurnText(const tinyxml2::XMLElement* pstRoot, const char* pcName, char (&acOut)[OSD_TEXT_LEN],
+static int osdPageReadTurnText(const tagATTR_SET_S& stSet, tagATTR_ID_E enId, char (&acOut)[OSD_TEXT_LEN],
                                OSD_BOOL* pbThere)
 {
-    const tagATTR_E enAttr = osdAttrText(pstRoot, pcName, acOut);
+    const tagATTR_E enAttr = osdAttrText(stSet, enId, acOut);
     *pbThere = enAttr == ATTR_READ ? 1 : 0;
     return enAttr == ATTR_TOO_LONG ? -1 : 0;
 }
 
-static int osdPageReadTurn(const tinyxml2::XMLElement* pstRoot, tagPAGE_NODE_S* pstPage)
+static int osdPageReadTurn(const tagATTR_SET_S& stSet, tagPAGE_NODE_S* pstPage)
 {
     tagPAGE_TURN_S& stTurn = pstPage->stTurn;
     if (pstPage->enLayout != PAGE_LAYOUT_VERTICAL_KETH) {
         return 0;
     }
-    if (osdPageReadTurnText(pstRoot, "CurPagesNum", stTurn.acCurPagesNum, &stTurn.bCurPagesNum) != 0) {
+    if (osdPageReadTurnText(stSet, ATTR_CUR_PAGES_NUM, stTurn.acCurPagesNum, &stTurn.bCurPagesNum) != 0) {
         return -1;
     }
     if (stTurn.bCurPagesNum == 0) {
         return 0;
     }
-    if (osdPageReadTurnText(pstRoot, "NextPage", stTurn.acNextPage, &stTurn.bNextPage) != 0) {
+    if (osdPageReadTurnText(stSet, ATTR_NEXT_PAGE, stTurn.acNextPage, &stTurn.bNextPage) != 0) {
         return -1;
     }
-    return osdPageReadTurnText(pstRoot, "PrevPage", stTurn.acPrevPage, &stTurn.bPrevPage);
+    return osdPageReadTurnText(stSet, ATTR_PREV_PAGE, stTurn.acPrevPage, &stTurn.bPrevPage);
 }
 
-static int osdPageReadMsg(const char* pcLanguage, const tinyxml2::XMLElement* pstRoot, tagPAGE_NODE_S* pstPage)
+static int osdPageReadMsg(const char* pcLanguage, const tagATTR_SET_S& stSet, tagPAGE_NODE_S* pstPage)
 {
     if (pstPage->enLayout != PAGE_LAYOUT_HORIZONTAL_KETH) {
         return 0;
     }
     char acMsgKey[OSD_TEXT_LEN] = {};
-    const tagATTR_E enAttr = osdAttrText(pstRoot, "Msg", acMsgKey);
+    const tagATTR_E enAttr = osdAttrText(stSet, ATTR_MSG, acMsgKey);
     if (enAttr != ATTR_READ) {
         return enAttr == ATTR_ABSENT ? 0 : -1;
     }
     return osdCfgTranslate(pcLanguage, acMsgKey, pstPage->acPageMsg) == 0 ? 0 : -1;
 }
 
-static int osdPageReadTitle(const char* pcLanguage, const tinyxml2::XMLElement* pstRoot, tagPAGE_NODE_S* pstPage)
+static int osdPageReadTitle(const char* pcLanguage, const tagATTR_SET_S& stSet, tagPAGE_NODE_S* pstPage)
 {
-    const tagATTR_E enAttr = osdAttrText(pstRoot, "Title", pstPage->acTitleKey);
+    const tagATTR_E enAttr = osdAttrText(stSet, ATTR_TITLE, pstPage->acTitleKey);
     if (enAttr != ATTR_READ) {
         return enAttr == ATTR_ABSENT ? 0 : -1;
     }
@@ -70,14 +71,15 @@ static int osdPageReadTitle(const char* pcLanguage, const tinyxml2::XMLElement* 
         return -1;
     }
     pstPage->bTitle = 1;
-    return osdAttrWord(pstRoot, "TitlePos", g_astTitlePosWord, &pstPage->enTitlePos);
+    return osdAttrWord(stSet, ATTR_TITLE_POS, g_astTitlePosWord, &pstPage->enTitlePos);
 }
 
-static void osdPageReadFlags(const tinyxml2::XMLElement* pstRoot, tagPAGE_NODE_S* pstPage)
+static void osdPageReadFlags(const tagATTR_SET_S& stSet, tagPAGE_NODE_S* pstPage)
 {
-    pstPage->bConfirmBtn = pstRoot->Attribute("ConfirmBtn", "Yes") != nullptr ? 1 : 0;
+    const char* pcConfirmBtn = osdAttrValue(stSet, ATTR_CONFIRM_BTN);
+    pstPage->bConfirmBtn = pcConfirmBtn != nullptr && osdTextEqual(pcConfirmBtn, "Yes") ? 1 : 0;
     int32_t s32RdOnly = 0;
-    (void)osdAttrInt(pstRoot, "RdOnly", &s32RdOnly); // 0 when absent
+    (void)osdAttrInt(stSet, ATTR_RD_ONLY, &s32RdOnly); // 0 when absent
     pstPage->bRdOnly = s32RdOnly == 1 ? 1 : 0;
 }
 
@@ -88,11 +90,12 @@ int osdXmlParsePageAttribute(char* pcLanguage, tinyxml2::XMLElement* pstRoot, ta
     *pstPage = {};
     osdListInit(&pstPage->stItemList);
     osdTextSet(pstPage->acPageName, acName);
-    if (osdPageReadLayout(pstRoot, pstPage) != 0 || osdPageReadTurn(pstRoot, pstPage) != 0 ||
-        osdPageReadMsg(pcLanguage, pstRoot, pstPage) != 0 || osdPageReadTitle(pcLanguage, pstRoot, pstPage) != 0) {
+    const tagATTR_SET_S stSet = osdAttrCollect(pstRoot);
+    if (osdPageReadLayout(stSet, pstPage) != 0 || osdPageReadTurn(stSet, pstPage) != 0 ||
+        osdPageReadMsg(pcLanguage, stSet, pstPage) != 0 || osdPageReadTitle(pcLanguage, stSet, pstPage) != 0) {
         return -1;
     }
-    osdPageReadFlags(pstRoot, pstPage);
+    osdPageReadFlags(stSet, pstPage);
     return 0;
 }
 

@@ -1,7 +1,5 @@
 #include "menu/core/value_bind.h"
 
-#include <tinyxml2.h>
-
 #include <algorithm>
 
 #include "comm/log.h"
@@ -109,13 +107,13 @@ static void osdBindValue(const char* pcLanguage, tagITEM_NODE_S* pstItem)
     osdBindSelect(pstItem, stTxt);
 }
 
-static int osdBindButton(const char* pcLanguage, const tinyxml2::XMLElement* pstElem, tagITEM_NODE_S* pstItem)
+static int osdBindButton(const char* pcLanguage, const tagATTR_SET_S& stSet, tagITEM_NODE_S* pstItem)
 {
-    if (osdAttrReqText(pstElem, "Value", pstItem->acValueKey[0]) != 0) {
+    if (osdAttrReqText(stSet, ATTR_VALUE, pstItem->acValueKey[0]) != 0) {
         return -1;
     }
     (void)osdCfgTranslate(pcLanguage, pstItem->acValueKey[0], pstItem->acValue[0]);
-    if (pstItem->enAttr == CONFIRM_POP && osdAttrReqText(pstElem, "ConfirmPage", pstItem->acConfirmPage) != 0) {
+    if (pstItem->enAttr == CONFIRM_POP && osdAttrReqText(stSet, ATTR_CONFIRM_PAGE, pstItem->acConfirmPage) != 0) {
         OSD_TRACE_FAILED();
         return -1;
     }
@@ -127,13 +125,18 @@ static int osdBindButton(const char* pcLanguage, const tinyxml2::XMLElement* pst
 
 int osdXmlFillItemParam(char* pcLanguage, tinyxml2::XMLElement* pstElem, tagITEM_NODE_S* pstItemNode)
 {
+    return osdValueBind(pcLanguage, osdAttrCollect(pstElem), pstItemNode);
+}
+
+int osdValueBind(char* pcLanguage, const tagATTR_SET_S& stSet, tagITEM_NODE_S* pstItemNode)
+{
     if (!osdContextHasValue(pstItemNode->enCtx)) {
         return 0;
     }
     switch (pstItemNode->enAttr) {
     case CONFIRM:
     case CONFIRM_POP:
-        return osdBindButton(pcLanguage, pstElem, pstItemNode);
+        return osdBindButton(pcLanguage, stSet, pstItemNode);
     case SUBITEM:
     case MSG_WITH_SUBITEM: // the options came from the page file
         osdBindSelect(pstItemNode, osdBindTxt(pstItemNode->acItemIndex, pstItemNode->acDataZone));

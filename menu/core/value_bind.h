@@ -1,18 +1,18 @@
 // Values of items: first binding while a page is parsed, and reading again.
 #pragma once
 
+#include "menu/core/attr.h"
 #include "osd_menu.h"
 #include "platform/config_service.h"
-
-namespace tinyxml2 {
-class XMLElement;
-}
 
 // Whether an item of this context carries a bound value.
 inline bool osdContextHasValue(tagITEM_CTX_E enCtx)
 {
     return enCtx == NAME_BAR_VAL || enCtx == NAME_VAL || enCtx == NAME_IP_VAL;
 }
+
+// The binding of osdXmlFillItemParam, for an element whose attributes have been collected.
+int osdValueBind(char* pcLanguage, const tagATTR_SET_S& stSet, tagITEM_NODE_S* pstItemNode);
 
 extern "C" {
 // Binds a new item. Returns -1 when Value or ConfirmPage of a button is missing, else 0.

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <set>
 
-#include "include/osd_types.h"
+#include "osd_types.h"
 #include "simulator/core/errors.h"
 #include "simulator/core/json_file.h"
 
@@ -23,10 +23,11 @@ struct KindName {
 constexpr KindName kind_names[] = {{"option", SettingKind::Option},
                                    {"integer", SettingKind::Integer},
                                    {"text", SettingKind::Text},
-                                   {"color", SettingKind::Color}};
+                                   {"color", SettingKind::HexColor}};
 
-constexpr const char* fact_names[] = {"FwVersion",  "IspVersion", "AfVersion",  "AiVersion",     "VideoFormat", "DeviceName",
-                                      "SN",         "Mac",        "NdiVersion", "FullNdiVersion", "NdiStatus",  "DeviceType"};
+constexpr const char* fact_names[] = {"FwVersion",   "IspVersion",     "AfVersion", "AiVersion",
+                                      "VideoFormat", "DeviceName",     "SN",        "Mac",
+                                      "NdiVersion",  "FullNdiVersion", "NdiStatus", "DeviceType"};
 
 std::map<std::string, std::string> read_text_map(const json& object, const std::string& place)
 {
@@ -101,7 +102,7 @@ void read_kind_fields(FieldReader& reader, Setting& setting)
     case SettingKind::Integer:
         read_range(reader, setting);
         break;
-    case SettingKind::Color:
+    case SettingKind::HexColor:
         setting.max = 0xFFFFFF;
         setting.step = reader.has("step") ? reader.integer("step") : 1;
         break;

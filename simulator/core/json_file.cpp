@@ -109,8 +109,9 @@ std::string FieldReader::text(const std::string& name, std::size_t min_bytes, st
 std::int32_t FieldReader::integer(const std::string& name)
 {
     const json& value = field(name);
-    const bool small = value.is_number_integer() && (value.is_number_unsigned() ? value.get<std::uint64_t>() < (1U << 31)
-                                                                                : value.get<std::int64_t>() >= -(1LL << 31));
+    const bool small =
+        value.is_number_integer() && (value.is_number_unsigned() ? value.get<std::uint64_t>() < (1U << 31)
+                                                                 : value.get<std::int64_t>() >= -(1LL << 31));
     if (!small) {
         complain("'" + name + "' must be a whole number of 32 bits");
     }

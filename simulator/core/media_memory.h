@@ -9,7 +9,7 @@
 #include <mutex>
 #include <string>
 
-#include "include/osd_canvas.h"
+#include "osd_canvas.h"
 
 namespace sim {
 

@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <tuple>
 
-#include "include/osd_types.h"
+#include "osd_types.h"
 
 namespace sim {
 namespace {
@@ -38,10 +38,7 @@ std::string problem_with_number(const Setting& setting, const std::string& text)
 
 } // namespace
 
-bool operator<(const SettingId& a, const SettingId& b)
-{
-    return std::tie(a.parent, a.key) < std::tie(b.parent, b.key);
-}
+bool operator<(const SettingId& a, const SettingId& b) { return std::tie(a.parent, a.key) < std::tie(b.parent, b.key); }
 
 std::string to_string(const SettingId& id)
 {
@@ -60,7 +57,7 @@ std::string problem_with(const Setting& setting, const std::string& text)
         return problem_with_number(setting, text);
     case SettingKind::Text:
         return text.size() < OSD_CFG_VALUE_LEN ? "" : "'" + text + "' has more than 15 bytes";
-    case SettingKind::Color:
+    case SettingKind::HexColor:
         return text.size() == 6 && parse_whole(text, 16, number) && number >= 0
                    ? ""
                    : "'" + text + "' is no color of six hexadecimal digits";
@@ -71,13 +68,14 @@ std::string problem_with(const Setting& setting, const std::string& text)
 std::int32_t number_of(const Setting& setting, const std::string& text)
 {
     std::int32_t number = 0;
-    (void)parse_whole(text, setting.kind == SettingKind::Color ? 16 : 10, number); // the text was checked when it came
+    (void)parse_whole(text, setting.kind == SettingKind::HexColor ? 16 : 10,
+                      number); // the text was checked when it came
     return number;
 }
 
 std::string text_of(const Setting& setting, std::int32_t number)
 {
-    if (setting.kind != SettingKind::Color) {
+    if (setting.kind != SettingKind::HexColor) {
         return std::to_string(number);
     }
     char digits[16];

@@ -7,7 +7,7 @@
 
 namespace sim {
 
-enum class SettingKind { Option, Integer, Text, Color };
+enum class SettingKind { Option, Integer, Text, HexColor };
 
 /// A setting is known by its parent key, empty for none, and its own key.
 struct SettingId {
@@ -24,7 +24,7 @@ struct Setting {
     SettingId id;
     SettingKind kind = SettingKind::Text;
     std::vector<std::string> options; ///< Option only
-    std::int32_t min = 0;             ///< the range of Integer and Color
+    std::int32_t min = 0;             ///< the range of Integer and HexColor
     std::int32_t max = 0;
     std::int32_t step = 1;
     std::string unit; ///< shown behind the number by front ends, may be empty
@@ -35,7 +35,7 @@ struct Setting {
 /// decimal number, a text of at most 15 bytes, six hexadecimal digits.
 std::string problem_with(const Setting& setting, const std::string& text);
 
-/// The number in the text of an Integer or Color setting. The text must fit the setting.
+/// The number in the text of an Integer or HexColor setting. The text must fit the setting.
 std::int32_t number_of(const Setting& setting, const std::string& text);
 
 /// The text of a number, as the settings store it.

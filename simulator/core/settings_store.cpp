@@ -26,8 +26,7 @@ void bind_text(sqlite3_stmt* statement, int place, const std::string& text)
     sqlite3_bind_text(statement, place, text.data(), static_cast<int>(text.size()), SQLITE_TRANSIENT);
 }
 
-const char* const what_to_do =
-    "; 'camera-sim --reset' moves it aside to a .bak file and starts with default settings";
+const char* const what_to_do = "; 'camera-sim --reset' moves it aside to a .bak file and starts with default settings";
 
 } // namespace
 

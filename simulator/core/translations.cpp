@@ -1,6 +1,6 @@
 #include "simulator/core/translations.h"
 
-#include "include/osd_types.h"
+#include "osd_types.h"
 #include "simulator/core/json_file.h"
 
 namespace sim {

@@ -3,7 +3,7 @@
 
 #include <SDL.h>
 
-#include "include/osd_canvas.h"
+#include "osd_canvas.h"
 #include "simulator/video/image.h"
 
 namespace sim {

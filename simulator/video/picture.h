@@ -1,6 +1,8 @@
 // The camera's picture: the scene as the image settings show it.
 #pragma once
 
+#include <optional>
+
 #include "simulator/core/settings.h"
 #include "simulator/video/image.h"
 
@@ -14,8 +16,9 @@ struct Look {
     bool mirror = false;
     bool flip = false;
     double zoom = 1;
-    bool tally = false;
-    Color tally_color = 0xFF0000;
+    std::optional<Color> tally; ///< a frame around the picture
+    double tally_level = 1;     ///< 0 to 1
+    std::optional<Color> lamp;  ///< the camera's own light, in the lower right corner
 };
 
 /// What the present settings say. A setting that the definitions don't have leaves its value as it is.

@@ -22,14 +22,14 @@ double travelling(double start, double speed, double seconds, double margin)
 void draw_sky(Painter& painter, double seconds)
 {
     painter.gradient(0, 0x4A86C4, 620, 0xD6E6F0);
-    painter.ellipse({1640, 150}, 110, 110, 0xFFF6D8, 0.35);
-    painter.circle({1640, 150}, 62, 0xFFF3C4);
+    painter.ellipse({1420, 150}, 110, 110, 0xFFF6D8, 0.35);
+    painter.circle({1420, 150}, 62, 0xFFF3C4);
     constexpr Box puffs[] = {{0, 0, 130, 34}, {-80, 14, 80, 26}, {85, 12, 90, 28}, {10, -24, 70, 30}};
-    constexpr Point clouds[] = {{250, 130}, {1180, 190}, {760, 90}, {1750, 300}};
+    constexpr Point clouds[] = {{1120, 150}, {1500, 300}, {330, 250}};
     for (const Point& cloud : clouds) {
         const double x = travelling(cloud.x, 14, seconds, 260);
         for (const Box& puff : puffs) {
-            painter.ellipse({x + puff.left, cloud.y + puff.top}, puff.width, puff.height, 0xFFFFFF, 0.75);
+            painter.ellipse({x + puff.left, cloud.y + puff.top}, puff.width, puff.height, 0xEEF3F7);
         }
     }
 }
@@ -88,9 +88,8 @@ void draw_car(Painter& painter, Point at, double direction, Color paint)
     painter.polygon({place(-92, -72), place(-62, -122), place(44, -122), place(88, -72)}, paint);
     painter.polygon({place(-76, -74), place(-54, -113), place(-12, -113), place(-12, -74)}, 0x2F3E4C);
     painter.polygon({place(-2, -74), place(-2, -113), place(39, -113), place(69, -74)}, 0x2F3E4C);
-    painter.polygon({place(-142, -24), place(-146, -66), place(-92, -76), place(88, -76), place(136, -62),
-                     place(146, -24)},
-                    paint);
+    painter.polygon(
+        {place(-142, -24), place(-146, -66), place(-92, -76), place(88, -76), place(136, -62), place(146, -24)}, paint);
     painter.ellipse(place(137, -50), 9, 8, 0xFFF4C0);
     painter.ellipse(place(-141, -54), 6, 8, 0xD03028);
     for (const double wheel : {-84.0, 88.0}) {
@@ -104,13 +103,13 @@ void draw_person(Painter& painter, Point at, double seconds)
 {
     const double swing = 17 * std::sin(seconds * 6 + 1);
     for (const double foot : {swing, -swing}) {
-        painter.polygon({{at.x - 7, at.y - 62}, {at.x + 7, at.y - 62}, {at.x + foot + 7, at.y}, {at.x + foot - 5, at.y}},
-                        0x2E3B57);
+        painter.polygon(
+            {{at.x - 7, at.y - 62}, {at.x + 7, at.y - 62}, {at.x + foot + 7, at.y}, {at.x + foot - 5, at.y}}, 0x2E3B57);
     }
     painter.ellipse({at.x, at.y - 88}, 15, 34, 0xB8443A);
-    painter.polygon({{at.x - 4, at.y - 112}, {at.x + 5, at.y - 112}, {at.x - swing + 4, at.y - 64},
-                     {at.x - swing - 4, at.y - 64}},
-                    0x97362E);
+    painter.polygon(
+        {{at.x - 4, at.y - 112}, {at.x + 5, at.y - 112}, {at.x - swing + 4, at.y - 64}, {at.x - swing - 4, at.y - 64}},
+        0x97362E);
     painter.circle({at.x + 2, at.y - 132}, 13, 0xD9A981);
     painter.ellipse({at.x - 1, at.y - 138}, 13, 9, 0x3B2A20);
 }

@@ -15,7 +15,7 @@ enum Widget { BAR, BAR_KETH, ARROWS };
 } // namespace
 
 class WidgetTest : public MenuTest {
-  protected:
+protected:
     void SetUp() override
     {
         MenuTest::SetUp();
@@ -50,31 +50,27 @@ TEST_F(WidgetTest, BarPlacesSliderAndText)
     EXPECT_THAT(linesOf({"blit"}),
                 ElementsAre("blit bar 532x20 at 0,10 on 760x40", "blit block 26x40 at 253,0 on 760x40",
                             "blit plain 28 white 'Cinema' at 570,0 on 760x40"));
+    EXPECT_THAT(linesOf({"free"}),
+                ElementsAre("free loaded bar", "free scaled bar", "free loaded block", "free scaled block",
+                            "free plain 28 white 'Cinema'", "free block 26x40", "free bar 532x20"));
     EXPECT_EQ(surface->format->format, static_cast<uint32_t>(SDL_PIXELFORMAT_ARGB4444));
     EXPECT_EQ(pixelAt(surface, 0, 0), 0u) << "transparent beside the bar";
     EXPECT_EQ(pixelAt(surface, 531, 29), 0xFF0000FFu);
     EXPECT_EQ(pixelAt(surface, 278, 39), 0xFFFF0000u);
-    EXPECT_EQ(calls().lines.back(), "free bar 532x20");
-    EXPECT_THAT(std::vector<std::string>(calls().lines.end() - 3, calls().lines.end()),
-                ElementsAre("free plain 28 white 'Cinema'", "free block 26x40", "free bar 532x20"));
     discard();
 }
 
 TEST_F(WidgetTest, BlockTravelsTheWholeBar)
 {
     const struct {
-        int index, count;
-        const char* block;
-    } cases[] = {{0, 101, "blit block 15x30 at 0,0 on 445x30"},   {100, 101, "blit block 15x30 at 296,0 on 445x30"},
-                 {1, 4, "blit block 15x30 at 98,0 on 445x30"},    {5, 1, "blit block 15x30 at 0,0 on 445x30"},
-                 {0, 0, "blit block 15x30 at 0,0 on 445x30"},     {1000000, 1000001, "blit block 15x30 at 296,0 on 445x30"},
-                 {10000000, 20000001, "blit block 15x30 at 148,0 on 445x30"}};
+        int index, count, x;
+    } cases[] = {{0, 101, 0}, {100, 101, 296}, {1, 4, 98}, {5, 1, 0}, {0, 0, 0}, {10000000, 20000001, 148}};
     for (const auto& c : cases) {
         for (Widget widget : {BAR, BAR_KETH}) {
             ASSERT_EQ(build(widget, 0, {0, 0, 445, 30}, c.index, c.count), 0);
-            EXPECT_THAT(linesOf({"blit block"}), ElementsAre(c.block));
-            EXPECT_THAT(linesOf({"blit plain"}), ElementsAre("blit plain 28 grey 'Cinema' at 333,0 on 445x30"));
-            EXPECT_THAT(linesOf({"blit bar"}), ElementsAre("blit bar 311x15 at 0,7 on 445x30"));
+            EXPECT_THAT(linesOf({"blit b", "blit p"}), ElementsAre("blit bar 311x15 at 0,7 on 445x30",
+                                                                   format("blit block 15x30 at %d,0 on 445x30", c.x),
+                                                                   "blit plain 28 grey 'Cinema' at 333,0 on 445x30"));
             discard();
         }
     }
@@ -83,43 +79,39 @@ TEST_F(WidgetTest, BlockTravelsTheWholeBar)
 TEST_F(WidgetTest, OnlyTheLayerOfADimBarIsDimmed)
 {
     ASSERT_EQ(build(BAR_KETH, 0, {0, 0, 760, 40}, 50, 101), 0);
-    EXPECT_THAT(linesOf({"alpha"}), ElementsAre("alpha 760x40 191"));
+    EXPECT_THAT(linesOf({"alpha", "blit 760", "free plain", "free 760", "free b"}),
+                ElementsAre("alpha 760x40 191", "blit 760x40 at 0,0 on 760x40", "free plain 28 grey 'Cinema'",
+                            "free 760x40", "free block 26x40", "free bar 532x20"));
     EXPECT_EQ(pixelAt(surface, 10, 20) >> 24, 0xBBu);
     EXPECT_EQ(pixelAt(surface, 260, 20) >> 24, 0xBBu);
     EXPECT_EQ(pixelAt(surface, 570, 0), 0xFFBBBBBBu) << "grey text in four bits a channel";
-    EXPECT_THAT(std::vector<std::string>(calls().lines.end() - 4, calls().lines.end()),
-                ElementsAre("free plain 28 grey 'Cinema'", "free 760x40", "free block 26x40", "free bar 532x20"));
     discard();
-}
-
-TEST_F(WidgetTest, AlphaIsSetOnlyForTheFlagZero)
-{
-    const struct {
-        Widget widget;
-        OSD_BOOL selected;
-        size_t dimmed;
-        const char* colour;
-    } cases[] = {{BAR, 0, 0, "grey"},    {BAR, 1, 0, "white"},    {BAR_KETH, 1, 0, "white"}, {BAR_KETH, 2, 0, "grey"},
-                 {ARROWS, 0, 2, "grey"}, {ARROWS, 1, 0, "white"}, {ARROWS, 2, 0, "grey"}};
-    for (const auto& c : cases) {
-        ASSERT_EQ(build(c.widget, c.selected, {0, 0, 600, 50}), 0);
-        EXPECT_EQ(linesOf({"alpha"}).size(), c.dimmed) << c.widget << " " << c.selected;
-        EXPECT_EQ(linesOf({std::string("blit plain 28 ") + c.colour}).size(), 1u);
-        discard();
-    }
 }
 
 TEST_F(WidgetTest, TextStandsBetweenArrows)
 {
     ASSERT_EQ(build(ARROWS, 0, {0, 0, 600, 50}), 0);
     EXPECT_EQ(calls().lines.front(), "measure plain 28 'Cinema'");
-    EXPECT_THAT(linesOf({"blit", "alpha"}),
+    EXPECT_THAT(linesOf({"blit", "alpha", "free plain", "free arrow"}),
                 ElementsAre("alpha arrow_left 54x21 191", "blit arrow_left 54x21 at 0,21 on 600x50",
                             "blit plain 28 grey 'Cinema' at 66,0 on 600x50", "alpha arrow_right 54x21 191",
-                            "blit arrow_right 54x21 at 198,21 on 600x50"));
-    EXPECT_THAT(std::vector<std::string>(calls().lines.end() - 3, calls().lines.end()),
-                ElementsAre("free arrow_right 54x21", "free plain 28 grey 'Cinema'", "free arrow_left 54x21"));
-    EXPECT_EQ(pixelAt(surface, 66, 0), 0xFFBBBBBBu);
+                            "blit arrow_right 54x21 at 198,21 on 600x50", "free arrow_right 54x21",
+                            "free plain 28 grey 'Cinema'", "free arrow_left 54x21"));
+    discard();
+}
+
+TEST_F(WidgetTest, AlphaIsSetOnlyForTheFlagZero)
+{
+    for (Widget widget : {BAR, BAR_KETH, ARROWS}) {
+        for (OSD_BOOL selected : {1, 2}) {
+            ASSERT_EQ(build(widget, selected, {0, 0, 600, 50}), 0);
+            EXPECT_THAT(linesOf({"alpha"}), IsEmpty());
+            EXPECT_EQ(linesOf({selected == 1 ? "blit plain 28 white" : "blit plain 28 grey"}).size(), 1u);
+            discard();
+        }
+    }
+    ASSERT_EQ(build(BAR, 0, {0, 0, 600, 50}), 0);
+    EXPECT_THAT(linesOf({"alpha"}), IsEmpty()) << "the plain bar only dims its text";
     discard();
 }
 
@@ -168,9 +160,9 @@ TEST_F(WidgetTest, ArrowsBesideItemAndInTheCorner)
     EXPECT_THAT(linesOf({"alpha"}), IsEmpty());
     EXPECT_EQ(OSD_COMM_DrawSubPageEnter(canvas, MENU, {100, 200, 300, 40}, 0), 0);
     EXPECT_THAT(linesOf({"alpha"}), ElementsAre("alpha nav_arrow 46x25 191"));
-    EXPECT_THAT(blits(),
-                ElementsAre("nav_arrow 46x25 at 38,207", "nav_arrow 46x25 at 0,198", "nav_arrow 46x25 at 64,207",
-                            "arrow_all 107x60 at 1421,799", "nav_arrow 46x25 at 419,214", "nav_arrow 46x25 at 419,214"));
+    EXPECT_THAT(blits(), ElementsAre("nav_arrow 46x25 at 38,207", "nav_arrow 46x25 at 0,198",
+                                     "nav_arrow 46x25 at 64,207", "arrow_all 107x60 at 1421,799",
+                                     "nav_arrow 46x25 at 419,214", "nav_arrow 46x25 at 419,214"));
 }
 
 TEST_F(WidgetTest, ConfirmPictureMovesThePen)
@@ -197,15 +189,19 @@ TEST_F(WidgetTest, MissingPictureIsToldTwice)
     char stem[] = "restart";
     SDL_Rect pen = {100, 200, 3, 4};
     SDL_Surface* canvas = gstMenuMgr.pstSurface;
+    const struct {
+        std::function<int()> draw;
+        const char *stem, *line;
+    } cases[] = {
+        {[&] { return OSD_COMM_DrawArrows(canvas, MENU, MENU); }, "nav_arrow", "[F:L] Draw nav_arrow fail\n"},
+        {[&] { return OSD_COMM_DrawSubPageEnter(canvas, MENU, MENU, 1); }, "nav_arrow", "[F:L] Draw nav_arrow fail\n"},
+        {[&] { return OSD_COMM_DrawTurnArrows(canvas, MENU, stem); }, "restart", "[F:L] Draw nav_arrow fail\n"},
+        {[&] { return OSD_COMM_DrawConfirmImg(canvas, &pen, MENU, 1, stem); }, "restart", "[F:L] Draw confirm fail\n"}};
     calls().missingFiles = {"nav_arrow.bmp", "restart.bmp"};
-    const std::string nav = "F L failed, acFilePath = " OSD_RESOURCE_DIR "/pic/nav_arrow.bmp\n[F:L] Draw nav_arrow fail\n";
-    const std::string other = "F L failed, acFilePath = " OSD_RESOURCE_DIR "/pic/restart.bmp\n";
-    EXPECT_EQ(printed([&] { EXPECT_EQ(OSD_COMM_DrawArrows(canvas, MENU, MENU), -1); }), nav);
-    EXPECT_EQ(printed([&] { EXPECT_EQ(OSD_COMM_DrawSubPageEnter(canvas, MENU, MENU, 1), -1); }), nav);
-    EXPECT_EQ(printed([&] { EXPECT_EQ(OSD_COMM_DrawTurnArrows(canvas, MENU, stem), -1); }),
-              other + "[F:L] Draw nav_arrow fail\n");
-    EXPECT_EQ(printed([&] { EXPECT_EQ(OSD_COMM_DrawConfirmImg(canvas, &pen, MENU, 1, stem), -1); }),
-              other + "[F:L] Draw confirm fail\n");
+    for (const auto& c : cases) {
+        EXPECT_EQ(printed([&] { EXPECT_EQ(c.draw(), -1); }),
+                  format("F L failed, acFilePath = %s/pic/%s.bmp\n%s", OSD_RESOURCE_DIR, c.stem, c.line));
+    }
     EXPECT_EQ(pen.x, 100);
 }
 

@@ -10,16 +10,16 @@
 namespace fake {
 
 struct Calls {
-    bool recording = false;                // off: everything passes through to the real functions
-    std::vector<std::string> lines;        // readable calls, in order
-    std::map<std::string, int> counts;     // calls by name
+    bool recording = false;                             // off: everything passes through to the real functions
+    std::vector<std::string> lines;                     // readable calls, in order
+    std::map<std::string, int> counts;                  // calls by name
     std::map<std::string, std::pair<int, int>> failing; // first and last call of a name that fail
-    std::set<std::string> missingFiles;    // base names that can't be opened
-    bool fakeFonts = true;                 // fixed metrics instead of SDL_ttf
-    bool fakePictures = true;              // plain 100 by 100 pictures instead of files
-    int byteWidth = 20;                    // metrics of the fake fonts
+    std::set<std::string> missingFiles;                 // base names that can't be opened
+    bool fakeFonts = true;                              // fixed metrics instead of SDL_ttf
+    bool fakePictures = true;                           // plain 100 by 100 pictures instead of files
+    int byteWidth = 20;                                 // metrics of the fake fonts
     int lineHeight = 30;
-    std::string lastFile;                  // base name of the font file opened last
+    std::string lastFile;                        // base name of the font file opened last
     std::map<const void*, std::string> surfaces; // alive, with their descriptions
     struct Font {
         std::string name;
@@ -47,11 +47,13 @@ std::vector<std::string> linesOf(const std::vector<std::string>& words);
 std::vector<std::string> blits();
 
 // Runs a function and gives what it printed; function names and source lines read "F" and "L".
-template <typename Function> std::string printed(Function function);
+template <typename Function>
+std::string printed(Function function);
 void beginCapture();
 std::string endCapture();
 
-template <typename Function> std::string printed(Function function)
+template <typename Function>
+std::string printed(Function function)
 {
     beginCapture();
     function();

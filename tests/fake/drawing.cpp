@@ -17,10 +17,10 @@ using fake::fails;
 using fake::format;
 using fake::record;
 
-#define REAL(Name)                                                                        \
-    ([] {                                                                                 \
+#define REAL(Name) \
+    ([] { \
         static const auto pfn = reinterpret_cast<decltype(&Name)>(dlsym(RTLD_NEXT, #Name)); \
-        return pfn;                                                                       \
+        return pfn; \
     }())
 
 namespace {
@@ -108,7 +108,8 @@ int access(const char* path, int mode)
 {
     if (g_depth == 0 && calls().recording && endsWith(path, ".bmp")) {
         record(format("access %s", path));
-        if (fails("access") || isMissing(path) || (calls().fakePictures && strncmp(path, OSD_RESOURCE_DIR "/pic/", sizeof(OSD_RESOURCE_DIR) + 4) != 0)) {
+        if (fails("access") || isMissing(path) ||
+            (calls().fakePictures && strncmp(path, OSD_RESOURCE_DIR "/pic/", sizeof(OSD_RESOURCE_DIR) + 4) != 0)) {
             return -1;
         }
         if (calls().fakePictures) {
@@ -147,8 +148,8 @@ TTF_Font* TTF_OpenFontRW(SDL_RWops* source, int freeSource, int size)
         return nullptr;
     }
     void* stream = calls().fakeFonts ? source : nullptr;
-    auto* font = calls().fakeFonts ? reinterpret_cast<TTF_Font*>(new char)
-                                   : REAL(TTF_OpenFontRW)(source, freeSource, size);
+    auto* font =
+        calls().fakeFonts ? reinterpret_cast<TTF_Font*>(new char) : REAL(TTF_OpenFontRW)(source, freeSource, size);
     if (font != nullptr) {
         calls().fonts[font] = {fontName(calls().lastFile), size, stream};
     }
@@ -208,9 +209,10 @@ SDL_Surface* TTF_RenderUTF8_Blended(TTF_Font* font, const char* text, SDL_Color 
         return nullptr;
     }
     const int width = calls().byteWidth * static_cast<int>(strlen(text));
-    SDL_Surface* surface = isFake(font) ? filled(width, calls().lineHeight, colour)
-                                        : REAL(TTF_RenderUTF8_Blended)(font, text, colour);
-    return keep(depth, surface, format("%s %d %s '%s'", entry.name.c_str(), entry.size, colourName(colour).c_str(), text));
+    SDL_Surface* surface =
+        isFake(font) ? filled(width, calls().lineHeight, colour) : REAL(TTF_RenderUTF8_Blended)(font, text, colour);
+    return keep(depth, surface,
+                format("%s %d %s '%s'", entry.name.c_str(), entry.size, colourName(colour).c_str(), text));
 }
 
 SDL_Surface* SDL_CreateRGBSurfaceWithFormat(Uint32 flags, int w, int h, int bits, Uint32 pixelFormat)

@@ -31,16 +31,15 @@ bool& updateGolden()
 testing::AssertionResult samePixels(SDL_Surface* actual, SDL_Surface* expected, int tolerance, bool alpha)
 {
     if (actual->w != expected->w || actual->h != expected->h) {
-        return testing::AssertionFailure() << actual->w << "x" << actual->h << " instead of " << expected->w << "x"
-                                           << expected->h;
+        return testing::AssertionFailure()
+               << actual->w << "x" << actual->h << " instead of " << expected->w << "x" << expected->h;
     }
     for (int y = 0; y < actual->h; y++) {
         for (int x = 0; x < actual->w; x++) {
             const uint32_t left = pixelAt(actual, x, y);
             const uint32_t right = pixelAt(expected, x, y);
             if (!near(left, right, tolerance, alpha)) {
-                return testing::AssertionFailure()
-                       << format("pixel %d,%d is %08x instead of %08x", x, y, left, right);
+                return testing::AssertionFailure() << format("pixel %d,%d is %08x instead of %08x", x, y, left, right);
             }
         }
     }
@@ -58,8 +57,8 @@ testing::AssertionResult matchesGolden(SDL_Surface* actual, const std::string& n
             result = testing::AssertionFailure() << "cannot write " << path;
         }
     } else {
-        result = expected != nullptr ? samePixels(actual, expected)
-                                     : testing::AssertionFailure() << path << " is missing";
+        result =
+            expected != nullptr ? samePixels(actual, expected) : testing::AssertionFailure() << path << " is missing";
         if (!result) {
             (void)IMG_SavePNG(actual, (name + ".actual.png").c_str());
             result << "; the picture drawn is " << name << ".actual.png";

@@ -5,8 +5,8 @@
 #include <gtest/gtest.h>
 #include <string>
 
-#include "include/osd_comm.h"
-#include "include/osd_menu.h"
+#include "osd_comm.h"
+#include "osd_menu.h"
 #include "tests/fake/calls.h"
 #include "tests/fake/page.h"
 #include "tests/fake/platform.h"
@@ -22,7 +22,7 @@ struct Config {
 };
 
 class MenuTest : public testing::Test {
-  protected:
+protected:
     void SetUp() override;
     void TearDown() override;
 

@@ -72,7 +72,10 @@ std::string describeValue(const tagITEM_NODE_S& item)
 
 } // namespace
 
-void setField(char (&field)[OSD_TEXT_LEN], const std::string& text) { snprintf(field, sizeof field, "%s", text.c_str()); }
+void setField(char (&field)[OSD_TEXT_LEN], const std::string& text)
+{
+    snprintf(field, sizeof field, "%s", text.c_str());
+}
 
 tagPAGE_NODE_S* addPage(tagPAGE_LAYOUT_E layout, const std::string& title)
 {

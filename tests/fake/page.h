@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "include/osd_records.h"
+#include "osd_records.h"
 
 namespace fake {
 

@@ -38,8 +38,9 @@ void copyText(char* out, size_t size, const std::string& text)
     snprintf(out, size, "%s", text.c_str());
 }
 
-template <typename Record> int fetch(const std::map<std::string, Record>& all, const char* call, const std::string& key,
-                                     Record* out, const Record& garbage)
+template <typename Record>
+int fetch(const std::map<std::string, Record>& all, const char* call, const std::string& key, Record* out,
+          const Record& garbage)
 {
     fake::record(std::string(call) + " " + key);
     if (fake::fails(call)) {

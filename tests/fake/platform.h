@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "include/osd_menu.h"
+#include "osd_menu.h"
 #include "platform/config_service.h"
 
 namespace fake {
@@ -36,9 +36,9 @@ struct Platform {
     bool echo = true;                   // any other key answers "t." and the key; off: refuses it
     std::string language = "English";
     std::string deviceType;
-    std::map<int, std::string> answers; // of the get-callback, by event
-    std::map<std::string, std::string> parents; // of data zones
-    bool garbage = false;               // unterminated texts and wild numbers everywhere
+    std::map<int, std::string> answers;                    // of the get-callback, by event
+    std::map<std::string, std::string> parents;            // of data zones
+    bool garbage = false;                                  // unterminated texts and wild numbers everywhere
     int (*update)(OSD_BOOL, OSD_ATTACH_INFO_S*) = nullptr; // what MPP_MENU_SetMenuCb got
     tagOSD_MENU_CANVAS_S canvasAtCreate = {};
     std::map<void*, std::string> blocks; // media memory in use, by address

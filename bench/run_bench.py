@@ -1,0 +1,155 @@
+#!/usr/bin/env python3
+"""Runs the benchmark programs and prints a table of figures and gates: run_bench.py TIMES COUNTS LIBRARY"""
+import pathlib
+import re
+import subprocess
+import sys
+import tempfile
+
+REDRAW_RATIO = 1.02
+OPEN_RATIO = 1.3
+OWN_INSTRUCTIONS = 20_000
+TEXT_BYTES = 64 * 1024
+
+# What the library calls at the start or while a page opens; a redraw must not.
+START_CALLS = {
+    "SDL_Init", "SDL_Quit", "IMG_Init", "IMG_Quit", "TTF_Init", "TTF_OpenFontRW", "TTF_CloseFont",
+    "SDL_RWFromConstMem", "SDL_FreeRW", "SDL_CreateRGBSurfaceWithFormatFrom",
+}
+
+missed = []
+
+
+def gate(name, measured, holds, limit):
+    if not holds:
+        missed.append(name)
+    print(f"  {name:<58} {measured:>14}   gate {limit:<12} {'ok' if holds else 'MISSED'}", flush=True)
+
+
+def output(*command):
+    done = subprocess.run(command, capture_output=True, text=True, check=False)
+    if done.returncode != 0:
+        sys.exit(f"{' '.join(map(str, command))}\n{done.stdout}{done.stderr}failed with {done.returncode}")
+    return done.stdout
+
+
+def show_times(program):
+    print("Redraw of the vertical page, microseconds (median of 100 pairs; ratio: median of the pairs)")
+    print(f"  {'rows':>4} {'size':>6} {'format':>9} {'library':>9} {'bare calls':>10} {'ratio':>7}")
+    with subprocess.Popen([program], stdout=subprocess.PIPE, text=True) as times:
+        for line in times.stdout:
+            words = line.split()
+            if words[0] == "redraw":
+                rows, size, pixels, library, bare, ratio = words[1:]
+                holds = float(ratio) <= REDRAW_RATIO
+                print(f"  {rows:>4} {size:>6} {pixels:>9} {library:>9} {bare:>10} {ratio:>7}"
+                      f"   gate {REDRAW_RATIO} {'ok' if holds else 'MISSED'}", flush=True)
+                if not holds:
+                    missed.append(line.strip())
+            elif words[0] == "open":
+                rows, library, load, ratio = words[1:]
+                name = f"open {rows} rows: {library} us, tinyxml2 alone {load} us"
+                gate(name, ratio, rows != "10" or float(ratio) <= OPEN_RATIO, OPEN_RATIO if rows == "10" else "none")
+            else:
+                missed.append(line.strip())
+                print(line, end="")
+    if times.returncode != 0:
+        sys.exit(f"{program} failed with {times.returncode}")
+
+
+def show_counts(program):
+    print("Calls of SDL, SDL_ttf, SDL_image and SDL_gfx, and heap allocations of the library's own")
+    for line in output(program).splitlines():
+        words = line.split()
+        if words[0] == "more":
+            print(f"  {words[1]}: {words[2]} calls, {words[3]} needed")
+        elif words[0] == "redraw":
+            rows, calls, bare, surplus, allocations = words[1], words[3], words[5], words[7], words[9]
+            gate(f"redraw of {rows} rows: calls by the library (bare {bare}), surplus", f"{calls}, {surplus}",
+                 surplus == "0", "surplus 0")
+            gate(f"redraw of {rows} rows: allocations", allocations, allocations == "0", 0)
+        elif words[0] == "open":
+            gate(f"open a page of {words[1]} rows: allocations", words[3], words[3] == words[1], words[1])
+
+
+def counted_names():
+    source = (pathlib.Path(__file__).parent / "call_count.cpp").read_text(encoding="utf-8")
+    return set(re.findall(r'pass_on<&(\w+)>', source))
+
+
+def show_uncounted(library):
+    undefined = re.findall(r" U (\w+)", output("nm", "-D", "--undefined-only", library))
+    drawing = {name for name in undefined if re.match(r"SDL_|TTF_|IMG_|rotozoom|zoom", name)}
+    rest = sorted(drawing - counted_names() - START_CALLS)
+    gate("functions of SDL and its companions that nobody counts", " ".join(rest) or "none", not rest, "none")
+
+
+def own_instructions(profile, library):
+    """Sums what callgrind gives the library's object itself, and what it calls of the C library."""
+    names = {}
+    own = libc = 0
+    current = called = ""
+    is_call = False
+
+    def name_of(text):
+        number, _, name = text.partition(" ")
+        if name:
+            names[number] = name
+        return names[number]
+
+    for line in profile.splitlines():
+        if line.startswith("ob="):
+            current = name_of(line[3:])
+        elif line.startswith("fn="):
+            called = current
+        elif line.startswith("cob="):
+            called = name_of(line[4:])
+        elif line.startswith("calls="):
+            is_call = True
+        elif re.match(r"[+\-*\d]", line):
+            cost = int(line.split()[1]) if len(line.split()) > 1 else 0
+            if current.endswith(library):
+                if not is_call:
+                    own += cost
+                elif "/libc.so" in called or "/libc-" in called:
+                    libc += cost
+            if is_call:
+                called = current
+            is_call = False
+    return own, libc
+
+
+def show_instructions(program, library):
+    with tempfile.TemporaryDirectory() as folder:
+        profile = pathlib.Path(folder) / "profile"
+        output("valgrind", "--tool=callgrind", f"--callgrind-out-file={profile}", "--collect-atstart=no",
+               "--toggle-collect=OSD_MENU_RenderCanvas", program, "instructions")
+        own, libc = own_instructions(profile.read_text(encoding="utf-8"), pathlib.Path(library).resolve().name)
+    gate("redraw of ten rows: instructions of the library's own", own, own <= OWN_INSTRUCTIONS, OWN_INSTRUCTIONS)
+    print(f"  {'  and of the C library, called by it':<58} {libc:>14}")
+
+
+def show_size(library):
+    with tempfile.TemporaryDirectory() as folder:
+        stripped = pathlib.Path(folder) / "stripped.so"
+        output("strip", "-o", stripped, library)
+        text = int(output("size", stripped).splitlines()[1].split()[0])
+    gate("stripped library: bytes of text", text, text < TEXT_BYTES, f"< {TEXT_BYTES}")
+
+
+def main():
+    if len(sys.argv) != 4:
+        sys.exit(__doc__)
+    times, counts, library = sys.argv[1:]
+    show_times(times)
+    show_counts(counts)
+    show_uncounted(library)
+    print("Size and instructions")
+    show_instructions(counts, library)
+    show_size(library)
+    if missed:
+        sys.exit(f"{len(missed)} gate(s) missed")
+    print("All gates hold.")
+
+
+main()

@@ -1,0 +1,109 @@
+#!/usr/bin/env python3
+"""Drives the resource check with small resource folders, each with one fault."""
+import json
+import subprocess
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+
+CHECK = Path(__file__).with_name("check_resources.py")
+MENU_WORDS = ["StaticIp", "DhcpIp", "AutoMode", "Confirm", "Finish", "Loading"]
+
+
+def good_resources():
+    """Files of a folder without a fault: path to text of a page, or to content of a JSON file."""
+    words = MENU_WORDS + ["image", "Gain", "Mode", "On", "Off", "FwVersion", "Active"]
+    return {
+        "lang/English.json": {word: word.lower() for word in words},
+        "lang/German.json": {word: word.upper() for word in words},
+        "settings.json": {
+            "facts": {"FwVersion": "1.0", "NdiStatus": "Active"},
+            "zones": {"Image": "ImageParam"},
+            "settings": [{"key": "Gain", "parent": "ImageParam", "kind": "integer"},
+                         {"key": "Mode", "kind": "option", "options": ["Off", "On"]}]},
+        "pages/image_page.xml":
+            '<Page Title="image">\n'
+            '  <Item ItemIndex="Mode" Ctx="NAME_VAL" Attr="SUBITEM">\n'
+            '    <Option ModeIndex="Off"/>\n'
+            '    <Option ModeIndex="On">\n'
+            '      <Item ItemIndex="Gain" Ctx="NAME_BAR_VAL" Attr="COMMON" ValType="NUMERICAL" DataZone="Image"/>\n'
+            '    </Option>\n'
+            '  </Item>\n'
+            '  <Item ItemIndex="FwVersion" Ctx="NAME_VAL" Attr="STATUS"/>\n'
+            '  <Item ItemIndex="image" Ctx="NAME" Attr="SUBPAGE" SubPage="image"/>\n'
+            '</Page>\n'}
+
+
+def edit_page(old, new):
+    def change(files):
+        assert old in files["pages/image_page.xml"]
+        files["pages/image_page.xml"] = files["pages/image_page.xml"].replace(old, new)
+    return change
+
+
+FAULTS = {
+    "a language lacks a key": (
+        lambda files: files["lang/German.json"].pop("Gain"),
+        ["German.json: key 'Gain' is missing", "image_page.xml:5: ItemIndex: 'Gain' has no translation in German.json"]),
+    "a text is too long": (
+        lambda files: files["lang/German.json"].update(Gain="ä" * 16),
+        ["German.json: key 'Gain': 'ääääääääääääääää' has 32 bytes, at most 31 fit"]),
+    "an option has no translation": (
+        lambda files: files["settings.json"]["settings"][1]["options"].append("Half"),
+        ["setting 'Mode': option: 'Half' has no translation", "image_page.xml:2: item 'Mode' offers Off, On; "
+         "its setting has Off, On, Half"]),
+    "an item has no setting": (
+        edit_page('DataZone="Image"', ""), ["image_page.xml:5: item 'Gain': no setting 'Gain' without parent"]),
+    "a setting is of the wrong kind": (
+        edit_page('ValType="NUMERICAL"', ""),
+        ["image_page.xml:5: item 'Gain': setting 'Gain' with parent 'ImageParam' is of kind integer, expected option"]),
+    "a data zone is unknown": (
+        edit_page('DataZone="Image"', 'DataZone="Sound"'), ["image_page.xml:5: DataZone 'Sound' is not in 'zones'"]),
+    "a status item has no source": (
+        lambda files: files["settings.json"]["facts"].pop("FwVersion"), ["image_page.xml:8: STATUS item 'FwVersion'"]),
+    "a live value has no setting": (
+        edit_page('Ctx="NAME"', 'Ctx="NAME" ShowValue="1"'), ["image_page.xml:9: item 'image': no setting 'image'"]),
+    "a sub-page is missing": (
+        edit_page('SubPage="image"', 'SubPage="sound"'), ["image_page.xml:9: SubPage 'sound': there is no file"]),
+    "a page is no XML": (edit_page("</Page>", "</Pag>"), ["image_page.xml:10: mismatched tag"]),
+}
+
+
+class CheckResourcesTest(unittest.TestCase):
+    def run_check(self, files):
+        with tempfile.TemporaryDirectory() as folder:
+            for name, content in files.items():
+                path = Path(folder, name)
+                path.parent.mkdir(exist_ok=True)
+                text = content if isinstance(content, str) else json.dumps(content)
+                path.write_text(text, encoding="utf-8")
+            result = subprocess.run([sys.executable, CHECK, folder], capture_output=True, text=True, check=False)
+        return result.returncode, result.stderr
+
+    def test_good_folder_passes(self):
+        self.assertEqual(self.run_check(good_resources()), (0, ""))
+
+    def test_each_fault_is_named(self):
+        for fault, (change, messages) in FAULTS.items():
+            with self.subTest(fault):
+                files = good_resources()
+                change(files)
+                code, errors = self.run_check(files)
+                self.assertEqual(code, 1)
+                for message in messages:
+                    self.assertIn(message, errors)
+
+    def test_key_that_stands_twice(self):
+        files = good_resources()
+        files["lang/English.json"] = '{"Gain": "a", "Gain": "b"}'
+        self.assertIn("English.json: key 'Gain' stands twice", self.run_check(files)[1])
+
+    def test_empty_folder(self):
+        code, errors = self.run_check({})
+        self.assertEqual(code, 1)
+        self.assertIn("expected page files in pages/ and languages in lang/", errors)
+
+
+if __name__ == "__main__":
+    unittest.main()

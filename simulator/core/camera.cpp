@@ -1,0 +1,103 @@
+#include "simulator/core/camera.h"
+
+#include <iostream>
+#include <memory>
+
+#include "simulator/core/errors.h"
+#include "simulator/core/log.h"
+#include "simulator/core/services.h"
+#include "simulator/video/picture.h"
+
+namespace sim {
+namespace {
+
+constexpr Size full_hd{1920, 1080};
+constexpr Size ultra_hd{3840, 2160};
+
+/// The option key of a language given by its name or by the key itself; empty when none was given.
+std::string find_language(const Definitions& definitions, const std::optional<std::string>& wanted)
+{
+    std::string known;
+    for (const auto& [option, name] : definitions.languages) {
+        if (wanted == option || wanted == name) {
+            return option;
+        }
+        known += (known.empty() ? "" : ", ") + name;
+    }
+    if (wanted) {
+        throw BadInput("unknown language '" + *wanted + "', expected one of " + known);
+    }
+    return "";
+}
+
+SettingsStore open_store(const std::filesystem::path& file, bool reset)
+{
+    if (!reset) {
+        return SettingsStore(file);
+    }
+    try {
+        SettingsStore store(file);
+        store.clear();
+        return store;
+    } catch (const BadDatabase&) {
+        const std::filesystem::path backup = move_database_aside(file);
+        std::cout << "moved the unusable settings database to " << backup.string() << std::endl;
+    }
+    return SettingsStore(file);
+}
+
+} // namespace
+
+Camera::Camera(const CameraConfig& config)
+    : definitions_(load_definitions(config.resources / "settings.json")),
+      translations_(config.resources / "lang", definitions_.languages),
+      forced_language_(find_language(definitions_, config.language)), folder_(config.data),
+      store_(open_store(folder_.database(), config.reset)), settings_(definitions_.settings, store_),
+      channels_(config.uhd ? ultra_hd : full_hd), still_(config.still)
+{
+    if (!forced_language_.empty()) {
+        settings_.set_for_this_run(language_setting, forced_language_);
+    }
+    set_current_camera(this);
+}
+
+Camera::~Camera() { set_current_camera(nullptr); }
+
+const std::string& Camera::language() const { return definitions_.languages.at(settings_.value(language_setting)); }
+
+const std::string* Camera::translate(const std::string& language, const std::string& key)
+{
+    const std::string* text = translations_.find(language, key);
+    if (text == nullptr && !key.empty() && missing_texts_.insert(language + "/" + key).second) {
+        log_line(LogLevel::Info, "language", "no text for '" + key + "' in " + language);
+    }
+    return text;
+}
+
+bool Camera::push_canvas(bool show, const tagOSD_MENU_CANVAS_S& canvas, std::optional<int> channel)
+{
+    const char* problem = show ? canvas_problem(canvas, memory_.size_at(canvas.stMem.pvVirAddr)) : nullptr;
+    if (problem != nullptr) {
+        log_line(LogLevel::Error, "media", std::string("a canvas is not shown: ") + problem);
+        return false;
+    }
+    const auto layer = show ? std::make_shared<const Layer>(copy_canvas(canvas)) : nullptr;
+    for (int i = channel.value_or(0); i < channel.value_or(channel_count - 1) + 1; ++i) {
+        if (show) {
+            channels_.show(i, &canvas, layer);
+        } else {
+            channels_.hide(i, &canvas);
+        }
+    }
+    return true;
+}
+
+Image Camera::look_at(int channel)
+{
+    const std::chrono::duration<double> running = std::chrono::steady_clock::now() - start_;
+    Image picture = draw_picture(channels_.size(channel), look_of(settings_), still_ ? 0.0 : running.count());
+    channels_.lay_canvases_over(channel, picture);
+    return picture;
+}
+
+} // namespace sim

@@ -1,0 +1,73 @@
+// The simulated camera: everything that stands behind the platform services.
+#pragma once
+
+#include <chrono>
+#include <filesystem>
+#include <optional>
+#include <set>
+#include <string>
+
+#include "simulator/core/data_folder.h"
+#include "simulator/core/definitions.h"
+#include "simulator/core/media_memory.h"
+#include "simulator/core/settings.h"
+#include "simulator/core/settings_store.h"
+#include "simulator/core/translations.h"
+#include "simulator/video/channels.h"
+
+namespace sim {
+
+struct CameraConfig {
+    std::filesystem::path resources; ///< holds settings.json and the folder lang
+    std::filesystem::path data;
+    bool reset = false;                  ///< settings back to their defaults
+    bool uhd = false;                    ///< a main channel of 3840 by 2160 instead of 1920 by 1080
+    bool still = false;                  ///< the scene stands at time 0
+    std::optional<std::string> language; ///< language for this run, by its name or its option key
+};
+
+/// Owns the services and the channels. One camera at a time: the platform functions forward to it.
+class Camera {
+public:
+    /// Throws BadInput for broken files, an unusable data folder and an unknown language, all before it changes
+    /// anything.
+    explicit Camera(const CameraConfig& config);
+    ~Camera();
+    Camera(const Camera&) = delete;
+    Camera& operator=(const Camera&) = delete;
+
+    /// The camera that the platform functions talk to; null when there is none.
+    static Camera* current();
+
+    const Definitions& definitions() const { return definitions_; }
+    Settings& settings() { return settings_; }
+    MediaMemory& memory() { return memory_; }
+    Channels& channels() { return channels_; }
+
+    /// The name of the menu's present language.
+    const std::string& language() const;
+    /// The text of a key; null, reported once a key, when there is none.
+    const std::string* translate(const std::string& language, const std::string& key);
+
+    /// Shows or hides a canvas on one channel, or on all when there is none. False, with a line in the log, for a
+    /// canvas that can't be shown.
+    bool push_canvas(bool show, const tagOSD_MENU_CANVAS_S& canvas, std::optional<int> channel);
+
+    /// What a channel shows at this moment: the picture with its canvases.
+    Image look_at(int channel);
+
+private:
+    Definitions definitions_;
+    Translations translations_;
+    std::string forced_language_; ///< option key, empty when the setting decides
+    DataFolder folder_;
+    SettingsStore store_;
+    Settings settings_;
+    MediaMemory memory_;
+    Channels channels_;
+    bool still_;
+    std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
+    std::set<std::string> missing_texts_;
+};
+
+} // namespace sim

@@ -1,0 +1,250 @@
+#include "simulator/core/services.h"
+
+#include <array>
+#include <cstdarg>
+#include <cstdio>
+#include <cstring>
+#include <exception>
+#include <string>
+
+#include <tinyxml2.h>
+
+#include "platform/config_service.h"
+#include "platform/log_service.h"
+#include "platform/media_service.h"
+#include "simulator/core/camera.h"
+#include "simulator/core/log.h"
+#include "simulator/core/page_files.h"
+
+namespace sim {
+namespace {
+
+constexpr int ok = 0;
+constexpr int failed = -1;
+
+struct Platform {
+    Camera* camera = nullptr;
+    int (*update_channel)(OSD_BOOL, OSD_ATTACH_INFO_S*) = nullptr;
+};
+Platform platform;
+
+/// Runs the body of a service with the current camera. The callers are C functions: no exception may pass.
+template <typename Body>
+int serve(const char* service, Body body)
+{
+    if (platform.camera == nullptr) {
+        log_line(LogLevel::Error, service, "there is no camera");
+        return failed;
+    }
+    try {
+        return body(*platform.camera);
+    } catch (const std::exception& error) {
+        log_line(LogLevel::Error, service, error.what());
+        return failed;
+    }
+}
+
+/// Copies a text into a field of a record, which stays zero-terminated.
+template <std::size_t N>
+void fill_field(char (&field)[N], const std::string& text)
+{
+    std::snprintf(field, N, "%s", text.c_str());
+}
+
+std::string text_or_empty(const char* text) { return text == nullptr ? "" : text; }
+
+const Setting* find_setting(Camera& camera, const SettingId& id, bool number)
+{
+    const Setting* setting = camera.settings().find(id);
+    if (setting == nullptr) {
+        log_line(LogLevel::Warning, "settings", "no setting " + to_string(id));
+        return nullptr;
+    }
+    const bool is_number = setting->kind == SettingKind::Integer || setting->kind == SettingKind::HexColor;
+    if (is_number != number) {
+        log_line(LogLevel::Warning, "settings",
+                 "setting " + to_string(id) + " is " + (number ? "no" : "a") + " number");
+        return nullptr;
+    }
+    return setting;
+}
+
+int get_text(const SettingId& id, tagCFG_VALUE_TXT_S* value)
+{
+    return serve("settings", [&](Camera& camera) {
+        const Setting* setting = find_setting(camera, id, false);
+        if (setting == nullptr || value == nullptr) {
+            return failed;
+        }
+        std::string list;
+        for (const std::string& option : setting->options) {
+            list += (list.empty() ? "" : ":") + option;
+        }
+        fill_field(value->acList, list);
+        fill_field(value->acValue, camera.settings().value(id));
+        return ok;
+    });
+}
+
+int get_number(const SettingId& id, tagCFG_VALUE_INT_S* value)
+{
+    return serve("settings", [&](Camera& camera) {
+        const Setting* setting = find_setting(camera, id, true);
+        if (setting == nullptr || value == nullptr) {
+            return failed;
+        }
+        *value = {setting->min, setting->max, 0, setting->step, camera.settings().number(id)};
+        return ok;
+    });
+}
+
+int push(bool show, std::optional<int> channel, const tagOSD_MENU_CANVAS_S* canvas)
+{
+    return serve("media", [&](Camera& camera) {
+        return canvas != nullptr && camera.push_canvas(show, *canvas, channel) ? ok : failed;
+    });
+}
+
+} // namespace
+
+void set_current_camera(Camera* camera) { platform = {camera, nullptr}; }
+
+Camera* Camera::current() { return platform.camera; }
+
+bool refresh_channel(int channel, bool show)
+{
+    OSD_ATTACH_INFO_S attach{channel};
+    return platform.update_channel != nullptr && platform.update_channel(show ? 1 : 0, &attach) == ok;
+}
+
+} // namespace sim
+
+using namespace sim;
+
+int CFG_COM_GetTxtParams(char* pcKey, tagCFG_VALUE_TXT_S* pstValue)
+{
+    return get_text({"", text_or_empty(pcKey)}, pstValue);
+}
+
+int CFG_COM_GetTxtParamByParent(char* pcParent, char* pcKey, tagCFG_VALUE_TXT_S* pstValue)
+{
+    return get_text({text_or_empty(pcParent), text_or_empty(pcKey)}, pstValue);
+}
+
+int CFG_COM_GetIntParams(char* pcKey, tagCFG_VALUE_INT_S* pstValue)
+{
+    return get_number({"", text_or_empty(pcKey)}, pstValue);
+}
+
+int CFG_COM_GetIntParamByParent(char* pcParent, char* pcKey, tagCFG_VALUE_INT_S* pstValue)
+{
+    return get_number({text_or_empty(pcParent), text_or_empty(pcKey)}, pstValue);
+}
+
+int CFG_COM_SetTxtParams(char* pcKey, char* pcValue, OSD_BOOL /*bSave*/)
+{
+    return serve("settings", [&](Camera& camera) {
+        camera.settings().set({"", text_or_empty(pcKey)}, text_or_empty(pcValue));
+        return ok;
+    });
+}
+
+int CFG_SYSTEM_GetLanguage(char* pcLanguage)
+{
+    return serve("language", [&](Camera& camera) {
+        std::snprintf(pcLanguage, OSD_TEXT_LEN, "%s", camera.language().c_str());
+        return ok;
+    });
+}
+
+int CFG_LANG_GetString(char* pcLanguage, char* pcKey, char* pcOut)
+{
+    return serve("language", [&](Camera& camera) {
+        const std::string* text = camera.translate(text_or_empty(pcLanguage), text_or_empty(pcKey));
+        if (text == nullptr) {
+            return failed;
+        }
+        std::memcpy(pcOut, text->c_str(), text->size() + 1); // 31 bytes at most, checked when the file was read
+        return ok;
+    });
+}
+
+tinyxml2::XMLDocument* CFG_GetDocByFileName(const char* pcPath, OSD_BOOL /*bRead*/)
+{
+    try {
+        return load_page_document(text_or_empty(pcPath)).release();
+    } catch (const std::exception& error) {
+        log_line(LogLevel::Error, "pages", error.what());
+        return nullptr;
+    }
+}
+
+int BSP_PARTITION_GetDevAttribute(tagDEV_ATTR_CONTENT_S* pstAttr)
+{
+    return serve("device", [&](Camera& camera) {
+        fill_field(pstAttr->acDeviceType, camera.definitions().facts.at("DeviceType"));
+        return ok;
+    });
+}
+
+void UTIL_LOG_Print(int s32Level, char* pcTag, const char* pcFormat, ...)
+{
+    std::array<char, 512> text{};
+    va_list arguments;
+    va_start(arguments, pcFormat);
+    (void)std::vsnprintf(text.data(), text.size(), pcFormat, arguments);
+    va_end(arguments);
+    log_line(static_cast<LogLevel>(s32Level), text_or_empty(pcTag), text.data());
+}
+
+int MPP_AllocMem(const char* pcName, uint32_t u32Size, int /*s32Flag*/, void* pstBlock)
+{
+    return serve("media", [&](Camera& camera) {
+        auto* block = static_cast<tagOSD_MEM_S*>(pstBlock);
+        if (block != nullptr && camera.memory().allocate(text_or_empty(pcName), u32Size, *block)) {
+            return ok;
+        }
+        log_line(LogLevel::Error, "media", "no block of " + std::to_string(u32Size) + " bytes");
+        return failed;
+    });
+}
+
+int MPP_FreeMem(void* pstBlock)
+{
+    return serve("media", [&](Camera& camera) {
+        auto* block = static_cast<tagOSD_MEM_S*>(pstBlock);
+        if (block != nullptr && camera.memory().release(*block)) {
+            return ok;
+        }
+        log_line(LogLevel::Error, "media", "a block is given back that is not handed out");
+        return failed;
+    });
+}
+
+int MPP_MENU_CreateSdkResource(tagOSD_MENU_CANVAS_S* pstCanvas)
+{
+    return serve("media", [&](Camera&) {
+        // Refuses here what no push could show, so that the menu fails at its start and not at its first page.
+        const char* problem = pstCanvas == nullptr ? "there is none" : canvas_problem(*pstCanvas, SIZE_MAX);
+        if (problem != nullptr) {
+            log_line(LogLevel::Error, "media", std::string("the menu's canvas is refused: ") + problem);
+        }
+        return problem == nullptr ? ok : failed;
+    });
+}
+
+int MPP_MENU_SetMenuCb(int (*pfnUpdate)(OSD_BOOL, OSD_ATTACH_INFO_S*))
+{
+    platform.update_channel = pfnUpdate;
+    return ok;
+}
+
+int MPP_MENU_UpdateCanvasToAllChns(OSD_BOOL bShow, tagOSD_MENU_CANVAS_S* pstCanvas)
+{
+    return push(bShow == 1, std::nullopt, pstCanvas);
+}
+
+int MPP_MENU_UpdateCanvasToOneChn(OSD_BOOL bShow, OSD_ATTACH_INFO_S* pstAttach, tagOSD_MENU_CANVAS_S* pstCanvas)
+{
+    return pstAttach == nullptr ? failed : push(bShow == 1, pstAttach->channel, pstCanvas);
+}

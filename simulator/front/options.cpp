@@ -1,0 +1,151 @@
+#include "simulator/front/options.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <iostream>
+#include <map>
+
+#include "simulator/core/errors.h"
+#include "simulator/core/page_files.h"
+#include "simulator/video/snapshot.h"
+
+namespace sim {
+namespace {
+
+const std::map<std::string, bool> sizes = {{"1080p", false}, {"4k", true}};
+const std::map<std::string, std::uint32_t> formats = {{"argb1555", 0}, {"argb4444", 1}, {"argb8888", 2}};
+
+const char* const description =
+    "A simulated network camera with its on-screen menu.\n"
+    "Without options it opens a window; without a display it writes camera.png with the menu open.";
+
+const char* const examples = "\nExamples:\n"
+                             "  camera-sim --window\n"
+                             "      a window; M opens the menu, Q or closing the window ends the camera\n"
+                             "  camera-sim --keys menu --snapshot menu.png\n"
+                             "      presses keys without a window and writes what the main channel shows\n"
+                             "  camera-sim --keys menu --snapshot small.png --channel 2 --format argb4444 --still\n"
+                             "      the preview channel, other pixels, a scene that stands still\n"
+                             "  camera-sim --page image --language German --keys menu --snapshot page.png\n"
+                             "      for authors of pages: the menu key opens this page, in this language\n"
+                             "\nExit status: 0 success, 1 the camera failed, 2 the input can't be used.\n";
+
+/// What the command line says before it is checked and turned into Options.
+struct Words {
+    std::string keys;
+    std::string snapshot;
+    std::string size = "1080p";
+    std::string format = "argb8888";
+    std::string language;
+    std::string data;
+};
+
+std::string key_help()
+{
+    std::string text = "Keys:\n";
+    for (const Key& key : all_keys()) {
+        const std::string keyboard = key.keyboard == SDLK_UNKNOWN ? "" : SDL_GetKeyName(key.keyboard);
+        std::string name = key.name;
+        name.resize(std::max<std::size_t>(name.size(), 12), ' ');
+        text += "  " + name + key.help + (keyboard.empty() ? "" : " (" + keyboard + ")") +
+                (key.function == nullptr ? "; no function yet" : "") + "\n";
+    }
+    return text;
+}
+
+template <typename Value>
+std::vector<std::string> names_of(const std::map<std::string, Value>& table)
+{
+    std::vector<std::string> names;
+    for (const auto& [name, value] : table) {
+        names.push_back(name);
+    }
+    return names;
+}
+
+void declare(CLI::App& app, Options& options, Words& words)
+{
+    app.add_option("--keys", words.keys, "Press these keys, separated by spaces, and end")->type_name("\"KEY ...\"");
+    app.add_option("--snapshot", words.snapshot, "Write what the channel shows at the end")->type_name("FILE.png");
+    app.add_option("--channel", options.channel, "Channel that is shown: 0 main, 1 sub, 2 preview")
+        ->check(CLI::Range(0, channel_count - 1))
+        ->capture_default_str();
+    app.add_option("--size", words.size, "Size of the main channel: 1080p or 4k")
+        ->check(CLI::IsMember(names_of(sizes)))
+        ->type_name("SIZE")
+        ->capture_default_str();
+    app.add_option("--format", words.format, "Pixels of the menu: argb1555, argb4444 or argb8888")
+        ->check(CLI::IsMember(names_of(formats)))
+        ->type_name("FORMAT")
+        ->capture_default_str();
+    app.add_option("--style", options.style, "Skin of the menu: 0, 1 or 2")
+        ->check(CLI::Range(0, 2))
+        ->capture_default_str();
+    app.add_option("--language", words.language, "Language for this run only; the stored setting stays")
+        ->type_name("NAME");
+    app.add_option("--page", options.page, "Page that the menu key opens instead of main")->type_name("NAME");
+    app.add_option("--data", words.data, "Folder of stored settings (default: camera-sim in your XDG data home)")
+        ->type_name("DIR");
+    app.add_flag("--reset", options.reset, "Set all settings back to their defaults first");
+    app.add_flag("--still", options.still, "The scene stands at time 0, so that pictures repeat exactly");
+    app.add_flag("--window", options.window, "Open a window");
+}
+
+void check_page(const std::string& page)
+{
+    const std::vector<std::string> names = page_names(OSD_RESOURCE_DIR);
+    if (page.empty() || std::count(names.begin(), names.end(), page) > 0) {
+        return;
+    }
+    std::string known;
+    for (const std::string& name : names) {
+        known += " " + name;
+    }
+    throw BadInput("unknown page '" + page + "', expected one of:" + known);
+}
+
+void take_over(const CLI::App& app, const Words& words, Options& options)
+{
+    if (app.count("--keys") > 0) {
+        options.keys = parse_keys(words.keys);
+    }
+    if (app.count("--snapshot") > 0) {
+        options.snapshot = words.snapshot;
+        check_snapshot_path(*options.snapshot);
+    }
+    if (app.count("--language") > 0) {
+        options.language = words.language;
+    }
+    options.uhd = sizes.at(words.size);
+    options.pixel_format = formats.at(words.format);
+    options.data = app.count("--data") > 0 ? std::filesystem::path(words.data) : default_data_folder();
+    check_page(options.page);
+}
+
+std::string first_line(const std::string& text) { return text.substr(0, text.find('\n')); }
+
+} // namespace
+
+std::optional<Options> parse_options(int argc, const char* const* argv)
+{
+    CLI::App app(description, "camera-sim");
+    app.footer(key_help() + examples);
+    Options options;
+    Words words;
+    declare(app, options, words);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::CallForHelp&) {
+        std::cout << app.help();
+        return std::nullopt;
+    } catch (const CLI::ParseError& error) {
+        throw BadInput(first_line(error.what()) + "; --help explains all options");
+    }
+    if (options.window && app.count("--snapshot") > 0) {
+        throw BadInput("--window and --snapshot can't be used together");
+    }
+    take_over(app, words, options);
+    return options;
+}
+
+} // namespace sim

@@ -1,0 +1,33 @@
+// The command line.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "simulator/host/keys.h"
+
+namespace sim {
+
+struct Options {
+    std::optional<std::vector<const Key*>> keys; ///< none when the option isn't given
+    std::optional<std::filesystem::path> snapshot;
+    int channel = 0;
+    bool uhd = false;
+    std::uint32_t pixel_format = 2;
+    std::uint32_t style = 0;
+    std::optional<std::string> language;
+    std::string page;
+    std::filesystem::path data;
+    bool reset = false;
+    bool still = false;
+    bool window = false;
+};
+
+/// Reads the command line and checks all that can be checked before a start. Empty when the help text was asked for
+/// and printed. Throws BadInput.
+std::optional<Options> parse_options(int argc, const char* const* argv);
+
+} // namespace sim

@@ -1,0 +1,121 @@
+#include "simulator/front/window.h"
+
+#include <SDL.h>
+#include <iostream>
+#include <memory>
+
+#include "simulator/core/errors.h"
+#include "simulator/host/keys.h"
+
+namespace sim {
+namespace {
+
+constexpr Uint32 frame_ms = 40;
+
+struct Destroy {
+    void operator()(SDL_Window* window) const { SDL_DestroyWindow(window); }
+    void operator()(SDL_Renderer* renderer) const { SDL_DestroyRenderer(renderer); }
+    void operator()(SDL_Texture* texture) const { SDL_DestroyTexture(texture); }
+};
+
+/// The video part of SDL, which the menu itself does without.
+class VideoSystem {
+public:
+    VideoSystem() : started_(SDL_InitSubSystem(SDL_INIT_VIDEO) == 0) {}
+    ~VideoSystem()
+    {
+        if (started_) {
+            SDL_QuitSubSystem(SDL_INIT_VIDEO);
+        }
+    }
+    VideoSystem(const VideoSystem&) = delete;
+    VideoSystem& operator=(const VideoSystem&) = delete;
+    bool started() const { return started_; }
+
+private:
+    bool started_;
+};
+
+struct Screen {
+    explicit Screen(Size picture)
+        : window(SDL_CreateWindow("camera-sim", SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED, 1280, 720,
+                                  SDL_WINDOW_RESIZABLE))
+    {
+        if (window != nullptr) {
+            renderer.reset(SDL_CreateRenderer(window.get(), -1, 0));
+        }
+        if (renderer != nullptr) {
+            SDL_SetHint(SDL_HINT_RENDER_SCALE_QUALITY, "linear");
+            SDL_RenderSetLogicalSize(renderer.get(), picture.width, picture.height);
+            texture.reset(SDL_CreateTexture(renderer.get(), SDL_PIXELFORMAT_RGB888, SDL_TEXTUREACCESS_STREAMING,
+                                            picture.width, picture.height));
+        }
+    }
+
+    void show(const Image& picture) const
+    {
+        SDL_UpdateTexture(texture.get(), nullptr, picture.pixels.data(), picture.size.width * 4);
+        SDL_RenderClear(renderer.get());
+        SDL_RenderCopy(renderer.get(), texture.get(), nullptr, nullptr);
+        SDL_RenderPresent(renderer.get());
+    }
+
+    std::unique_ptr<SDL_Window, Destroy> window;
+    std::unique_ptr<SDL_Renderer, Destroy> renderer;
+    std::unique_ptr<SDL_Texture, Destroy> texture;
+};
+
+void press(MenuHost& host, SDL_Keycode code)
+{
+    const Key* key = find_keyboard_key(code);
+    if (key == nullptr) {
+        return;
+    }
+    if (key->function == nullptr) {
+        std::cerr << "camera-sim: key '" << key->name << "' has no function yet" << std::endl;
+        return;
+    }
+    try {
+        key->function(host);
+    } catch (const BadInput& error) { // a page file with a mistake must not end the camera: mend it, press again
+        std::cerr << "camera-sim: " << error.what() << std::endl;
+    }
+}
+
+/// Handles the events at hand; false when the window is to be closed.
+bool handle_events(MenuHost& host)
+{
+    SDL_Event event;
+    while (SDL_PollEvent(&event) != 0) {
+        if (event.type == SDL_QUIT || (event.type == SDL_KEYDOWN && event.key.keysym.sym == SDLK_q)) {
+            return false;
+        }
+        if (event.type == SDL_KEYDOWN) {
+            press(host, event.key.keysym.sym);
+        }
+    }
+    return true;
+}
+
+} // namespace
+
+bool show_window(Camera& camera, MenuHost& host, int channel)
+{
+    const VideoSystem video;
+    if (!video.started()) {
+        return false;
+    }
+    const Screen screen(camera.channels().size(channel));
+    if (screen.texture == nullptr) {
+        return false;
+    }
+    while (handle_events(host)) {
+        const Uint32 began = SDL_GetTicks();
+        screen.show(camera.look_at(channel));
+        const Uint32 used = SDL_GetTicks() - began;
+        SDL_Delay(used < frame_ms ? frame_ms - used : 1);
+    }
+    return true;
+}
+
+} // namespace sim

@@ -1,0 +1,76 @@
+#include "simulator/host/menu_host.h"
+
+#include <array>
+#include <cstdio>
+#include <stdexcept>
+#include <utility>
+
+#include "osd_menu.h"
+#include "simulator/core/errors.h"
+#include "simulator/core/log.h"
+#include "simulator/host/callbacks.h"
+
+namespace sim {
+namespace {
+
+/// The left half of the picture over its full height: the right half stays free, so that the effect of a setting is
+/// seen while it is changed. The place is the corner, because the menu draws inside its canvas at the canvas's own
+/// place and would lose at the right and at the bottom what it is moved by.
+constexpr tagOSD_MENU_RECT_S menu_place = {0.0F, 0.0F, 0.5F, 1.0F};
+
+} // namespace
+
+MenuHost::MenuHost(Camera& camera, MenuConfig config) : camera_(camera), config_(std::move(config))
+{
+    // Without this the library's start would catch Ctrl-C for an event queue that nobody empties.
+    SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+    tagOSD_MENU_CFG_S menu{menu_place, config_.pixel_format, config_.uhd ? 1 : 0, config_.style};
+    if (OSD_MENU_InitOpensourceRes() != 0) {
+        throw std::runtime_error("the menu's graphics libraries don't start, see the log above");
+    }
+    if (OSD_MENU_InitSdkRes(&menu, apply_item, parent_of_zone) != 0) {
+        throw std::runtime_error("the menu doesn't start, see the log above");
+    }
+    Osd_GetVersionCallback(answer_event, &camera_);
+    memory_at_start_ = camera_.memory().in_use();
+}
+
+MenuHost::~MenuHost()
+{
+    Osd_GetVersionCallback(nullptr, nullptr);
+    for (const auto& [name, use] : camera_.memory().in_use()) {
+        const std::size_t expected = memory_at_start_[name].blocks;
+        if (use.blocks > expected) {
+            log_line(LogLevel::Warning, "media",
+                     std::to_string(use.blocks - expected) + " blocks '" + name + "' were never given back");
+        }
+    }
+}
+
+bool MenuHost::is_open() const { return OSD_MENU_GetMenuStatus() == 1; }
+
+void MenuHost::open()
+{
+    if (is_open()) {
+        return;
+    }
+    if (config_.page.empty()) {
+        OSD_MENU_OpenMenu();
+    } else {
+        open_page(config_.page);
+    }
+}
+
+/// The same steps with which the library opens its root page.
+void MenuHost::open_page(const std::string& name)
+{
+    std::array<char, OSD_TEXT_LEN> text{};
+    std::snprintf(text.data(), text.size(), "%s", name.c_str());
+    if (OSD_MENU_ParseXml(text.data(), &gstPageMgr.astPage[0]) != 0) {
+        throw BadInput("page '" + name + "' can't be read, see the lines above");
+    }
+    gstPageMgr.s32PageCnt = 1;
+    OSD_MENU_RenderCanvas();
+}
+
+} // namespace sim

@@ -1,0 +1,44 @@
+// The camera's side of the menu: starts the library and answers its callbacks.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <map>
+#include <string>
+
+#include "simulator/core/camera.h"
+
+namespace sim {
+
+struct MenuConfig {
+    std::uint32_t pixel_format = 2; ///< index of ARGB1555, ARGB4444, ARGB8888
+    std::uint32_t style = 0;        ///< skin, 0 to 2
+    bool uhd = false;               ///< canvas for 3840 by 2160
+    std::string page;               ///< page that opens instead of "main", empty for "main"
+};
+
+/// Runs the menu of one camera. One at a time in a process, as the library keeps its state in globals and has no end;
+/// calls come one at a time.
+class MenuHost {
+public:
+    /// Starts the library on the current camera. Throws std::runtime_error when it refuses.
+    MenuHost(Camera& camera, MenuConfig config);
+    /// Reports media memory that was taken after the start and never given back.
+    ~MenuHost();
+    MenuHost(const MenuHost&) = delete;
+    MenuHost& operator=(const MenuHost&) = delete;
+
+    bool is_open() const;
+    /// Opens the menu on its root page; does nothing when it is open. Throws BadInput when a page that the
+    /// configuration names can't be read.
+    void open();
+
+private:
+    void open_page(const std::string& name);
+
+    Camera& camera_;
+    MenuConfig config_;
+    std::map<std::string, MemoryUse> memory_at_start_;
+};
+
+} // namespace sim

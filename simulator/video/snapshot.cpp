@@ -1,0 +1,65 @@
+#include "simulator/video/snapshot.h"
+
+#include <SDL.h>
+#include <SDL_image.h>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <unistd.h>
+
+#include "simulator/core/errors.h"
+
+namespace sim {
+namespace {
+
+struct FreeSurface {
+    void operator()(SDL_Surface* surface) const { SDL_FreeSurface(surface); }
+};
+
+/// In the same folder as the picture, so that renaming it is one step.
+std::string temporary_name(const std::filesystem::path& path)
+{
+    return path.string() + "." + std::to_string(::getpid()) + ".tmp";
+}
+
+} // namespace
+
+void check_snapshot_path(const std::filesystem::path& path)
+{
+    if (path.extension() != ".png") {
+        throw BadInput("snapshot " + path.string() + ": expected a file name that ends in .png");
+    }
+    if (std::filesystem::is_directory(path)) {
+        throw BadInput("snapshot " + path.string() + ": a folder has this name");
+    }
+    // Trying is the only sure way: rights alone don't tell of read-only and special file systems.
+    const std::string temporary = temporary_name(path);
+    const int file = ::open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0644);
+    if (file < 0) {
+        throw BadInput("snapshot " + path.string() + ": can't write there: " + std::strerror(errno));
+    }
+    ::close(file);
+    ::unlink(temporary.c_str());
+}
+
+void save_png(const Image& image, const std::filesystem::path& path)
+{
+    const int pitch = image.size.width * 4;
+    // SDL takes the pixels without const, but only reads them when it saves.
+    const std::unique_ptr<SDL_Surface, FreeSurface> surface(
+        SDL_CreateRGBSurfaceWithFormatFrom(const_cast<Color*>(image.pixels.data()), image.size.width, image.size.height,
+                                           32, pitch, SDL_PIXELFORMAT_RGB888));
+    const std::string temporary = temporary_name(path);
+    if (surface == nullptr || IMG_SavePNG(surface.get(), temporary.c_str()) != 0) {
+        const std::string words = SDL_GetError();
+        std::error_code ignored; // the first failure is the one to tell
+        std::filesystem::remove(temporary, ignored);
+        throw std::runtime_error("snapshot " + path.string() + ": " + words);
+    }
+    std::filesystem::rename(temporary, path);
+}
+
+} // namespace sim

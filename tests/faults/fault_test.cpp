@@ -1,0 +1,152 @@
+// Every call that can fail fails once, alone: nothing is left over, and the next draw is the undisturbed picture.
+#include <cstring>
+
+#include "menu/core/page.h"
+#include "tests/fake/menu_test.h"
+
+using namespace fake;
+
+namespace {
+
+const char MAIN_PAGE[] = R"(<P Layout="vertical_align" Title="Setup" TitlePos="Left">
+    <I ItemIndex="Zoom" Ctx="NAME_BAR_VAL" Attr="COMMON" ValType="NUMERICAL"/>
+    <I ItemIndex="Gain" Ctx="NAME_VAL" Attr="KEY_WITH_MSG" Msg="Confirm" DataZone="Cam"/>
+    <I ItemIndex="Live" Ctx="NAME_VAL" Attr="CONST_TXT" ShowValue="1"/>
+    <I ItemIndex="DeviceType" Ctx="NAME_VAL" Attr="STATUS"/>
+    <I ItemIndex="NdiStatus" Ctx="NAME_VAL" Attr="STATUS"/>
+    <I ItemIndex="Go" Ctx="NAME_VAL" Attr="CONFIRM_POP" Value="Start" ConfirmPage="confirm"/>
+    <I ItemIndex="IpMode" Ctx="NAME_VAL" Attr="MSG_WITH_SUBITEM" Msg="Confirm"><O ModeIndex="DhcpIp">
+        <I ItemIndex="DnsMode" Ctx="NAME_VAL" Attr="SUBITEM"><O ModeIndex="AutoMode"/><O ModeIndex="Manual"/></I>
+        <I ItemIndex="IpAddr" Ctx="NAME_IP_VAL" Attr="EDITABLE" ValType="EDITTXT"/></O><O ModeIndex="StaticIp"/></I>
+    <I ItemIndex="More" Ctx="NAME" Attr="SUBPAGE" SubPage="more"/>
+    <I ItemIndex="Apply" Ctx="NAME" Attr="CONFIRM_POP_BTN" ConfirmPage="confirm" ItemPos="Center"/></P>)";
+
+} // namespace
+
+class FaultTest : public MenuTest {
+protected:
+    void SetUp() override
+    {
+        MenuTest::SetUp();
+        setNumber("Zoom", 0, 100, 1, 40);
+        setText("Gain", "Auto:Low:High", "Low");
+        setText("Live", "", "Text");
+        setText("IpMode", "", "DhcpIp");
+        setText("DnsMode", "", "Manual");
+        setText("IpAddr", "", "10.0.0.7");
+        platform().deviceType = "PTZ";
+        platform().pages["main"] = MAIN_PAGE;
+        start({0, 1, 0, {0.0f, 0.0f, 0.3f, 0.6f}, false});
+    }
+
+    // Redraws with an address being edited and a message line, and gives the picture that was pushed.
+    static std::vector<unsigned char> redraw()
+    {
+        tagPAGE_NODE_S* page = &gstPageMgr.astPage[0];
+        page->bKeyMsg = 1;
+        setField(page->acKeyMsg, "Press");
+        const tagITEM_NODE_S* mode = itemAt(page->stItemList, 6);
+        if (mode != nullptr) {
+            tagITEM_NODE_S* address = itemAt(mode->astSubList[0], 1);
+            address->bEditing = 1;
+            address->s32EditCursor = 7;
+        }
+        platform().pushes.clear();
+        (void)printed([] { EXPECT_EQ(OSD_MENU_RenderCanvas(), 0); });
+        return platform().pushes.at(0).pixels;
+    }
+
+    static void openMenu()
+    {
+        (void)printed([] { EXPECT_EQ(OSD_MENU_OpenMenu(), 0); });
+    }
+
+    static void closeMenu()
+    {
+        EXPECT_EQ(osdMenuReleaseSinglePage(), 0);
+        EXPECT_EQ(liveItems(), 0);
+        EXPECT_EQ(platform().documents, 0);
+    }
+
+    // Lets each call of a name fail alone, as often as an undisturbed action makes it.
+    template <typename Action, typename Check>
+    static void failEach(const std::vector<std::string>& names, Action action, Check check)
+    {
+        calls().counts.clear();
+        action();
+        const std::map<std::string, int> counts = calls().counts;
+        check();
+        for (const std::string& name : names) {
+            ASSERT_TRUE(counts.count(name) != 0) << name << " is never called";
+            for (int n = 1; n <= counts.at(name); n++) {
+                SCOPED_TRACE(name + " " + std::to_string(n));
+                failCall(name, n);
+                action();
+                calls().failing.clear();
+                check();
+            }
+        }
+    }
+};
+
+TEST_F(FaultTest, Redraw)
+{
+    openMenu();
+    const std::vector<unsigned char> undisturbed = redraw();
+    const size_t surfaces = calls().surfaces.size();
+    failEach(
+        {"TTF_SetFontSize", "TTF_SizeUTF8", "TTF_RenderUTF8_Blended", "SDL_CreateRGBSurfaceWithFormat",
+         "SDL_ConvertSurfaceFormat", "rotozoomSurfaceXY", "IMG_Load", "access", "SDL_FillRect", "SDL_UpperBlit", "text",
+         "translate", "language", "push"},
+        [] { (void)redraw(); },
+        [&] {
+            EXPECT_EQ(calls().surfaces.size(), surfaces);
+            EXPECT_TRUE(redraw() == undisturbed);
+        });
+}
+
+TEST_F(FaultTest, Open)
+{
+    openMenu();
+    const std::vector<unsigned char> undisturbed = redraw();
+    const size_t surfaces = calls().surfaces.size();
+    closeMenu();
+    failEach(
+        {"document", "language", "translate", "calloc", "text", "number", "attribute", "TTF_RenderUTF8_Blended"},
+        [] { openMenu(); },
+        [&] {
+            EXPECT_EQ(calls().surfaces.size(), surfaces);
+            closeMenu();
+            openMenu();
+            EXPECT_TRUE(redraw() == undisturbed);
+            closeMenu();
+        });
+}
+
+TEST_F(FaultTest, GarbageFromTheServicesStaysInBounds)
+{
+    const auto hammer = [] {
+        (void)redraw();
+        (void)printed([] {
+            char key[] = "Zoom";
+            EXPECT_EQ(OSD_MENU_RefreshItem(key), 0);
+            EXPECT_EQ(OSD_MENU_RefreshPage(), 0);
+        });
+        (void)redraw();
+    };
+    openMenu();
+    platform().garbage = true; // first only in what is read again, then from the start
+    hammer();
+    (void)printed([] { EXPECT_EQ(OSD_MENU_RefreshCurrentPage(), 0); });
+    EXPECT_EQ(gstPageMgr.astPage[0].s32ItemCnt, 9);
+    hammer();
+    for (int at = 0; at < gstPageMgr.astPage[0].s32ItemCnt; at++) {
+        const tagITEM_NODE_S* item = itemAt(gstPageMgr.astPage[0].stItemList, at);
+        EXPECT_LT(strnlen(item->acItemName, OSD_TEXT_LEN), 32u);
+        EXPECT_LE(item->s32ValCnt, 32);
+        for (int option = 0; item->enValType != NUMERICAL && option < item->s32ValCnt; option++) {
+            EXPECT_LT(strnlen(item->acValue[option], OSD_TEXT_LEN), 32u) << at;
+            EXPECT_LT(strnlen(item->acValueKey[option], OSD_TEXT_LEN), 32u) << at;
+        }
+    }
+}
