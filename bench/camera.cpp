@@ -1,18 +1,16 @@
 #include "camera.h"
 
 #include <fcntl.h>
-#include <tinyxml2.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <fstream>
-#include <memory>
+#include <map>
 #include <stdexcept>
 #include <string>
-#include <vector>
+#include <string_view>
 
 #include "menu/core/page.h"
 #include "page.h"
@@ -23,25 +21,7 @@
 namespace bench {
 namespace {
 
-struct Page {
-    int rows;
-    std::string name; // as the library asks for it
-    std::string file;
-};
-
-std::vector<Page> pages;
-
-const Page& page_of(int rows)
-{
-    return *std::find_if(pages.begin(), pages.end(), [=](const Page& page) { return page.rows == rows; });
-}
-
-std::unique_ptr<tinyxml2::XMLDocument> load(const Page& page)
-{
-    auto document = std::make_unique<tinyxml2::XMLDocument>();
-    document->LoadFile(page.file.c_str());
-    return document;
-}
+std::map<std::string, std::string> page_files; // page name to path
 
 int apply_nothing(tagITEM_NODE_S* /*item*/) { return 0; }
 
@@ -61,10 +41,11 @@ PageFolder::PageFolder()
         throw std::runtime_error("cannot make a folder for the page files: " + pattern);
     }
     folder_ = pattern;
+    page_files[camera_page] = std::string(OSD_RESOURCE_DIR "/menu/") + camera_page + "_page.xml";
     for (const int rows : row_counts) {
-        const std::string name = "rows" + std::to_string(rows);
-        pages.push_back({rows, name, folder_ / (name + "_page.xml")});
-        std::ofstream(pages.back().file) << page_xml(make_rows(rows));
+        const std::string file = folder_ / (rows_page(rows) + "_page.xml");
+        std::ofstream(file) << page_xml(make_rows(rows));
+        page_files[rows_page(rows)] = file;
     }
 }
 
@@ -82,16 +63,25 @@ int start_library(bool is_4k, uint32_t pixel_format)
     return result;
 }
 
-void open_page(int rows)
+std::string rows_page(int rows) { return "rows" + std::to_string(rows); }
+
+void open_page(const std::string& name)
 {
     close_page();
-    OSD_MENU_ParseXml(const_cast<char*>(page_of(rows).name.c_str()), &gstPageMgr.astPage[0]);
+    OSD_MENU_ParseXml(const_cast<char*>(name.c_str()), &gstPageMgr.astPage[0]);
     gstPageMgr.s32PageCnt = 1;
 }
 
 void close_page() { osdMenuReleaseSinglePage(); }
 
-tinyxml2::XMLDocument* load_document(int rows) { return load(page_of(rows)).release(); }
+std::unique_ptr<tinyxml2::XMLDocument> load_document(const std::string& name)
+{
+    auto document = std::make_unique<tinyxml2::XMLDocument>();
+    const auto file = page_files.find(name);
+    const bool is_loaded =
+        file != page_files.end() && document->LoadFile(file->second.c_str()) == tinyxml2::XML_SUCCESS;
+    return is_loaded ? std::move(document) : nullptr;
+}
 
 std::FILE* split_output()
 {
@@ -147,12 +137,9 @@ int CFG_LANG_GetString(char* /*language*/, char* key, char* out)
 tinyxml2::XMLDocument* CFG_GetDocByFileName(const char* path, OSD_BOOL /*read*/)
 {
     bench::in_service = true;
-    const char* name = std::strrchr(path, '/') + 1;
-    const auto page = std::find_if(bench::pages.begin(), bench::pages.end(), [=](const bench::Page& candidate) {
-        return std::strncmp(name, candidate.name.c_str(), candidate.name.size()) == 0 &&
-               name[candidate.name.size()] == '_';
-    });
-    tinyxml2::XMLDocument* document = page != bench::pages.end() ? bench::load(*page).release() : nullptr;
+    const std::string_view file = std::strrchr(path, '/') + 1;
+    const std::string name(file.substr(0, file.rfind("_page.xml")));
+    tinyxml2::XMLDocument* document = bench::load_document(name).release();
     bench::in_service = false;
     return document;
 }

@@ -1,13 +1,14 @@
 // The camera as the benchmark needs it: services that answer at once, so that the library's own share shows.
 #pragma once
 
+#include <cstdio>
 #include <filesystem>
+#include <memory>
+#include <string>
+
+#include <tinyxml2.h>
 
 #include "osd_menu.h"
-
-namespace tinyxml2 {
-class XMLDocument;
-}
 
 namespace bench {
 
@@ -25,15 +26,19 @@ private:
 
 inline constexpr int row_counts[] = {5, 10, 20};
 
+// A page of the camera's own, with ten items; the pages of rows are called "rows5" and so on.
+inline constexpr char camera_page[] = "image";
+std::string rows_page(int rows);
+
 // Initialises the library for a canvas of this kind; the result of OSD_MENU_InitSdkRes.
 int start_library(bool is_4k, uint32_t pixel_format);
 
-// Opens the page of that many rows in place of an open one, without drawing.
-void open_page(int rows);
+// Opens a page in place of an open one, without drawing.
+void open_page(const std::string& name);
 void close_page();
 
-// The page file of that many rows, loaded by tinyxml2 alone.
-tinyxml2::XMLDocument* load_document(int rows);
+// The file of a page, loaded by tinyxml2 alone; null for a page that there is not.
+std::unique_ptr<tinyxml2::XMLDocument> load_document(const std::string& name);
 
 // Sends what the library prints to nowhere, and returns a stream for the benchmark's own lines.
 std::FILE* split_output();

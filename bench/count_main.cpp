@@ -39,7 +39,7 @@ int total(const Counts& counts)
 
 void count_redraw(int rows)
 {
-    bench::open_page(rows);
+    bench::open_page(bench::rows_page(rows));
     OSD_MENU_RenderCanvas(); // once before, so that nothing of a first time is counted
     const bench::BareRedraw bare(bench::make_rows(rows));
     bench::start_counting();
@@ -52,14 +52,36 @@ void count_redraw(int rows)
                  total(bare_counts), count_surplus(library_counts, bare_counts), library_counts.allocations);
 }
 
-void count_open(int rows)
+int count_below(const tagITEM_NODE_S* item);
+
+int count_list(const list_head* head)
 {
-    bench::open_page(rows);
-    bench::close_page();
+    int items = 0;
+    for (const list_head* link = head->next; link != nullptr && link != head; link = link->next) {
+        const char* start = reinterpret_cast<const char*>(link) - offsetof(tagITEM_NODE_S, stNode);
+        items += count_below(reinterpret_cast<const tagITEM_NODE_S*>(start));
+    }
+    return items;
+}
+
+// The item and all items below it, under every option.
+int count_below(const tagITEM_NODE_S* item)
+{
+    int items = 1;
+    for (int option = 0; option < item->s32ValCnt && item->enAttr == SUBITEM; option++) {
+        items += count_list(&item->astSubList[option]);
+    }
+    return items;
+}
+
+void count_open()
+{
+    bench::open_page(bench::camera_page); // once before, so that nothing of a first time is counted
     bench::start_counting();
-    bench::open_page(rows);
+    bench::open_page(bench::camera_page);
     const Counts counts = bench::stop_counting();
-    std::fprintf(own, "open %d allocations %d\n", rows, counts.allocations);
+    std::fprintf(own, "open %s items %d allocations %d\n", bench::camera_page,
+                 count_list(&gstPageMgr.astPage[0].stItemList), counts.allocations);
 }
 
 } // namespace
@@ -74,14 +96,14 @@ int main(int argc, char** argv)
         return 1;
     }
     if (argc > 1 && std::strcmp(argv[1], "instructions") == 0) {
-        bench::open_page(10);
+        bench::open_page(bench::rows_page(10));
         OSD_MENU_RenderCanvas();
         return 0;
     }
     for (const int rows : bench::row_counts) {
         count_redraw(rows);
-        count_open(rows);
     }
+    count_open();
     bench::close_page();
     return 0;
 }

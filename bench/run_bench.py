@@ -47,9 +47,9 @@ def show_times(program):
                 if not holds:
                     missed.append(line.strip())
             elif words[0] == "open":
-                rows, library, load, ratio = words[1:]
-                name = f"open {rows} rows: {library} us, tinyxml2 alone {load} us"
-                gate(name, ratio, rows != "10" or float(ratio) <= OPEN_RATIO, OPEN_RATIO if rows == "10" else "none")
+                page, library, load, ratio = words[1:]
+                gate(f"open page {page}: {library} us, tinyxml2 alone {load} us", ratio,
+                     float(ratio) <= OPEN_RATIO, OPEN_RATIO)
             else:
                 missed.append(line.strip())
                 print(line, end="")
@@ -69,7 +69,8 @@ def show_counts(program):
                  surplus == "0", "surplus 0")
             gate(f"redraw of {rows} rows: allocations", allocations, allocations == "0", 0)
         elif words[0] == "open":
-            gate(f"open a page of {words[1]} rows: allocations", words[3], words[3] == words[1], words[1])
+            page, items, allocations = words[1], words[3], words[5]
+            gate(f"open page {page}: allocations, one an item", allocations, allocations == items, items)
 
 
 def counted_names():

@@ -29,10 +29,10 @@ protected:
         start("German");
     }
 
-    void start(const std::string& language)
+    void start(const std::string& wanted)
     {
         camera.reset(); // one camera at a time
-        camera.emplace(CameraConfig{folder.path(), folder.path("data"), false, false, true, language});
+        camera.emplace(CameraConfig{folder.path(), folder.path("data"), false, false, true, wanted});
     }
 
     TempFolder folder;
