@@ -1,10 +1,9 @@
 // The redraw of the top page and its push to the channels.
-#include <cstdio>
-
 #include "comm/log.h"
 #include "menu/core/flat_list.h"
 #include "menu/core/layout.h"
 #include "menu/core/page.h"
+#include "menu/core/page_parse.h"
 #include "menu/core/words.h"
 #include "osd_comm.h"
 #include "osd_menu.h"
@@ -64,8 +63,7 @@ int OSD_MENU_OpenMenu()
     if (gstPageMgr.s32PageCnt != 0) {
         return 0;
     }
-    char acName[] = "main";
-    (void)OSD_MENU_ParseXml(acName, &gstPageMgr.astPage[0]); // a page that can't be parsed opens empty
+    (void)osdPageParse(OSD_PAGE_MAIN, &gstPageMgr.astPage[0]); // a page that can't be parsed opens empty
     gstPageMgr.s32PageCnt++;
     (void)OSD_MENU_RenderCanvas();
     return 0;

@@ -83,7 +83,8 @@ static void osdPageReadFlags(const tagATTR_SET_S& stSet, tagPAGE_NODE_S* pstPage
     pstPage->bRdOnly = s32RdOnly == 1 ? 1 : 0;
 }
 
-int osdXmlParsePageAttribute(char* pcLanguage, tinyxml2::XMLElement* pstRoot, tagPAGE_NODE_S* pstPage, char* pcPageName)
+static int osdPageReadAttributes(const char* pcLanguage, const tinyxml2::XMLElement* pstRoot, tagPAGE_NODE_S* pstPage,
+                                 const char* pcPageName)
 {
     char acName[OSD_TEXT_LEN];
     osdTextSet(acName, pcPageName); // the name may stand in the record itself
@@ -97,6 +98,11 @@ int osdXmlParsePageAttribute(char* pcLanguage, tinyxml2::XMLElement* pstRoot, ta
     }
     osdPageReadFlags(stSet, pstPage);
     return 0;
+}
+
+int osdXmlParsePageAttribute(char* pcLanguage, tinyxml2::XMLElement* pstRoot, tagPAGE_NODE_S* pstPage, char* pcPageName)
+{
+    return osdPageReadAttributes(pcLanguage, pstRoot, pstPage, pcPageName);
 }
 
 static int osdPageReadItems(char* pcLanguage, tinyxml2::XMLElement* pstRoot, tagPAGE_NODE_S* pstPage)
@@ -113,10 +119,10 @@ static int osdPageReadItems(char* pcLanguage, tinyxml2::XMLElement* pstRoot, tag
     return 0;
 }
 
-static int osdPageReadRoot(tinyxml2::XMLElement* pstRoot, tagPAGE_NODE_S* pstPage, char* pcPageName)
+static int osdPageReadRoot(tinyxml2::XMLElement* pstRoot, tagPAGE_NODE_S* pstPage, const char* pcPageName)
 {
     char acLanguage[OSD_TEXT_LEN];
-    if (osdCfgLanguage(acLanguage) != 0 || osdXmlParsePageAttribute(acLanguage, pstRoot, pstPage, pcPageName) != 0 ||
+    if (osdCfgLanguage(acLanguage) != 0 || osdPageReadAttributes(acLanguage, pstRoot, pstPage, pcPageName) != 0 ||
         osdPageReadItems(acLanguage, pstRoot, pstPage) != 0) {
         OSD_TRACE_FAILED();
         return -1;
@@ -124,14 +130,14 @@ static int osdPageReadRoot(tinyxml2::XMLElement* pstRoot, tagPAGE_NODE_S* pstPag
     return 0;
 }
 
-int OSD_MENU_ParseXml(char* pcPageName, tagPAGE_NODE_S* pstPage)
+int osdPageParse(const char* pcPageName, tagPAGE_NODE_S* pstPage)
 {
     osdListInit(&pstPage->stItemList);
     char acPath[OSD_PATH_LEN];
     (void)snprintf(acPath, sizeof(acPath), "%s%s_page.xml", OSD_DIR_MENU, pcPageName);
     // a name that no page record holds belongs to no page
-    const std::unique_ptr<tinyxml2::XMLDocument> pstDoc(osdTextFits(pcPageName) ? CFG_GetDocByFileName(acPath, 1)
-                                                                                : nullptr);
+    const bool bFits = osdTextFits(pcPageName);
+    const std::unique_ptr<tinyxml2::XMLDocument> pstDoc(bFits ? CFG_GetDocByFileName(acPath, 1) : nullptr);
     if (pstDoc == nullptr) {
         OSD_LOG(OSD_LOG_LEVEL_ERR, "Load %s failed\n", acPath);
         return -1;
@@ -144,3 +150,5 @@ int OSD_MENU_ParseXml(char* pcPageName, tagPAGE_NODE_S* pstPage)
     }
     return osdPageReadRoot(pstRoot, pstPage, pcPageName);
 }
+
+int OSD_MENU_ParseXml(char* pcPageName, tagPAGE_NODE_S* pstPage) { return osdPageParse(pcPageName, pstPage); }

@@ -2,6 +2,7 @@
 #include "comm/text.h"
 #include "menu/core/flat_list.h"
 #include "menu/core/page.h"
+#include "menu/core/page_parse.h"
 #include "menu/core/value_bind.h"
 #include "osd_menu.h"
 
@@ -14,7 +15,7 @@ int OSD_MENU_RefreshCurrentPage()
     char acName[OSD_TEXT_LEN];
     osdTextSetField(acName, pstPage->acPageName); // the parse clears the record
     osdPageDropItems(pstPage);
-    (void)OSD_MENU_ParseXml(acName, pstPage); // a page that can't be parsed shows what it has
+    (void)osdPageParse(acName, pstPage); // a page that can't be parsed shows what it has
     (void)OSD_MENU_RenderCanvas();
     return 0;
 }

@@ -49,7 +49,7 @@ TEST_F(GoldenTest, PixelFormatsAgree)
 {
     draw({0, 2, 0, PLACE, false});
     SDL_Surface* expected = SDL_DuplicateSurface(gstMenuMgr.pstSurface);
-    const std::pair<uint32_t, int> steps[] = {{0, 8}, {1, 17}}; // one step of the format's channels
+    const std::pair<uint32_t, int> steps[] = {{0, 16}, {1, 34}}; // two steps: background and blend are both cut
     for (const auto& [pixelFormat, step] : steps) {
         stop();
         draw({0, pixelFormat, 0, PLACE, false});
