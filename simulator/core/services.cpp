@@ -22,22 +22,18 @@ namespace {
 constexpr int ok = 0;
 constexpr int failed = -1;
 
-struct Platform {
-    Camera* camera = nullptr;
-    int (*update_channel)(OSD_BOOL, OSD_ATTACH_INFO_S*) = nullptr;
-};
-Platform platform;
+Camera* current_camera = nullptr;
 
 /// Runs the body of a service with the current camera. The callers are C functions: no exception may pass.
 template <typename Body>
 int serve(const char* service, Body body)
 {
-    if (platform.camera == nullptr) {
+    if (current_camera == nullptr) {
         log_line(LogLevel::Error, service, "there is no camera");
         return failed;
     }
     try {
-        return body(*platform.camera);
+        return body(*current_camera);
     } catch (const std::exception& error) {
         log_line(LogLevel::Error, service, error.what());
         return failed;
@@ -107,15 +103,9 @@ int push(bool show, std::optional<int> channel, const tagOSD_MENU_CANVAS_S* canv
 
 } // namespace
 
-void set_current_camera(Camera* camera) { platform = {camera, nullptr}; }
+void set_current_camera(Camera* camera) { current_camera = camera; }
 
-Camera* Camera::current() { return platform.camera; }
-
-bool refresh_channel(int channel, bool show)
-{
-    OSD_ATTACH_INFO_S attach{channel};
-    return platform.update_channel != nullptr && platform.update_channel(show ? 1 : 0, &attach) == ok;
-}
+Camera* Camera::current() { return current_camera; }
 
 } // namespace sim
 
@@ -233,10 +223,9 @@ int MPP_MENU_CreateSdkResource(tagOSD_MENU_CANVAS_S* pstCanvas)
     });
 }
 
-int MPP_MENU_SetMenuCb(int (*pfnUpdate)(OSD_BOOL, OSD_ATTACH_INFO_S*))
+int MPP_MENU_SetMenuCb(int (* /*pfnUpdate*/)(OSD_BOOL, OSD_ATTACH_INFO_S*))
 {
-    platform.update_channel = pfnUpdate;
-    return ok;
+    return ok; // a channel that restarts would ask for its canvas; the channels here run without a break
 }
 
 int MPP_MENU_UpdateCanvasToAllChns(OSD_BOOL bShow, tagOSD_MENU_CANVAS_S* pstCanvas)

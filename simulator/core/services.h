@@ -1,6 +1,7 @@
 // The platform functions that the menu calls, see platform/. They forward to one camera.
 #pragma once
 
+/// Names a channel by its number.
 struct OSD_ATTACH_INFO_S {
     int channel;
 };
@@ -11,9 +12,5 @@ class Camera;
 
 /// The platform functions answer from this camera from now on; null for none, then they all fail.
 void set_current_camera(Camera* camera);
-
-/// Calls the function that the menu registered with the media service for one channel. Returns false when there is
-/// none.
-bool refresh_channel(int channel, bool show);
 
 } // namespace sim

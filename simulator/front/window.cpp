@@ -3,6 +3,7 @@
 #include <SDL.h>
 #include <iostream>
 #include <memory>
+#include <string>
 
 #include "simulator/core/errors.h"
 #include "simulator/host/keys.h"
@@ -28,9 +29,10 @@ public:
             SDL_QuitSubSystem(SDL_INIT_VIDEO);
         }
     }
+    /// SDL's last resort is a driver whose windows nobody sees; to a user that is no display.
+    bool can_show() const { return started_ && std::string(SDL_GetCurrentVideoDriver()) != "offscreen"; }
     VideoSystem(const VideoSystem&) = delete;
     VideoSystem& operator=(const VideoSystem&) = delete;
-    bool started() const { return started_; }
 
 private:
     bool started_;
@@ -102,7 +104,8 @@ bool handle_events(MenuHost& host)
 bool show_window(Camera& camera, MenuHost& host, int channel)
 {
     const VideoSystem video;
-    if (!video.started()) {
+    if (!video.can_show()) {
+        SDL_SetError("there is no display");
         return false;
     }
     const Screen screen(camera.channels().size(channel));

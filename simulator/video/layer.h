@@ -25,7 +25,7 @@ Layer copy_canvas(const tagOSD_MENU_CANVAS_S& canvas);
 /// Why a canvas with a block of this many bytes can't be shown; null when it can.
 const char* canvas_problem(const tagOSD_MENU_CANVAS_S& canvas, std::size_t block_bytes);
 
-/// A layer as it lies on a channel: scaled by averaging, with place giving its rectangle on the channel.
+/// A layer as it lies on a channel; shrinking averages the pixels.
 struct ScaledLayer {
     Image pixels;
     int left = 0;

@@ -9,12 +9,6 @@ using testing::IsEmpty;
 
 class CanvasTest : public MenuTest {};
 
-TEST_F(CanvasTest, RefusesBeforeTheStart)
-{
-    EXPECT_EQ(printed([&] { EXPECT_EQ(OSD_MENU_RenderCanvas(), -1); }), "[F:L] osd not init\n");
-    EXPECT_THAT(calls().lines, IsEmpty());
-}
-
 TEST_F(CanvasTest, ClosedMenuIsHiddenWithItsPixelsAsTheyAre)
 {
     start();

@@ -257,35 +257,37 @@ TEST_F(ParseTest, GarbageIsRefused)
 
 TEST_F(ParseTest, TextOfMoreThan31BytesIsRefused)
 {
-    const struct {
-        const char *before, *after;
-    } places[] = {
-        {"<P Layout='vertical_align' TitlePos='Left' Title='", "'/>"},
+    const std::string base = "Layout='vertical_align' ";
+    const std::string name = "ItemIndex='A' Ctx='NAME' Attr=";
+    const std::string icon = "ItemIndex='A' Ctx='ICON' Attr='CONST_TXT' ";
+    const std::string keth = "Layout='vertical_align_keth' CurPagesNum='";
+    const std::pair<std::string, std::string> documents[] = {
+        // up to the text, and what follows it
+        {"<P " + base + "TitlePos='Left' Title='", "'/>"},
         {"<P Layout='horizontal_align_keth' Msg='", "'/>"},
-        {"<P Layout='vertical_align_keth' CurPagesNum='", "'/>"},
-        {"<P Layout='vertical_align_keth' CurPagesNum='1' NextPage='", "'/>"},
-        {"<P Layout='vertical_align_keth' CurPagesNum='1' PrevPage='", "'/>"},
-        {"<P Layout='vertical_align'><I Ctx='NAME' Attr='CONST_TXT' ItemIndex='", "'/></P>"},
-        {"<P Layout='vertical_align'><I ItemIndex='A' Ctx='ICON' Attr='CONST_TXT' Pic='", "'/></P>"},
-        {"<P Layout='vertical_align'><I ItemIndex='A' Ctx='ICON' Attr='CONST_TXT' SelectPic='", "'/></P>"},
-        {"<P Layout='vertical_align'><I ItemIndex='A' Ctx='NAME' Attr='CONFIRM_POP_BTN' ConfirmPage='", "'/></P>"},
-        {"<P Layout='vertical_align'><I ItemIndex='A' Ctx='NAME' Attr='KEY_WITH_MSG' Msg='", "'/></P>"},
-        {"<P Layout='vertical_align'><I ItemIndex='A' Ctx='NAME' Attr='SUBPAGE' SubPage='", "'/></P>"},
-        {"<P Layout='vertical_align'><I ItemIndex='A' Ctx='NAME' Attr='SUBITEM'><O ModeIndex='", "'/></I></P>"},
-    };
-    for (const auto& place : places) {
+        {"<P " + keth, "'/>"},
+        {"<P " + keth + "1' NextPage='", "'/>"},
+        {"<P " + keth + "1' PrevPage='", "'/>"},
+        {"<P " + base + "><I Ctx='NAME' Attr='CONST_TXT' ItemIndex='", "'/></P>"},
+        {"<P " + base + "><I " + icon + "Pic='", "'/></P>"},
+        {"<P " + base + "><I " + icon + "SelectPic='", "'/></P>"},
+        {"<P " + base + "><I " + name + "'CONFIRM_POP_BTN' ConfirmPage='", "'/></P>"},
+        {"<P " + base + "><I " + name + "'KEY_WITH_MSG' Msg='", "'/></P>"},
+        {"<P " + base + "><I " + name + "'SUBPAGE' SubPage='", "'/></P>"},
+        {"<P " + base + "><I " + name + "'SUBITEM'><O ModeIndex='", "'/></I></P>"}};
+    for (const auto& [before, after] : documents) {
         for (size_t length : {31u, 32u, 5000u}) {
-            (void)printed([&] {
+            (void)printed([&, before = before, after = after] {
                 enMenuStyle = 1;
-                open("p", place.before + std::string(length, 'k') + place.after, length == 31 ? 0 : -1);
+                open("p", before + std::string(length, 'k') + after, length == 31 ? 0 : -1);
             });
             stop();
         }
     }
     const std::string zone = "ItemIndex='A' Ctx='NAME' Attr='CONST_TXT' DataZone='" + std::string(5000, 'z') + "'";
     EXPECT_EQ(parsed(item(zone)), "A|t.A ctx=2 attr=0 active=1 zone=" + std::string(31, 'z')) << "cut, not refused";
-    std::string name(5000, 'n');
-    EXPECT_EQ(OSD_MENU_ParseXml(name.data(), &gstPageMgr.astPage[0]), -1);
+    std::string page(5000, 'n');
+    EXPECT_EQ(OSD_MENU_ParseXml(page.data(), &gstPageMgr.astPage[0]), -1);
     EXPECT_EQ(gstPageMgr.astPage[0].stItemList.next, &gstPageMgr.astPage[0].stItemList);
 }
 

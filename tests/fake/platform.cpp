@@ -1,8 +1,8 @@
 #include "tests/fake/platform.h"
 
+#include <algorithm>
 #include <climits>
 #include <cstdarg>
-#include <cstdlib>
 #include <cstring>
 #include <memory>
 #include <tinyxml2.h>
@@ -15,14 +15,9 @@ using fake::platform;
 
 namespace {
 
-constexpr size_t GUARD = 64;
+constexpr int GUARD = 64;
 constexpr unsigned char GUARD_BYTE = 0xC3;
 constexpr unsigned char FILL_BYTE = 0xA5;
-
-struct Block { // stands before the guard, the pixels and a second guard
-    size_t size;
-    char padding[GUARD - sizeof(size_t)];
-};
 
 struct CountedDocument : tinyxml2::XMLDocument {
     CountedDocument() { platform().documents++; }
@@ -80,9 +75,8 @@ void push(const char* call, OSD_BOOL show, const void* attach, const tagOSD_MENU
     fake::Push entry = {show != 0, locked, canvas, attach, {}};
     const auto it = platform().blocks.find(canvas->stMem.pvVirAddr);
     if (it != platform().blocks.end()) {
-        const auto* pixels = static_cast<const unsigned char*>(it->first);
-        const Block* block = reinterpret_cast<const Block*>(pixels - GUARD - sizeof(Block));
-        entry.pixels.assign(pixels, pixels + block->size);
+        const std::vector<unsigned char>& bytes = it->second.second;
+        entry.pixels.assign(bytes.begin() + GUARD, bytes.end() - GUARD);
     }
     platform().pushes.push_back(entry);
 }
@@ -218,15 +212,11 @@ int MPP_AllocMem(const char* name, uint32_t size, int flag, void* out)
     if (fake::fails("alloc") || size > 64u << 20) {
         return -1;
     }
-    auto* block = static_cast<Block*>(malloc(sizeof(Block) + 2 * GUARD + size));
-    block->size = size;
-    auto* guard = reinterpret_cast<unsigned char*>(block + 1);
-    memset(guard, GUARD_BYTE, GUARD);
-    memset(guard + GUARD, FILL_BYTE, size);
-    memset(guard + GUARD + size, GUARD_BYTE, GUARD);
+    std::vector<unsigned char> bytes(size + 2 * GUARD, GUARD_BYTE);
+    std::fill(bytes.begin() + GUARD, bytes.end() - GUARD, FILL_BYTE);
     auto* mem = static_cast<tagOSD_MEM_S*>(out);
-    *mem = {0x1122334455667788u, guard + GUARD, {1, 2}};
-    platform().blocks[mem->pvVirAddr] = name;
+    *mem = {0x1122334455667788u, bytes.data() + GUARD, {1, 2}};
+    platform().blocks[mem->pvVirAddr] = {name, std::move(bytes)};
     return 0;
 }
 
@@ -239,15 +229,12 @@ int MPP_FreeMem(void* out)
         platform().damaged++;
         return -1;
     }
-    fake::record("release " + it->second);
+    const auto& [name, bytes] = it->second;
+    fake::record("release " + name);
+    const auto damaged = [](unsigned char byte) { return byte != GUARD_BYTE; };
+    platform().damaged += std::any_of(bytes.begin(), bytes.begin() + GUARD, damaged) ? 1 : 0;
+    platform().damaged += std::any_of(bytes.end() - GUARD, bytes.end(), damaged) ? 1 : 0;
     platform().blocks.erase(it);
-    auto* guard = static_cast<unsigned char*>(mem->pvVirAddr) - GUARD;
-    auto* block = reinterpret_cast<Block*>(guard) - 1;
-    for (size_t at = 0; at < GUARD; at++) {
-        const bool intact = guard[at] == GUARD_BYTE && guard[GUARD + block->size + at] == GUARD_BYTE;
-        platform().damaged += intact ? 0 : 1;
-    }
-    free(block);
     return 0;
 }
 

@@ -41,7 +41,7 @@ struct Platform {
     bool garbage = false;                                  // unterminated texts and wild numbers everywhere
     int (*update)(OSD_BOOL, OSD_ATTACH_INFO_S*) = nullptr; // what MPP_MENU_SetMenuCb got
     tagOSD_MENU_CANVAS_S canvasAtCreate = {};
-    std::map<void*, std::string> blocks; // media memory in use, by address
+    std::map<void*, std::pair<std::string, std::vector<unsigned char>>> blocks; // media memory by address: name, bytes
     std::vector<Push> pushes;
     std::vector<Log> log;
     int documents = 0; // alive

@@ -68,30 +68,32 @@ TEST_F(VerticalListTest, OtherCanvasAndScale)
     addItem(page, "Gain", NAME_VAL, COMMON, "Auto");
     EXPECT_THAT(drawn(page), ElementsAre("bold 48 grey 'T' at 10,10", "plain 42 grey 'Gain' at 20,60",
                                          "plain 42 grey 'Auto' at 505,60"));
+    enMenuStyle = 2;
+    EXPECT_EQ(drawn(page).back(), "plain 37 grey 'Auto' at 505,60");
 }
 
 TEST_F(VerticalListTest, FontAndSizeFollowTheSkin)
 {
     const struct {
         uint32_t style;
-        OSD_BOOL big;
         std::vector<std::string> rows;
-    } cases[] = {
-        {0, 0, {"bold 32 grey 'T'", "plain 28 white 'A'", "plain 28 white 'v'", "bold 28 grey 'B'"}},
-        {1, 0, {"bold 25 grey 'T'", "bold 25 white 'A'", "bold 25 white 'v'", "bold 25 grey 'B'", "plain 25 grey 'C'"}},
-        {2, 0, {"bold 25 grey 'T'", "plain 25 white 'A'", "plain 25 white 'v'", "bold 25 grey 'B'"}},
-        {1, 1, {"bold 37 grey 'T'", "bold 37 white 'A'", "bold 37 white 'v'", "bold 37 grey 'B'"}},
-    };
+    } cases[] = {{0,
+                  {"bold 32 grey 'T' at 10,10", "plain 28 white 'A' at 20,60", "plain 28 white 'v' at 505,60",
+                   "bold 28 grey 'B' at 20,110", "plain 24 grey 'C' at 30,160"}},
+                 {1,
+                  {"bold 25 grey 'T' at 10,10", "bold 25 white 'A' at 10,60", "bold 25 white 'v' at 505,60",
+                   "bold 25 grey 'B' at 10,110", "plain 25 grey 'C' at 10,160"}},
+                 {2,
+                  {"bold 25 grey 'T' at 10,10", "plain 25 white 'A' at 10,60", "plain 25 white 'v' at 505,60",
+                   "bold 25 grey 'B' at 10,110", "plain 25 grey 'C' at 10,160"}}};
     for (const auto& c : cases) {
-        restart({c.style, 2, c.big, {0.0f, 0.0f, 0.3f, 0.3f}, false});
+        restart({c.style});
         tagPAGE_NODE_S* page = addPage(PAGE_LAYOUT_VERTICAL, "T");
         addItem(page, "A", NAME_VAL, COMMON, "v")->bActive = 1;
-        addItem(page, "B", NAME, SUBPAGE);
-        addItem(page, "C", NAME_VAL, COMMON);
-        const std::vector<std::string> rows = drawn(page);
-        for (size_t at = 0; at < c.rows.size(); at++) {
-            EXPECT_THAT(rows.at(at), testing::StartsWith(c.rows[at])) << c.style;
-        }
+        tagITEM_NODE_S* parent = addItem(page, "B", NAME, SUBITEM);
+        setOptions(parent, {"only"});
+        addSubItem(parent, 0, "C", NAME_VAL, COMMON);
+        EXPECT_EQ(drawn(page), c.rows);
     }
 }
 
@@ -122,18 +124,6 @@ TEST_F(VerticalListTest, SubItemsFollowDepthFirst)
     EXPECT_THAT(drawn(page),
                 ElementsAre("bold 32 grey 'T' at 10,10", "plain 28 grey 'Mode' at 20,60", "plain 28 grey 'A' at 505,60",
                             "bold 24 white 'hidden' at 30,110", "plain 28 grey 'Last' at 20,160"));
-}
-
-TEST_F(VerticalListTest, SecondSkinPutsAllLevelsOnOneEdge)
-{
-    restart({2, 2, 0, {0.0f, 0.0f, 0.5208f, 0.9259f}, false});
-    tagPAGE_NODE_S* page = addPage(PAGE_LAYOUT_VERTICAL, "T");
-    tagITEM_NODE_S* mode = addItem(page, "Mode", NAME, SUBITEM);
-    setOptions(mode, {"A"});
-    addSubItem(mode, 0, "inner", NAME, COMMON);
-    addSubItem(mode, 0, "mid", NAME, COMMON)->enItemPos = ITEM_POS_CENTER;
-    EXPECT_THAT(drawn(page), ElementsAre("bold 25 grey 'T' at 10,10", "bold 25 grey 'Mode' at 10,60",
-                                         "bold 25 grey 'inner' at 10,110", "bold 25 grey 'mid' at 470,160"));
 }
 
 TEST_F(VerticalListTest, CaretUnderTheEditedDigit)
