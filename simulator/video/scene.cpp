@@ -21,11 +21,11 @@ double travelling(double start, double speed, double seconds, double margin)
 
 void draw_sky(Painter& painter, double seconds)
 {
-    painter.gradient(0, 0x4A86C4, 620, 0xD6E6F0);
+    painter.gradient(0, 0x4A86C4, 620, 0xBCD2E4);
     painter.ellipse({1420, 150}, 110, 110, 0xFFF6D8, 0.35);
     painter.circle({1420, 150}, 62, 0xFFF3C4);
     constexpr Box puffs[] = {{0, 0, 130, 34}, {-80, 14, 80, 26}, {85, 12, 90, 28}, {10, -24, 70, 30}};
-    constexpr Point clouds[] = {{1120, 150}, {1500, 300}, {330, 250}};
+    constexpr Point clouds[] = {{1120, 150}, {1500, 300}, {1830, 190}};
     for (const Point& cloud : clouds) {
         const double x = travelling(cloud.x, 14, seconds, 260);
         for (const Box& puff : puffs) {
@@ -71,8 +71,8 @@ void draw_lamp(Painter& painter, double x, double ground)
 
 void draw_street(Painter& painter)
 {
-    painter.box({-100, 790, 2200, 46}, 0xB9B4A8);
-    painter.box({-100, 836, 2200, 8}, 0x8F8B82);
+    painter.box({-100, 790, 2200, 46}, 0x98938A);
+    painter.box({-100, 836, 2200, 8}, 0x78746C);
     painter.box({-100, 844, 2200, 170}, 0x53565B);
     for (double x = 20; x < scene_width; x += 160) {
         painter.box({x, 925, 84, 7}, 0xE8E6DC);
@@ -139,7 +139,7 @@ void draw_scene(Image& image, double seconds, double zoom)
     draw_sky(painter, seconds);
     draw_hills(painter);
     draw_house(painter, 1180, 790, 0xD9CDB4);
-    draw_house(painter, 240, 780, 0xC7D0CF);
+    draw_house(painter, 240, 780, 0x8F7A6C);
     for (const double x : {90.0, 640.0, 905.0, 1560.0, 1800.0}) {
         draw_tree(painter, x, 792);
     }

@@ -64,7 +64,8 @@ TEST_F(WidgetTest, BlockTravelsTheWholeBar)
 {
     const struct {
         int index, count, x;
-    } cases[] = {{0, 101, 0}, {100, 101, 296}, {1, 4, 98}, {5, 1, 0}, {0, 0, 0}, {10000000, 20000001, 148}};
+    } cases[] = {{0, 101, 0}, {100, 101, 296},          {1, 4, 98}, {1, 2, 296}, {5, 1, 0},
+                 {0, 0, 0},   {10000000, 20000001, 148}};
     for (const auto& c : cases) {
         for (Widget widget : {BAR, BAR_KETH}) {
             ASSERT_EQ(build(widget, 0, {0, 0, 445, 30}, c.index, c.count), 0);
