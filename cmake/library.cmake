@@ -33,6 +33,8 @@ target_link_libraries(osdmenu
   PUBLIC PkgConfig::SDL2 PkgConfig::SDL2_TTF Threads::Threads
   PRIVATE $<BUILD_INTERFACE:osd_flags> PkgConfig::SDL2_IMAGE PkgConfig::SDL2_GFX PkgConfig::TINYXML2)
 target_compile_definitions(osdmenu PRIVATE OSD_RESOURCE_DIR="${OSD_RESOURCE_DIR}")
+# Nobody replaces single functions of the library, so calls within a file need no detour.
+target_compile_options(osdmenu PRIVATE -fno-semantic-interposition)
 set_target_properties(osdmenu PROPERTIES
   VERSION ${PROJECT_VERSION}
   SOVERSION ${PROJECT_VERSION_MAJOR}
@@ -41,6 +43,4 @@ set_target_properties(osdmenu PROPERTIES
   VISIBILITY_INLINES_HIDDEN ON
   LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/osdmenu.map)
 # Templates of the standard library are visible by themselves; the map keeps inside what is no name of the interface.
-# Calls inside the library stay inside, whatever names the host has.
-target_link_options(osdmenu PRIVATE LINKER:--version-script=${PROJECT_SOURCE_DIR}/cmake/osdmenu.map
-                                    LINKER:-Bsymbolic-functions)
+target_link_options(osdmenu PRIVATE LINKER:--version-script=${PROJECT_SOURCE_DIR}/cmake/osdmenu.map)

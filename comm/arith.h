@@ -1,6 +1,8 @@
 // Fractions of lengths: where a formula changes precision, and where it is cut.
 #pragma once
 
+#include <SDL.h>
+
 #include <cfloat>
 #include <cstdint>
 
@@ -35,4 +37,15 @@ inline int osdClampS32(int64_t s64Value)
         return INT32_MAX;
     }
     return s64Value < INT32_MIN ? INT32_MIN : static_cast<int>(s64Value);
+}
+
+// Keeps the edges of a rectangle in 32 bits: SDL adds place and size without looking. What it moves lies far outside of
+// any surface before and after.
+inline SDL_Rect osdRectInRange(const SDL_Rect& stRect)
+{
+    constexpr int s32Far = 1 << 30;
+    const auto clamp = [](int s32Value) {
+        return s32Value > s32Far - 1 ? s32Far - 1 : (s32Value < -s32Far ? -s32Far : s32Value);
+    };
+    return {clamp(stRect.x), clamp(stRect.y), clamp(stRect.w), clamp(stRect.h)};
 }

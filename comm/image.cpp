@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <utility>
 
+#include "comm/arith.h"
 #include "comm/log.h"
 #include "comm/paths.h"
 #include "osd_comm.h"
@@ -65,7 +66,7 @@ OSD_SURFACE_PTR osdImageGetLit(const char* pcPicName, int s32W, int s32H, bool b
 
 SDL_Rect osdImagePut(SDL_Surface* pstSrc, SDL_Surface* pstDst, int s32X, int s32Y)
 {
-    SDL_Rect stPlace = {s32X, s32Y, pstSrc->w, pstSrc->h};
+    SDL_Rect stPlace = osdRectInRange({s32X, s32Y, pstSrc->w, pstSrc->h});
     (void)SDL_UpperBlit(pstSrc, nullptr, pstDst, &stPlace);
     return stPlace;
 }

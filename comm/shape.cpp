@@ -7,15 +7,20 @@
 static constexpr SDL_Color gs_stBgColor = {10, 10, 10, 128};
 static constexpr SDL_Color gs_stLineColor = {255, 255, 255, 255};
 
-static int osdShapeFill(SDL_Surface* pstDst, const SDL_Rect& stRect, SDL_Color stColor)
+static Uint32 osdShapePixel(const SDL_Surface* pstDst, SDL_Color stColor)
 {
-    const Uint32 u32Pixel = SDL_MapRGBA(pstDst->format, stColor.r, stColor.g, stColor.b, stColor.a);
-    return SDL_FillRect(pstDst, &stRect, u32Pixel) == 0 ? 0 : -1;
+    return SDL_MapRGBA(pstDst->format, stColor.r, stColor.g, stColor.b, stColor.a);
+}
+
+static int osdShapeFill(SDL_Surface* pstDst, const SDL_Rect& stRect, Uint32 u32Pixel)
+{
+    const SDL_Rect stPlace = osdRectInRange(stRect);
+    return SDL_FillRect(pstDst, &stPlace, u32Pixel) == 0 ? 0 : -1;
 }
 
 int OSD_COMM_DrawMenuBg(SDL_Surface* pstSurface, SDL_Rect stRect)
 {
-    return osdShapeFill(pstSurface, stRect, gs_stBgColor);
+    return osdShapeFill(pstSurface, stRect, osdShapePixel(pstSurface, gs_stBgColor));
 }
 
 int OSD_COMM_DrawRect(SDL_Surface* pstDst, SDL_Rect stRect, int s32LineWidth, unsigned int u32Color)
@@ -27,14 +32,17 @@ int OSD_COMM_DrawRect(SDL_Surface* pstDst, SDL_Rect stRect, int s32LineWidth, un
                                 {stRect.x, stRect.y, s32LineWidth, stRect.h},
                                 {s32Right, stRect.y, s32LineWidth, stRect.h}};
     const Uint32 u32Pixel =
-        SDL_MapRGBA(pstDst->format, static_cast<Uint8>(u32Color >> 16), static_cast<Uint8>(u32Color >> 8),
-                    static_cast<Uint8>(u32Color), static_cast<Uint8>(u32Color >> 24));
+        osdShapePixel(pstDst, {static_cast<Uint8>(u32Color >> 16), static_cast<Uint8>(u32Color >> 8),
+                               static_cast<Uint8>(u32Color), static_cast<Uint8>(u32Color >> 24)});
     for (const SDL_Rect& stSide : astSide) {
-        if (SDL_FillRect(pstDst, &stSide, u32Pixel) != 0) {
+        if (osdShapeFill(pstDst, stSide, u32Pixel) != 0) {
             return -1;
         }
     }
     return 0;
 }
 
-int OSD_COMM_DrawLine(SDL_Surface* pstDst, SDL_Rect stRect) { return osdShapeFill(pstDst, stRect, gs_stLineColor); }
+int OSD_COMM_DrawLine(SDL_Surface* pstDst, SDL_Rect stRect)
+{
+    return osdShapeFill(pstDst, stRect, osdShapePixel(pstDst, gs_stLineColor));
+}

@@ -2,6 +2,7 @@
  *
  * Holds for every function here, unless its own comment says otherwise:
  *   - int results are 0 on success and -1 on failure, with a line in the log.
+ *   - Pointers must not be null.
  *   - A surface handed out is new and the caller's, who frees it with SDL_FreeSurface. On failure the out-argument
  *     stays as it was; what it held before is never freed.
  *   - Sizes and places are in pixels. bSelected: exactly 1 gives white text, anything else grey.
@@ -26,7 +27,7 @@ OSD_API TTF_Font* OSD_COMM_OpenTraditionalChineseTtfFont(void);
  * first in a surface. Null on failure, with both blocks given back. */
 OSD_API SDL_Surface* OSD_COMM_CreateSurface(tagOSD_MENU_CANVAS_S* pstCanvas);
 
-/* Fills a rectangle with the menu's background colour; replaces pixels, doesn't blend. */
+/* Fills a rectangle with the menu's background colour; replaces pixels, doesn't blend. Prints nothing on failure. */
 OSD_API int OSD_COMM_DrawMenuBg(SDL_Surface* pstSurface, SDL_Rect stRect);
 
 /* Makes a text. s32FontSize is what TTF_SetFontSize takes; the surface has the size that SDL_ttf gives the text.

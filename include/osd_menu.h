@@ -112,7 +112,8 @@ OSD_API int OSD_MENU_InitSdkRes(tagOSD_MENU_CFG_S* pstCfg, OSD_BUSINESS_FUNC pfn
 OSD_API int OSD_MENU_OpenMenu(void);
 
 /* Redraws the top page and shows it on all channels; with no page open hides the overlay. Takes g_stMutex.
- * Returns -1 before OSD_MENU_InitSdkRes has succeeded and on a page of unknown layout, both without a push. */
+ * Returns -1 before OSD_MENU_InitSdkRes has succeeded and, printing nothing, on a page of a layout that nothing draws;
+ * neither pushes. */
 OSD_API int OSD_MENU_RenderCanvas(void);
 
 /* Refreshes one channel with the pixels as they are; the media service calls it at a time of its own. No lock, no
@@ -135,7 +136,7 @@ OSD_API int Osd_GetVersionCallback(OSD_GET_FUNC pfnGet, void* pvUser);
 OSD_API tagOSD_HANDLER_S* OsdMenuGetHandler(void);
 
 /* Builds the top page anew from its file and draws it: cursor on the first item, uncommitted changes gone.
- * Returns -1 with no page open, else 0, also when the file can't be parsed. */
+ * Returns -1 with no page open, and prints nothing then; else 0, also when the file can't be parsed. */
 OSD_API int OSD_MENU_RefreshCurrentPage(void);
 
 /* Reads the top-level items with this key again, with their visible sub-items, and draws when there is one.

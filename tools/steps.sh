@@ -122,5 +122,5 @@ build()
     }
 }
 
-# A build log without the lines that only count.
-without_progress() { grep -vE '^\[[0-9]+/[0-9]+\] ' "$1" || true; }
+# A log without the lines that only count or name a file under way.
+without_progress() { grep -vE '^\[[0-9]+/[0-9]+\] |^ninja:|^clang-tidy|^[0-9]+ warnings? generated' "$1" || true; }

@@ -100,13 +100,14 @@ int osdMenuCreatSurface(tagOSD_MENU_MGR_S* pstMgr)
     return 0;
 }
 
-// What an earlier start left: pages, surface, fonts.
+// What an earlier start left: pages, the canvas on the channels, surface, fonts.
 static void osdManagerDrop()
 {
     while (osdXmlGetCurPage() != nullptr) {
         (void)osdMenuReleaseSinglePage(); // always 0
     }
     if (gstMenuMgr.pstSurface != nullptr) {
+        (void)OSD_MENU_RenderCanvas(); // hides the overlay before its memory goes
         (void)OSD_COMM_DestroySurface(&gstMenuMgr.stCanvas, gstMenuMgr.pstSurface); // 0, as there is a surface
         osdFontClose(&gstMenuMgr.pstSelectFont);
         osdFontClose(&gstMenuMgr.pstFont);

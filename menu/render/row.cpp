@@ -1,5 +1,6 @@
 #include "menu/render/row.h"
 
+#include "comm/arith.h"
 #include "comm/text.h"
 #include "menu/core/layout.h"
 #include "menu/core/page.h"
@@ -17,7 +18,8 @@ tagITEM_NODE_S osdRowOfText(const char (&acText)[OSD_TEXT_LEN], tagITEM_LEVEL_E 
 
 int OSD_MENU_FillData2Canvas(SDL_Surface* pstSrc, SDL_Rect stDst)
 {
-    (void)SDL_UpperBlit(pstSrc, nullptr, gstMenuMgr.pstSurface, &stDst); // a missing source is no failure
+    SDL_Rect stPlace = osdRectInRange(stDst);
+    (void)SDL_UpperBlit(pstSrc, nullptr, gstMenuMgr.pstSurface, &stPlace); // a missing source is no failure
     return 0;
 }
 

@@ -122,22 +122,22 @@ TEST_F(WidgetTest, FailingBuilderLeavesNothing)
     const std::string arrow = "[F:L] Draw nav_arrow fail\n";
     const struct {
         Widget widget;
-        const char* call;
         int n;
+        const char* call;
         std::string last; // line, after those of the picture or text itself
-    } cases[] = {{BAR, "SDL_CreateRGBSurfaceWithFormat", 1, failed},
-                 {BAR, "access", 1, failed},
-                 {BAR, "access", 2, failed},
-                 {BAR, "TTF_RenderUTF8_Blended", 1, failed},
-                 {BAR_KETH, "SDL_CreateRGBSurfaceWithFormat", 1, failed},
-                 {BAR_KETH, "SDL_CreateRGBSurfaceWithFormat", 2, failed},
-                 {BAR_KETH, "IMG_Load", 1, failed},
-                 {BAR_KETH, "SDL_ConvertSurfaceFormat", 2, failed},
-                 {BAR_KETH, "TTF_SetFontSize", 1, failed},
-                 {ARROWS, "SDL_CreateRGBSurfaceWithFormat", 1, failed},
-                 {ARROWS, "access", 1, arrow},
-                 {ARROWS, "TTF_RenderUTF8_Blended", 1, failed},
-                 {ARROWS, "rotozoomSurfaceXY", 2, arrow}};
+    } cases[] = {{BAR, 1, "SDL_CreateRGBSurfaceWithFormat", failed},
+                 {BAR, 1, "access", failed},
+                 {BAR, 2, "access", failed},
+                 {BAR, 1, "TTF_RenderUTF8_Blended", failed},
+                 {BAR_KETH, 1, "SDL_CreateRGBSurfaceWithFormat", failed},
+                 {BAR_KETH, 2, "SDL_CreateRGBSurfaceWithFormat", failed},
+                 {BAR_KETH, 1, "IMG_Load", failed},
+                 {BAR_KETH, 2, "SDL_ConvertSurfaceFormat", failed},
+                 {BAR_KETH, 1, "TTF_SetFontSize", failed},
+                 {ARROWS, 1, "SDL_CreateRGBSurfaceWithFormat", failed},
+                 {ARROWS, 1, "access", arrow},
+                 {ARROWS, 1, "TTF_RenderUTF8_Blended", failed},
+                 {ARROWS, 2, "rotozoomSurfaceXY", arrow}};
     const size_t alive = calls().surfaces.size();
     for (const auto& c : cases) {
         surface = gstMenuMgr.pstSurface;

@@ -75,9 +75,9 @@ tagPAGE_NODE_S* MenuTest::open(const std::string& name, const std::string& docum
 
 uint32_t pixelAt(SDL_Surface* surface, int x, int y)
 {
-    const auto* row = static_cast<const unsigned char*>(surface->pixels) + y * surface->pitch;
+    const ptrdiff_t offset = ptrdiff_t{y} * surface->pitch + ptrdiff_t{x} * surface->format->BytesPerPixel;
     Uint32 pixel = 0;
-    memcpy(&pixel, row + x * surface->format->BytesPerPixel, surface->format->BytesPerPixel);
+    memcpy(&pixel, static_cast<const unsigned char*>(surface->pixels) + offset, surface->format->BytesPerPixel);
     SDL_Color c;
     SDL_GetRGBA(pixel, surface->format, &c.r, &c.g, &c.b, &c.a);
     return static_cast<uint32_t>(c.a << 24 | c.r << 16 | c.g << 8 | c.b);
