@@ -3,6 +3,7 @@
 
 #include <SDL.h>
 
+#include <algorithm>
 #include <cfloat>
 #include <cstdint>
 
@@ -39,13 +40,13 @@ inline int osdClampS32(int64_t s64Value)
     return s64Value < INT32_MIN ? INT32_MIN : static_cast<int>(s64Value);
 }
 
-// Keeps the edges of a rectangle in 32 bits: SDL adds place and size without looking. What it moves lies far outside of
-// any surface before and after.
+// Keeps the edges of a rectangle in a range in which SDL, which adds place and size without looking, can't overflow. No
+// surface reaches so far, so what is drawn stays the same.
 inline SDL_Rect osdRectInRange(const SDL_Rect& stRect)
 {
-    constexpr int s32Far = 1 << 30;
-    const auto clamp = [](int s32Value) {
-        return s32Value > s32Far - 1 ? s32Far - 1 : (s32Value < -s32Far ? -s32Far : s32Value);
-    };
-    return {clamp(stRect.x), clamp(stRect.y), clamp(stRect.w), clamp(stRect.h)};
+    static constexpr int64_t s64Far = 1 << 29;
+    const auto edge = [](int64_t s64At) { return static_cast<int>(std::clamp(s64At, -s64Far, s64Far)); };
+    const int s32Left = edge(stRect.x);
+    const int s32Top = edge(stRect.y);
+    return {s32Left, s32Top, edge(int64_t{stRect.x} + stRect.w) - s32Left, edge(int64_t{stRect.y} + stRect.h) - s32Top};
 }

@@ -46,13 +46,13 @@ SDL_Surface* OSD_COMM_CreateSurface(tagOSD_MENU_CANVAS_S* pstCanvas)
     const SDL_Rect& stRect = pstCanvas->stMenuRect;
     const tagPIX_FMT_S stFmt = osdPixFmt(pstCanvas->enPixFmt);
     const int s32PixelBytes = stFmt.s32Bits / 8;
+    const int64_t s64Size = int64_t{stRect.w} * stRect.h * s32PixelBytes;
     // The fractions behind the rectangle are the host's: no size but a sensible one goes to the media service.
-    if (stRect.w < 0 || stRect.h < 0 || stRect.w > UINT16_MAX || stRect.h > UINT16_MAX) {
+    if (stRect.w < 0 || stRect.h < 0 || stRect.w > UINT16_MAX || stRect.h > UINT16_MAX || s64Size > INT32_MAX) {
         OSD_LOG(OSD_LOG_LEVEL_ERR, "no surface of %d by %d pixels\n", stRect.w, stRect.h);
         return nullptr;
     }
-    const int64_t s64Size = int64_t{stRect.w} * stRect.h * s32PixelBytes;
-    if (s64Size > INT32_MAX || osdSurfaceAlloc(pstCanvas, static_cast<uint32_t>(s64Size)) != 0) {
+    if (osdSurfaceAlloc(pstCanvas, static_cast<uint32_t>(s64Size)) != 0) {
         return nullptr;
     }
     SDL_Surface* pstSurface = nullptr;

@@ -150,7 +150,8 @@ OSD_API int OSD_MENU_RefreshPage(void);
  * The record must hold no items. Whatever the failure, pstPage->stItemList is a valid list afterwards. */
 OSD_API int OSD_MENU_ParseXml(char* pcPageName, tagPAGE_NODE_S* pstPage);
 
-/* Draws a page of layout "vertical_align" onto the canvas. Call under g_stMutex. Returns 0. */
+/* Draws a page of layout "vertical_align" onto the canvas. Call after OSD_MENU_InitSdkRes has succeeded and under
+ * g_stMutex, as the three below. Returns 0. */
 OSD_API int OSD_MENU_RenderVerticalCanvas(tagPAGE_NODE_S* pstPage);
 
 /* Draws one item with its visible sub-items in the vertical list.
