@@ -10,7 +10,6 @@
 #include <map>
 #include <stdexcept>
 #include <string>
-#include <string_view>
 
 #include "menu/core/page.h"
 #include "page.h"
@@ -21,7 +20,7 @@
 namespace bench {
 namespace {
 
-std::map<std::string, std::string> page_files; // page name to path
+std::map<std::string, std::string, std::less<>> page_files; // name of the file to its path
 
 int apply_nothing(tagITEM_NODE_S* /*item*/) { return 0; }
 
@@ -41,11 +40,11 @@ PageFolder::PageFolder()
         throw std::runtime_error("cannot make a folder for the page files: " + pattern);
     }
     folder_ = pattern;
-    page_files[camera_page] = std::string(OSD_RESOURCE_DIR "/menu/") + camera_page + "_page.xml";
+    page_files[file_of(camera_page)] = OSD_RESOURCE_DIR "/menu/" + file_of(camera_page);
     for (const int rows : row_counts) {
-        const std::string file = folder_ / (rows_page(rows) + "_page.xml");
-        std::ofstream(file) << page_xml(make_rows(rows));
-        page_files[rows_page(rows)] = file;
+        const std::string path = folder_ / file_of(rows_page(rows));
+        std::ofstream(path) << page_xml(make_rows(rows));
+        page_files[file_of(rows_page(rows))] = path;
     }
 }
 
@@ -74,13 +73,16 @@ void open_page(const std::string& name)
 
 void close_page() { osdMenuReleaseSinglePage(); }
 
-std::unique_ptr<tinyxml2::XMLDocument> load_document(const std::string& name)
+std::string file_of(const std::string& page) { return page + "_page.xml"; }
+
+std::unique_ptr<tinyxml2::XMLDocument> load_document(std::string_view file)
 {
+    const auto found = page_files.find(file);
+    if (found == page_files.end()) {
+        return nullptr;
+    }
     auto document = std::make_unique<tinyxml2::XMLDocument>();
-    const auto file = page_files.find(name);
-    const bool is_loaded =
-        file != page_files.end() && document->LoadFile(file->second.c_str()) == tinyxml2::XML_SUCCESS;
-    return is_loaded ? std::move(document) : nullptr;
+    return document->LoadFile(found->second.c_str()) == tinyxml2::XML_SUCCESS ? std::move(document) : nullptr;
 }
 
 std::FILE* split_output()
@@ -137,9 +139,7 @@ int CFG_LANG_GetString(char* /*language*/, char* key, char* out)
 tinyxml2::XMLDocument* CFG_GetDocByFileName(const char* path, OSD_BOOL /*read*/)
 {
     bench::in_service = true;
-    const std::string_view file = std::strrchr(path, '/') + 1;
-    const std::string name(file.substr(0, file.rfind("_page.xml")));
-    tinyxml2::XMLDocument* document = bench::load_document(name).release();
+    tinyxml2::XMLDocument* document = bench::load_document(std::strrchr(path, '/') + 1).release();
     bench::in_service = false;
     return document;
 }

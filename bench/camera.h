@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include <tinyxml2.h>
 
@@ -37,8 +38,9 @@ int start_library(bool is_4k, uint32_t pixel_format);
 void open_page(const std::string& name);
 void close_page();
 
-// The file of a page, loaded by tinyxml2 alone; null for a page that there is not.
-std::unique_ptr<tinyxml2::XMLDocument> load_document(const std::string& name);
+// The name of a page's file, and the file loaded by tinyxml2 alone; null for one that there is not.
+std::string file_of(const std::string& page);
+std::unique_ptr<tinyxml2::XMLDocument> load_document(std::string_view file);
 
 // Sends what the library prints to nowhere, and returns a stream for the benchmark's own lines.
 std::FILE* split_output();

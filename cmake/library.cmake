@@ -5,6 +5,7 @@ add_library(osdmenu SHARED
   comm/font.cpp
   comm/image.cpp
   comm/log.cpp
+  comm/paths.cpp
   comm/shape.cpp
   comm/surface.cpp
   comm/text.cpp

@@ -4,7 +4,6 @@
 #include <SDL_image.h>
 #include <unistd.h>
 
-#include <cstdio>
 #include <utility>
 
 #include "comm/arith.h"
@@ -38,8 +37,8 @@ static OSD_SURFACE_PTR osdImageFit(OSD_SURFACE_PTR pstRaw, int s32W, int s32H)
 
 OSD_SURFACE_PTR osdImageGet(const char* pcPicName, int s32W, int s32H)
 {
-    char acFilePath[OSD_PATH_LEN] = {};
-    (void)snprintf(acFilePath, sizeof(acFilePath) - 1, "%s%s.bmp", OSD_DIR_PIC, pcPicName);
+    char acFilePath[OSD_PATH_LEN];
+    osdPathBuild(acFilePath, OSD_DIR_PIC, pcPicName, ".bmp");
     if (access(acFilePath, F_OK) != 0) {
         osdTrace("%s %d failed, acFilePath = %s\n", OSD_PLACE, acFilePath);
         return nullptr;

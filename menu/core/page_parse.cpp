@@ -2,7 +2,6 @@
 
 #include <tinyxml2.h>
 
-#include <cstdio>
 #include <memory>
 
 #include "comm/list.h"
@@ -134,7 +133,7 @@ int osdPageParse(const char* pcPageName, tagPAGE_NODE_S* pstPage)
 {
     osdListInit(&pstPage->stItemList);
     char acPath[OSD_PATH_LEN];
-    (void)snprintf(acPath, sizeof(acPath), "%s%s_page.xml", OSD_DIR_MENU, pcPageName);
+    osdPathBuild(acPath, OSD_DIR_MENU, pcPageName, "_page.xml");
     // a name that no page record holds belongs to no page
     const bool bFits = osdTextFits(pcPageName);
     const std::unique_ptr<tinyxml2::XMLDocument> pstDoc(bFits ? CFG_GetDocByFileName(acPath, 1) : nullptr);
