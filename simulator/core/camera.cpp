@@ -30,6 +30,12 @@ std::string find_language(const Definitions& definitions, const std::optional<st
     return "";
 }
 
+bool begins_with_letter(const std::string& text)
+{
+    const char first = text.empty() ? '\0' : text.front();
+    return (first >= 'A' && first <= 'Z') || (first >= 'a' && first <= 'z');
+}
+
 SettingsStore open_store(const std::filesystem::path& file, bool reset)
 {
     if (!reset) {
@@ -68,7 +74,8 @@ const std::string& Camera::language() const { return definitions_.languages.at(s
 const std::string* Camera::translate(const std::string& language, const std::string& key)
 {
     const std::string* text = translations_.find(language, key);
-    if (text == nullptr && !key.empty() && missing_texts_.insert(language + "/" + key).second) {
+    const bool reported = text != nullptr || !begins_with_letter(key);
+    if (!reported && missing_texts_.insert(language + "/" + key).second) {
         log_line(LogLevel::Info, "language", "no text for '" + key + "' in " + language);
     }
     return text;
@@ -92,8 +99,17 @@ bool Camera::push_canvas(bool show, const tagOSD_MENU_CANVAS_S& canvas, std::opt
     return true;
 }
 
+void Camera::start_channel(int channel)
+{
+    if (menu_refresh_ != nullptr && started_channels_.insert(channel).second) {
+        OSD_ATTACH_INFO_S which{channel};
+        (void)menu_refresh_(1, &which); // without the menu the channel still has its picture
+    }
+}
+
 Image Camera::look_at(int channel)
 {
+    start_channel(channel);
     const std::chrono::duration<double> running = std::chrono::steady_clock::now() - start_;
     Image picture = draw_picture(channels_.size(channel), look_of(settings_), still_ ? 0.0 : running.count());
     channels_.lay_canvases_over(channel, picture);

@@ -46,17 +46,25 @@ public:
 
     /// The name of the menu's present language.
     const std::string& language() const;
-    /// The text of a key; null, reported once a key, when there is none.
+    /// The text of a key; null, reported once a key, when there is none. Live values are asked for as well: what
+    /// begins with no letter, such as an address, is no key and not reported.
     const std::string* translate(const std::string& language, const std::string& key);
 
     /// Shows or hides a canvas on one channel, or on all when there is none. False, with a line in the log, for a
     /// canvas that can't be shown.
     bool push_canvas(bool show, const tagOSD_MENU_CANVAS_S& canvas, std::optional<int> channel);
 
-    /// What a channel shows at this moment: the picture with its canvases.
+    /// The menu's function that pushes its canvas to one channel again; null for none.
+    using MenuRefresh = int (*)(OSD_BOOL, OSD_ATTACH_INFO_S*);
+    void set_menu_refresh(MenuRefresh refresh) { menu_refresh_ = refresh; }
+
+    /// What a channel shows at this moment: the picture with its canvases. A channel starts when it is looked at for
+    /// the first time, and asks the menu for its canvas then.
     Image look_at(int channel);
 
 private:
+    void start_channel(int channel);
+
     Definitions definitions_;
     Translations translations_;
     std::string forced_language_; ///< option key, empty when the setting decides
@@ -68,6 +76,8 @@ private:
     bool still_;
     std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
     std::set<std::string> missing_texts_;
+    MenuRefresh menu_refresh_ = nullptr;
+    std::set<int> started_channels_;
 };
 
 } // namespace sim

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <set>
+#include <string_view>
 
 #include "osd_types.h"
 #include "simulator/core/errors.h"
@@ -15,6 +16,7 @@ using nlohmann::json;
 constexpr std::size_t max_text_bytes = OSD_TEXT_LEN - 1;
 constexpr std::size_t max_value_bytes = OSD_CFG_VALUE_LEN - 1;
 constexpr std::size_t max_list_bytes = OSD_CFG_LIST_LEN - 1;
+constexpr std::string_view no_option_bytes(":\0", 2);
 
 struct KindName {
     const char* name;
@@ -55,8 +57,8 @@ void check_option_list(const FieldReader& reader, const std::vector<std::string>
     std::size_t joined = 0;
     std::set<std::string> seen;
     for (const std::string& option : options) {
-        if (option.empty() || option.size() > max_value_bytes || option.find(':') != std::string::npos) {
-            reader.complain("option '" + option + "' must have 1 to 15 bytes and no ':'");
+        if (option.empty() || option.size() > max_value_bytes || option.find_first_of(no_option_bytes) != option.npos) {
+            reader.complain("option '" + option + "' must have 1 to 15 bytes and neither ':' nor a zero byte");
         }
         if (!seen.insert(option).second) {
             reader.complain("option '" + option + "' stands twice");
@@ -80,16 +82,25 @@ std::vector<std::string> read_options(FieldReader& reader)
     return options;
 }
 
+std::int32_t read_step(FieldReader& reader)
+{
+    const std::int32_t step = reader.integer("step");
+    if (step < 1) {
+        reader.complain("expected a 'step' of 1 or more");
+    }
+    return step;
+}
+
 void read_range(FieldReader& reader, Setting& setting)
 {
     setting.min = reader.integer("min");
     setting.max = reader.integer("max");
-    setting.step = reader.integer("step");
+    setting.step = read_step(reader);
     if (reader.has("unit")) {
         setting.unit = reader.text("unit", 0, max_value_bytes);
     }
-    if (setting.min >= setting.max || setting.step < 1) {
-        reader.complain("expected 'min' below 'max' and a 'step' of 1 or more");
+    if (setting.min >= setting.max) {
+        reader.complain("expected 'min' below 'max'");
     }
 }
 
@@ -104,7 +115,7 @@ void read_kind_fields(FieldReader& reader, Setting& setting)
         break;
     case SettingKind::HexColor:
         setting.max = 0xFFFFFF;
-        setting.step = reader.has("step") ? reader.integer("step") : 1;
+        setting.step = reader.has("step") ? read_step(reader) : 1;
         break;
     case SettingKind::Text:
         break;
@@ -164,9 +175,15 @@ void check_languages(const Definitions& definitions, const std::string& file)
     if (found == definitions.settings.end() || found->second.kind != SettingKind::Option) {
         throw BadInput(file + ": there must be a setting 'Language' of kind option, without parent");
     }
-    for (const std::string& option : found->second.options) {
+    const std::vector<std::string>& options = found->second.options;
+    for (const std::string& option : options) {
         if (definitions.languages.count(option) == 0) {
             throw BadInput(file + ": setting 'Language': option '" + option + "' is missing in 'languages'");
+        }
+    }
+    for (const auto& [key, name] : definitions.languages) {
+        if (std::count(options.begin(), options.end(), key) == 0) {
+            throw BadInput(file + ": 'languages': '" + key + "' is no option of the setting 'Language'");
         }
     }
 }

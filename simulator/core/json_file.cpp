@@ -1,10 +1,12 @@
 #include "simulator/core/json_file.h"
 
 #include <algorithm>
+#include <cerrno>
+#include <cstring>
 #include <fstream>
 #include <functional>
 #include <iterator>
-#include <limits>
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -17,12 +19,19 @@ using nlohmann::json;
 
 std::string read_file(const std::filesystem::path& path)
 {
-    std::ifstream file(path, std::ios::binary);
-    std::string text((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
-    if (!file || std::filesystem::is_directory(path)) {
-        throw BadInput(path.string() + ": can't be read");
+    std::error_code ignored; // what can't be looked at can't be opened either
+    if (std::filesystem::is_directory(path, ignored)) {
+        throw BadInput(path.string() + ": is a folder, expected a file");
     }
-    return text;
+    std::ifstream file(path, std::ios::binary);
+    if (!file) {
+        throw BadInput(path.string() + ": can't be read: " + std::generic_category().message(errno));
+    }
+    try {
+        return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    } catch (const std::ios_base::failure& error) { // the only way in which this iterator tells of a bad disk
+        throw BadInput(path.string() + ": can't be read: " + error.what());
+    }
 }
 
 /// Notices fields that stand twice in one object; the parser itself would keep the last one and say nothing.
@@ -47,14 +56,19 @@ private:
     std::vector<std::set<std::string>> open_;
 };
 
-/// "FILE:LINE: what", with the parser's own words behind its "parse error at ...: ".
-std::string describe(const json::parse_error& error, const std::string& file, const std::string& text)
+/// What stands behind a mark in the parser's message; all of it when the mark is missing.
+std::string words_behind(const char* mark, const json::exception& error)
+{
+    const std::string words = error.what();
+    const std::size_t place = words.find(mark);
+    return place == std::string::npos ? words : words.substr(place + std::strlen(mark));
+}
+
+/// ":LINE" of a syntax error.
+std::string line_of(const json::parse_error& error, const std::string& text)
 {
     const auto end = text.begin() + static_cast<std::ptrdiff_t>(std::min(error.byte, text.size()));
-    const std::string words = error.what();
-    const std::size_t colon = words.find(": ");
-    return file + ":" + std::to_string(1 + std::count(text.begin(), end, '\n')) + ": " +
-           (colon == std::string::npos ? words : words.substr(colon + 2));
+    return ":" + std::to_string(1 + std::count(text.begin(), end, '\n'));
 }
 
 } // namespace
@@ -68,7 +82,9 @@ json load_json_object(const std::filesystem::path& path)
         DuplicateFinder finder(path.string());
         root = json::parse(text, std::ref(finder));
     } catch (const json::parse_error& error) {
-        throw BadInput(describe(error, path.string(), text));
+        throw BadInput(path.string() + line_of(error, text) + ": " + words_behind(": ", error));
+    } catch (const json::exception& error) { // well formed, but no value of this machine: 1e999
+        throw BadInput(path.string() + ": " + words_behind("] ", error));
     }
     if (!root.is_object()) {
         throw BadInput(path.string() + ": the file must hold one object, { ... }");
@@ -128,6 +144,11 @@ void FieldReader::refuse_other_fields() const
     }
 }
 
-void FieldReader::complain(const std::string& what) const { throw BadInput(place_ + ": " + what); }
+void FieldReader::complain(const std::string& what) const
+{
+    std::string words = place_ + ": " + what;
+    std::replace(words.begin(), words.end(), '\0', '?'); // the message would end there
+    throw BadInput(words);
+}
 
 } // namespace sim

@@ -5,6 +5,7 @@
 #include <chrono>
 #include <cstdio>
 #include <ctime>
+#include <new>
 #include <string>
 
 namespace sim {
@@ -36,12 +37,16 @@ std::string on_one_line(std::string_view text)
 
 } // namespace
 
-void log_line(LogLevel level, std::string_view tag, std::string_view text)
+void log_line(LogLevel level, std::string_view tag, std::string_view text) noexcept
 {
-    const auto index = static_cast<std::size_t>(std::clamp(static_cast<int>(level), 0, 7));
-    const std::string line =
-        time_of_day() + " " + level_names[index] + " " + on_one_line(tag) + " " + on_one_line(text) + "\n";
-    std::fwrite(line.data(), 1, line.size(), stderr); // one call, so that lines of two threads don't mix
+    try {
+        const auto index = static_cast<std::size_t>(std::clamp(static_cast<int>(level), 0, 7));
+        const std::string line =
+            time_of_day() + " " + level_names[index] + " " + on_one_line(tag) + " " + on_one_line(text) + "\n";
+        std::fwrite(line.data(), 1, line.size(), stderr); // one call, so that lines of two threads don't mix
+    } catch (const std::bad_alloc&) {
+        std::fputs("no memory for a line of the log\n", stderr);
+    }
 }
 
 } // namespace sim

@@ -20,11 +20,12 @@ bool MediaMemory::allocate(const std::string& name, std::uint32_t size, tagOSD_M
         return false;
     }
     std::memset(memory.get(), 0, rounded);
-    block = {};
-    block.pvVirAddr = memory.get();
-    block.au64Service[0] = size;
+    tagOSD_MEM_S filled{};
+    filled.pvVirAddr = memory.get();
+    filled.au64Service[0] = size;
     const std::lock_guard<std::mutex> lock(mutex_);
-    blocks_[block.pvVirAddr] = {name, size, std::move(memory)};
+    blocks_[filled.pvVirAddr] = {name, size, std::move(memory)};
+    block = filled; // last, so that no failure touches it
     return true;
 }
 

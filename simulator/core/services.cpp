@@ -4,7 +4,6 @@
 #include <cstdarg>
 #include <cstdio>
 #include <cstring>
-#include <exception>
 #include <string>
 
 #include <tinyxml2.h>
@@ -13,6 +12,7 @@
 #include "platform/log_service.h"
 #include "platform/media_service.h"
 #include "simulator/core/camera.h"
+#include "simulator/core/guard.h"
 #include "simulator/core/log.h"
 #include "simulator/core/page_files.h"
 
@@ -24,7 +24,7 @@ constexpr int failed = -1;
 
 Camera* current_camera = nullptr;
 
-/// Runs the body of a service with the current camera. The callers are C functions: no exception may pass.
+/// Runs the body of a service with the current camera.
 template <typename Body>
 int serve(const char* service, Body body)
 {
@@ -32,12 +32,7 @@ int serve(const char* service, Body body)
         log_line(LogLevel::Error, service, "there is no camera");
         return failed;
     }
-    try {
-        return body(*current_camera);
-    } catch (const std::exception& error) {
-        log_line(LogLevel::Error, service, error.what());
-        return failed;
-    }
+    return guarded(service, failed, [&] { return body(*current_camera); });
 }
 
 /// Copies a text into a field of a record, which stays zero-terminated.
@@ -65,9 +60,10 @@ const Setting* find_setting(Camera& camera, const SettingId& id, bool number)
     return setting;
 }
 
-int get_text(const SettingId& id, tagCFG_VALUE_TXT_S* value)
+int get_text(const char* parent, const char* key, tagCFG_VALUE_TXT_S* value)
 {
     return serve("settings", [&](Camera& camera) {
+        const SettingId id{text_or_empty(parent), text_or_empty(key)};
         const Setting* setting = find_setting(camera, id, false);
         if (setting == nullptr || value == nullptr) {
             return failed;
@@ -82,9 +78,10 @@ int get_text(const SettingId& id, tagCFG_VALUE_TXT_S* value)
     });
 }
 
-int get_number(const SettingId& id, tagCFG_VALUE_INT_S* value)
+int get_number(const char* parent, const char* key, tagCFG_VALUE_INT_S* value)
 {
     return serve("settings", [&](Camera& camera) {
+        const SettingId id{text_or_empty(parent), text_or_empty(key)};
         const Setting* setting = find_setting(camera, id, true);
         if (setting == nullptr || value == nullptr) {
             return failed;
@@ -111,24 +108,18 @@ Camera* Camera::current() { return current_camera; }
 
 using namespace sim;
 
-int CFG_COM_GetTxtParams(char* pcKey, tagCFG_VALUE_TXT_S* pstValue)
-{
-    return get_text({"", text_or_empty(pcKey)}, pstValue);
-}
+int CFG_COM_GetTxtParams(char* pcKey, tagCFG_VALUE_TXT_S* pstValue) { return get_text(nullptr, pcKey, pstValue); }
 
 int CFG_COM_GetTxtParamByParent(char* pcParent, char* pcKey, tagCFG_VALUE_TXT_S* pstValue)
 {
-    return get_text({text_or_empty(pcParent), text_or_empty(pcKey)}, pstValue);
+    return get_text(pcParent, pcKey, pstValue);
 }
 
-int CFG_COM_GetIntParams(char* pcKey, tagCFG_VALUE_INT_S* pstValue)
-{
-    return get_number({"", text_or_empty(pcKey)}, pstValue);
-}
+int CFG_COM_GetIntParams(char* pcKey, tagCFG_VALUE_INT_S* pstValue) { return get_number(nullptr, pcKey, pstValue); }
 
 int CFG_COM_GetIntParamByParent(char* pcParent, char* pcKey, tagCFG_VALUE_INT_S* pstValue)
 {
-    return get_number({text_or_empty(pcParent), text_or_empty(pcKey)}, pstValue);
+    return get_number(pcParent, pcKey, pstValue);
 }
 
 int CFG_COM_SetTxtParams(char* pcKey, char* pcValue, OSD_BOOL /*bSave*/)
@@ -161,12 +152,8 @@ int CFG_LANG_GetString(char* pcLanguage, char* pcKey, char* pcOut)
 
 tinyxml2::XMLDocument* CFG_GetDocByFileName(const char* pcPath, OSD_BOOL /*bRead*/)
 {
-    try {
-        return load_page_document(text_or_empty(pcPath)).release();
-    } catch (const std::exception& error) {
-        log_line(LogLevel::Error, "pages", error.what());
-        return nullptr;
-    }
+    tinyxml2::XMLDocument* const none = nullptr;
+    return guarded("pages", none, [&] { return load_page_document(text_or_empty(pcPath)).release(); });
 }
 
 int BSP_PARTITION_GetDevAttribute(tagDEV_ATTR_CONTENT_S* pstAttr)
@@ -184,7 +171,7 @@ void UTIL_LOG_Print(int s32Level, char* pcTag, const char* pcFormat, ...)
     va_start(arguments, pcFormat);
     (void)std::vsnprintf(text.data(), text.size(), pcFormat, arguments);
     va_end(arguments);
-    log_line(static_cast<LogLevel>(s32Level), text_or_empty(pcTag), text.data());
+    log_line(static_cast<LogLevel>(s32Level), pcTag == nullptr ? "" : pcTag, text.data());
 }
 
 int MPP_AllocMem(const char* pcName, uint32_t u32Size, int /*s32Flag*/, void* pstBlock)
@@ -223,9 +210,12 @@ int MPP_MENU_CreateSdkResource(tagOSD_MENU_CANVAS_S* pstCanvas)
     });
 }
 
-int MPP_MENU_SetMenuCb(int (* /*pfnUpdate*/)(OSD_BOOL, OSD_ATTACH_INFO_S*))
+int MPP_MENU_SetMenuCb(int (*pfnUpdate)(OSD_BOOL, OSD_ATTACH_INFO_S*))
 {
-    return ok; // a channel that restarts would ask for its canvas; the channels here run without a break
+    return serve("media", [&](Camera& camera) {
+        camera.set_menu_refresh(pfnUpdate);
+        return ok;
+    });
 }
 
 int MPP_MENU_UpdateCanvasToAllChns(OSD_BOOL bShow, tagOSD_MENU_CANVAS_S* pstCanvas)

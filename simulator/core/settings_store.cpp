@@ -8,12 +8,9 @@ namespace {
 // Mark the file as ours: the number in its header, and the form of its one table.
 constexpr int application_id = 0x43414D53;
 constexpr int table_version = 1;
+constexpr const char* table_sql = "CREATE TABLE setting (parent TEXT NOT NULL, key TEXT NOT NULL, value TEXT NOT NULL,"
+                                  " PRIMARY KEY (parent, key)) STRICT, WITHOUT ROWID";
 constexpr int busy_wait_ms = 500;
-
-struct Finalize {
-    void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
-};
-using Statement = std::unique_ptr<sqlite3_stmt, Finalize>;
 
 std::string column_text(sqlite3_stmt* statement, int column)
 {
@@ -32,6 +29,8 @@ const char* const what_to_do = "; 'camera-sim --reset' moves it aside to a .bak 
 
 void SettingsStore::Close::operator()(sqlite3* database) const { sqlite3_close(database); }
 
+void SettingsStore::Finalize::operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
+
 SettingsStore::SettingsStore(const std::filesystem::path& file) : name_("settings database " + file.string())
 {
     sqlite3* raw = nullptr;
@@ -41,28 +40,27 @@ SettingsStore::SettingsStore(const std::filesystem::path& file) : name_("setting
         fail(code);
     }
     sqlite3_busy_timeout(raw, busy_wait_ms);
-    check_owner();
+    const bool fresh = is_fresh();
+    if (!fresh) {
+        check_health();
+    }
     if (sqlite3_db_readonly(raw, "main") != 0) {
         throw BadInput(name_ + ": can't be written");
     }
-    run("PRAGMA journal_mode=WAL");
+    use_write_ahead_log();
     run("PRAGMA synchronous=FULL");
-    make_tables();
-    check_health();
+    if (fresh) {
+        make_tables();
+    }
 }
 
 std::map<SettingId, std::string> SettingsStore::load_all()
 {
-    sqlite3_stmt* raw = nullptr;
-    const int code = sqlite3_prepare_v2(database_.get(), "SELECT parent, key, value FROM setting", -1, &raw, nullptr);
-    const Statement statement(raw);
-    if (code != SQLITE_OK) {
-        fail(code);
-    }
+    const Statement statement = prepare("SELECT parent, key, value FROM setting");
     std::map<SettingId, std::string> values;
-    int step = sqlite3_step(raw);
-    for (; step == SQLITE_ROW; step = sqlite3_step(raw)) {
-        values[{column_text(raw, 0), column_text(raw, 1)}] = column_text(raw, 2);
+    int step = sqlite3_step(statement.get());
+    for (; step == SQLITE_ROW; step = sqlite3_step(statement.get())) {
+        values[{column_text(statement.get(), 0), column_text(statement.get(), 1)}] = column_text(statement.get(), 2);
     }
     if (step != SQLITE_DONE) {
         fail(step);
@@ -72,17 +70,11 @@ std::map<SettingId, std::string> SettingsStore::load_all()
 
 void SettingsStore::write(const SettingId& id, const std::string& value)
 {
-    sqlite3_stmt* raw = nullptr;
-    const int code =
-        sqlite3_prepare_v2(database_.get(), "INSERT OR REPLACE INTO setting VALUES (?, ?, ?)", -1, &raw, nullptr);
-    const Statement statement(raw);
-    if (code != SQLITE_OK) {
-        fail(code);
-    }
-    bind_text(raw, 1, id.parent);
-    bind_text(raw, 2, id.key);
-    bind_text(raw, 3, value);
-    const int step = sqlite3_step(raw);
+    const Statement statement = prepare("INSERT OR REPLACE INTO setting VALUES (?, ?, ?)");
+    bind_text(statement.get(), 1, id.parent);
+    bind_text(statement.get(), 2, id.key);
+    bind_text(statement.get(), 3, value);
+    const int step = sqlite3_step(statement.get());
     if (step != SQLITE_DONE) {
         fail(step);
     }
@@ -90,62 +82,72 @@ void SettingsStore::write(const SettingId& id, const std::string& value)
 
 void SettingsStore::clear() { run("DELETE FROM setting"); }
 
-void SettingsStore::run(const char* sql)
+void SettingsStore::run(const std::string& sql)
 {
-    const int code = sqlite3_exec(database_.get(), sql, nullptr, nullptr, nullptr);
+    const int code = sqlite3_exec(database_.get(), sql.c_str(), nullptr, nullptr, nullptr);
     if (code != SQLITE_OK) {
         fail(code);
     }
 }
 
-int SettingsStore::read_number(const char* sql)
+SettingsStore::Statement SettingsStore::prepare(const std::string& sql)
 {
     sqlite3_stmt* raw = nullptr;
-    int code = sqlite3_prepare_v2(database_.get(), sql, -1, &raw, nullptr);
-    const Statement statement(raw);
-    if (code == SQLITE_OK) {
-        code = sqlite3_step(raw);
-    }
-    if (code != SQLITE_ROW) {
+    const int code = sqlite3_prepare_v2(database_.get(), sql.c_str(), -1, &raw, nullptr);
+    Statement statement(raw);
+    if (code != SQLITE_OK) {
         fail(code);
     }
-    return sqlite3_column_int(raw, 0);
+    return statement;
 }
 
-/// A database of another program must not get a table of ours.
-void SettingsStore::check_owner()
+std::string SettingsStore::read_text(const std::string& sql)
 {
-    const int owner = read_number("PRAGMA application_id");
-    const bool fresh = owner == 0 && read_number("SELECT count(*) FROM sqlite_master") == 0;
-    const bool ours = owner == application_id && read_number("PRAGMA user_version") == table_version;
+    const Statement statement = prepare(sql);
+    const int step = sqlite3_step(statement.get());
+    if (step != SQLITE_ROW) {
+        fail(step);
+    }
+    return column_text(statement.get(), 0);
+}
+
+/// Whether the database is empty. One that is neither empty nor ours must not get a table of ours.
+bool SettingsStore::is_fresh()
+{
+    const std::string owner = read_text("PRAGMA application_id");
+    const bool fresh = owner == "0" && read_text("SELECT count(*) FROM sqlite_master") == "0";
+    const bool ours =
+        owner == std::to_string(application_id) && read_text("PRAGMA user_version") == std::to_string(table_version);
     if (!fresh && !ours) {
         throw BadDatabase(name_ + ": belongs to another program or another version" + what_to_do);
+    }
+    return fresh;
+}
+
+/// The database answers with the mode that it has afterwards, which is the old one where the log can't be.
+void SettingsStore::use_write_ahead_log()
+{
+    const std::string mode = read_text("PRAGMA journal_mode=WAL");
+    if (mode != "wal") {
+        throw BadInput(name_ + ": its folder allows no write-ahead log (journal mode '" + mode +
+                       "'); choose another folder with --data DIR");
     }
 }
 
 void SettingsStore::check_health()
 {
-    if (read_number("SELECT count(*) FROM pragma_quick_check WHERE quick_check <> 'ok'") != 0) {
+    if (read_text("SELECT count(*) FROM pragma_quick_check WHERE quick_check <> 'ok'") != "0") {
         throw BadDatabase(name_ + ": is damaged" + what_to_do);
+    }
+    if (read_text("SELECT count(*) FROM sqlite_master WHERE sql = '" + std::string(table_sql) + "'") != "1") {
+        throw BadDatabase(name_ + ": its table has an unknown form" + what_to_do);
     }
 }
 
 void SettingsStore::make_tables()
 {
-    if (read_number("SELECT count(*) FROM sqlite_master WHERE name = 'setting'") != 0) {
-        return;
-    }
-    const std::string sql = "BEGIN IMMEDIATE;"
-                            "CREATE TABLE setting (parent TEXT NOT NULL, key TEXT NOT NULL, value TEXT NOT NULL,"
-                            " PRIMARY KEY (parent, key)) STRICT, WITHOUT ROWID;"
-                            "PRAGMA application_id = " +
-                            std::to_string(application_id) +
-                            ";"
-                            "PRAGMA user_version = " +
-                            std::to_string(table_version) +
-                            ";"
-                            "COMMIT";
-    run(sql.c_str());
+    run("BEGIN IMMEDIATE;" + std::string(table_sql) + ";PRAGMA application_id = " + std::to_string(application_id) +
+        ";PRAGMA user_version = " + std::to_string(table_version) + ";COMMIT");
 }
 
 void SettingsStore::fail(int code) const

@@ -10,6 +10,7 @@
 #include "simulator/core/setting.h"
 
 struct sqlite3;
+struct sqlite3_stmt;
 
 namespace sim {
 
@@ -19,12 +20,13 @@ public:
     using BadInput::BadInput;
 };
 
-/// Values that differ from their defaults, by setting. What write() has stored survives a kill at any moment: write-
-/// ahead log, synchronised to the disk with each commit.
+/// Values that were ever set since the last clear(), by setting; a setting at its default is among them when somebody
+/// set it to that. What write() has stored survives a kill at any moment: write-ahead log, synchronised to the disk
+/// with each commit.
 class SettingsStore {
 public:
     /// Opens the file, or makes it. Throws BadDatabase for a file that is no healthy settings database, which stays as
-    /// it is, and BadInput when it is locked or can't be written.
+    /// it is, and BadInput when it is locked, can't be written, or lies where no write-ahead log can be.
     explicit SettingsStore(const std::filesystem::path& file);
 
     std::map<SettingId, std::string> load_all();
@@ -36,10 +38,17 @@ private:
     struct Close {
         void operator()(sqlite3* database) const;
     };
+    struct Finalize {
+        void operator()(sqlite3_stmt* statement) const;
+    };
+    using Statement = std::unique_ptr<sqlite3_stmt, Finalize>;
 
-    void run(const char* sql);
-    int read_number(const char* sql);
-    void check_owner();
+    void run(const std::string& sql);
+    Statement prepare(const std::string& sql);
+    /// The first column of the first row.
+    std::string read_text(const std::string& sql);
+    bool is_fresh();
+    void use_write_ahead_log();
     void check_health();
     void make_tables();
     [[noreturn]] void fail(int code) const;

@@ -79,7 +79,7 @@ void press(MenuHost& host, SDL_Keycode code)
     }
     try {
         key->function(host);
-    } catch (const BadInput& error) { // a page file with a mistake must not end the camera: mend it, press again
+    } catch (const BadInput& error) { // a page file with a mistake must not end the camera
         std::cerr << "camera-sim: " << error.what() << std::endl;
     }
 }

@@ -2,11 +2,11 @@
 
 #include <array>
 #include <cstdio>
-#include <exception>
 #include <optional>
 #include <string>
 
 #include "simulator/core/camera.h"
+#include "simulator/core/guard.h"
 #include "simulator/core/log.h"
 
 namespace sim {
@@ -102,17 +102,14 @@ int apply_item(tagITEM_NODE_S* item)
     if (camera == nullptr || item == nullptr) {
         return -1;
     }
-    try {
+    return guarded("business", -1, [&] {
         if (!carries_value(*item)) {
             log_line(LogLevel::Info, "business", "action '" + std::string(item->acItemIndex) + "'");
         } else if (!store_color_part(*camera, *item)) {
             store(*camera, setting_of(*item, item->acItemIndex), value_of(*item));
         }
         return 0;
-    } catch (const std::exception& error) { // the caller is the library
-        log_line(LogLevel::Error, "business", error.what());
-        return -1;
-    }
+    });
 }
 
 const char* parent_of_zone(const char* zone)
@@ -121,8 +118,11 @@ const char* parent_of_zone(const char* zone)
     if (camera == nullptr || zone == nullptr) {
         return nullptr;
     }
-    const auto found = camera->definitions().zones.find(zone);
-    return found == camera->definitions().zones.end() ? nullptr : found->second.c_str();
+    const char* const none = nullptr;
+    return guarded("business", none, [&] {
+        const auto found = camera->definitions().zones.find(zone);
+        return found == camera->definitions().zones.end() ? none : found->second.c_str();
+    });
 }
 
 void answer_event(void* user, tagOSD_MENU_GET_EVENT_E event, tagOSD_MENU_CONTROL_PARAM_S* answer)
@@ -130,9 +130,13 @@ void answer_event(void* user, tagOSD_MENU_GET_EVENT_E event, tagOSD_MENU_CONTROL
     auto* camera = static_cast<Camera*>(user);
     answer->acText[0] = '\0';
     const auto index = static_cast<std::size_t>(event);
-    if (camera != nullptr && index < event_facts.size()) {
-        std::snprintf(answer->acText, sizeof answer->acText, "%s", answer_text(*camera, event_facts[index]).c_str());
+    if (camera == nullptr || index >= event_facts.size()) {
+        return;
     }
+    (void)guarded("business", -1, [&] { // a failure leaves the answer empty
+        const std::string text = answer_text(*camera, event_facts[index]);
+        return std::snprintf(answer->acText, sizeof answer->acText, "%s", text.c_str());
+    });
 }
 
 } // namespace sim

@@ -61,16 +61,18 @@ void MenuHost::open()
     }
 }
 
-/// The same steps with which the library opens its root page.
+/// The same steps with which the library opens its root page: a page that can't be read counts as well, because its
+/// record can hold the items that stood before the mistake.
 void MenuHost::open_page(const std::string& name)
 {
     std::array<char, OSD_TEXT_LEN> text{};
     std::snprintf(text.data(), text.size(), "%s", name.c_str());
-    if (OSD_MENU_ParseXml(text.data(), &gstPageMgr.astPage[0]) != 0) {
-        throw BadInput("page '" + name + "' can't be read, see the lines above");
-    }
+    const bool complete = OSD_MENU_ParseXml(text.data(), &gstPageMgr.astPage[0]) == 0;
     gstPageMgr.s32PageCnt = 1;
     OSD_MENU_RenderCanvas();
+    if (!complete) {
+        throw BadInput("page '" + name + "' is shown as far as it can be read, see the lines above");
+    }
 }
 
 } // namespace sim

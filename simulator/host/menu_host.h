@@ -30,7 +30,7 @@ public:
 
     bool is_open() const;
     /// Opens the menu on its root page; does nothing when it is open. Throws BadInput when a page that the
-    /// configuration names can't be read.
+    /// configuration names can't be read to its end; the menu is open then with what was read.
     void open();
 
 private:

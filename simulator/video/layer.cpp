@@ -97,17 +97,19 @@ std::size_t bytes_per_pixel(std::uint32_t format) { return format < formats.size
 
 const char* canvas_problem(const tagOSD_MENU_CANVAS_S& canvas, std::size_t block_bytes)
 {
-    constexpr int max_side = 16384; // keeps all products below in range
+    // Together with a rectangle that is no larger than its base these keep all products below in range, and a scaled
+    // canvas no larger than the picture.
+    constexpr int max_side = 16384;
     const SDL_Rect& place = canvas.stMenuRect;
     const SDL_Rect& base = canvas.stBaseRect;
     if (bytes_per_pixel(canvas.enPixFmt) == 0) {
         return "its pixel format is none of 0, 1, 2";
     }
-    if (place.w < 1 || place.h < 1 || place.w > max_side || place.h > max_side) {
-        return "its rectangle has no usable size";
+    if (place.w < 1 || place.h < 1 || place.w > base.w || place.h > base.h) {
+        return "its rectangle is empty or larger than its base picture";
     }
     const auto far_off = [](int value) { return value < -max_side || value > max_side; };
-    if (base.w < 1 || base.h < 1 || base.w > max_side || base.h > max_side || far_off(place.x) || far_off(place.y)) {
+    if (base.w > max_side || base.h > max_side || far_off(place.x) || far_off(place.y)) {
         return "its place on the base picture is not usable";
     }
     const std::size_t needed =

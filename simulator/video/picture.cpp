@@ -30,6 +30,12 @@ struct TallyColor {
 };
 constexpr TallyColor tally_colors[] = {{"Red", 0xE8202A}, {"Green", 0x1FC24B}};
 
+/// A setting's value as a share of its maximum: 0 to 1.
+double share_of_max(const Settings& settings, const Setting& setting)
+{
+    return setting.max < 1 ? 0 : std::clamp(static_cast<double>(settings.number(setting.id)) / setting.max, 0.0, 1.0);
+}
+
 /// How far a setting stands from its default, which leaves the picture as it is, as a share of its range: -1 to 1.
 double deviation(const Settings& settings, const Setting& setting)
 {
@@ -62,7 +68,7 @@ void read_lights(const Settings& settings, Look& look)
         }
     }
     if (const Setting* level = find_number(settings, "TallyLevel")) {
-        look.tally_level = static_cast<double>(settings.number(level->id)) / level->max;
+        look.tally_level = share_of_max(settings, *level);
     }
     const std::string mode = option_of(settings, "LedMode");
     const Setting* custom = find_number(settings, "LedCustomColor");

@@ -1,60 +1,103 @@
-// Settings definitions and translations: in which words what can't be used is refused.
+// Settings definitions, translations and the settings database: what can't be used is refused in words.
 #include <gmock/gmock.h>
+#include <sqlite3.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
-#include "simulator/core/definitions.h"
-#include "simulator/core/errors.h"
+#include "simulator/core/settings.h"
 #include "simulator/core/translations.h"
 #include "tests/simulator/temp_folder.h"
 
 using namespace sim;
-using testing::AllOf;
-using testing::HasSubstr;
+using namespace testing;
 
-TEST(Definitions, RefuseMistakesInWords)
+TEST(Definitions, AreRefusedInWords)
 {
     const auto setting = [](const std::string& fields) { return definitions_with(R"({"key": "A", )" + fields + "}"); };
-    std::string long_list; // 18 options of 15 bytes and 17 colons make 287 bytes
+    std::string long_list = R"("x")"; // with 18 options of 15 bytes and 18 colons more than 271 bytes
     for (int i = 10; i < 28; ++i) {
-        long_list += (i == 10 ? "\"" : ", \"") + std::string(13, 'x') + std::to_string(i) + "\"";
+        long_list += ", \"" + std::string(13, 'x') + std::to_string(i) + "\"";
     }
-    struct Case {
-        std::string text;
-        const char* words;
+    const std::tuple<const char*, std::string, const char*> cases[] = {
+        {"settings.json", "{\n\"languages\": {},\n oops}", "settings.json:3: syntax error"},
+        {"settings.json", R"({"a": 1, "a": 2})", "'a' stands twice"},
+        {"settings.json", R"({"a": 1e999})", "settings.json: number overflow parsing '1e999'"},
+        {"settings.json", definitions_with("", R"({"Image": "Nowhere"})"), "no setting has the parent 'Nowhere'"},
+        {"settings.json", definitions_with("", "{}", R"("Latin": "Latin", )"), "'languages': 'Latin' is no option of"},
+        {"settings.json", setting(R"("kind": "text", "default": "", "min": 0)"), "setting 'A': unknown field 'min'"},
+        {"settings.json", setting(R"("kind": "text", "default": "1234567890123456")"), "has 16 bytes, expected 0 to"},
+        {"settings.json", setting(R"("kind": "integer", "min": 5, "max": 5, "step": 1, "default": 5)"), "'min' below"},
+        {"settings.json", setting(R"("kind": "integer", "min": 0, "max": 5, "step": 1, "default": 6)"), "from 0 to 5"},
+        {"settings.json", setting(R"("kind": "integer", "min": 0, "max": 3000000000)"), "'max' must be a whole number"},
+        {"settings.json", setting(R"("kind": "option", "options": ["Red\u0000x"])"), "'Red?x' must have 1 to 15 bytes"},
+        {"settings.json", setting(R"("kind": "option", "options": [)" + long_list + "]"), "at most 271 bytes"},
+        {"settings.json", setting(R"("kind": "color", "default": "-12345")"), "six hexadecimal digits"},
+        {"settings.json", setting(R"("kind": "color", "default": "000000", "step": 0)"), "a 'step' of 1 or more"},
+        {"Deutsch.json", R"({"Title": "Bildeinstellungen: Helligkeit 12"})", "Deutsch.json: 'Title' has 32 bytes"},
+        {"Deutsch.json/x", "", "Deutsch.json: is a folder, expected a file"},
     };
-    const Case cases[] = {
-        {"{\n\"languages\": {},\n oops}", ":3: syntax error"},
-        {R"({"a": 1, "a": 2})", "'a' stands twice"},
-        {definitions_with("", R"({"Image": "Nowhere"})"), "no setting has the parent 'Nowhere'"},
-        {definitions_with(R"({"kind": "text", "default": ""})"), "a setting: 'key' is missing"},
-        {definitions_with(R"({"key": "Language", "kind": "text", "default": ""})"), "'Language' is defined twice"},
-        {setting(R"("kind": "number", "default": "")"), "setting 'A': unknown kind 'number'"},
-        {setting(R"("kind": "text", "default": "", "min": 0)"), "setting 'A': unknown field 'min'"},
-        {setting(R"("kind": "text", "default": "1234567890123456")"), "has 16 bytes, expected 0 to 15"},
-        {setting(R"("kind": "integer", "min": 5, "max": 5, "step": 1, "default": 5)"), "'min' below 'max'"},
-        {setting(R"("kind": "integer", "min": 0, "max": 5, "step": 1, "default": 6)"), "no whole number from 0 to 5"},
-        {setting(R"("kind": "integer", "min": 0, "max": 3000000000, "step": 1, "default": 6)"),
-         "'max' must be a whole"},
-        {setting(R"("kind": "option", "options": ["x", "x"], "default": "x")"), "'x' stands twice"},
-        {setting(R"("kind": "option", "options": ["a:b"], "default": "a:b")"), "no ':'"},
-        {setting(R"("kind": "option", "options": ["x", "y"], "default": "z")"), "'z' is none of x, y"},
-        {setting(R"("kind": "option", "options": [)" + long_list + R"(], "default": "x")"), "at most 271 bytes"},
-        {setting(R"("kind": "color", "default": "-12345")"), "six hexadecimal digits"},
-    };
-    const TempFolder folder;
-    for (const Case& test : cases) {
-        const auto load = [&] { (void)load_definitions(folder.write("settings.json", test.text)); };
-        EXPECT_THAT(error_of<BadInput>(load), AllOf(HasSubstr("settings.json"), HasSubstr(test.words))) << test.text;
+    for (const auto& [file, text, words] : cases) {
+        const TempFolder folder;
+        folder.write("settings.json", definitions_with(""));
+        folder.write("English.json", R"({"Title": "Bildeinstellungen: Helligkeit 1"})"); // 31 bytes
+        folder.write(file, text);
+        const auto load = [&] {
+            Translations(folder.path(), load_definitions(folder.path("settings.json")).languages);
+        };
+        EXPECT_THAT(load, ThrowsMessage<BadInput>(AllOf(HasSubstr(".json:"), HasSubstr(words)))) << text;
     }
 }
 
-TEST(Translations, RefuseTextsThatDontFit)
+TEST(Store, KeepsWhatFitsAndOutlivesAKill)
+{
+    const SettingId gain{"Image", "Gain"};
+    const std::map<SettingId, Setting> definitions = {{gain, {gain, SettingKind::Integer, {}, 0, 10, 1, "", "5"}}};
+    const TempFolder folder;
+    const pid_t child = fork();
+    if (child == 0) { // ends with the database open, right after the value was taken
+        SettingsStore store(folder.path("settings.db"));
+        Settings(definitions, store).set(gain, "7");
+        _exit(0);
+    }
+    waitpid(child, nullptr, 0);
+    SettingsStore store(folder.path("settings.db"));
+    Settings settings(definitions, store);
+    EXPECT_EQ(settings.number(gain), 7);
+    EXPECT_THAT([&] { settings.set(gain, "11"); }, ThrowsMessage<BadInput>(HasSubstr("from 0 to 10")));
+    EXPECT_THAT([&] { settings.set({"", "Gain"}, "1"); }, ThrowsMessage<BadInput>(HasSubstr("no such setting")));
+    settings.set_for_this_run(gain, "9");
+    EXPECT_EQ(settings.number(gain), 9);
+    EXPECT_EQ(store.load_all().at(gain), "7");
+    store.write(gain, "99"); // as an older definition allowed it
+    EXPECT_EQ(Settings(definitions, store).number(gain), 5);
+}
+
+TEST(Store, LeavesForeignFilesAlone)
+{
+    const std::pair<const char*, const char*> foreign[] = {
+        {"CREATE TABLE notes (a); BEGIN EXCLUSIVE", "belongs to another program"},
+        {"CREATE TABLE setting (a, b); PRAGMA application_id = 0x43414D53; PRAGMA user_version = 1; BEGIN EXCLUSIVE",
+         "its table has an unknown form"}};
+    for (const auto& [sql, words] : foreign) {
+        const TempFolder folder;
+        const auto opening = [&] { SettingsStore store(folder.path("settings.db")); };
+        sqlite3* other = nullptr;
+        ASSERT_EQ(sqlite3_open(folder.path("settings.db").c_str(), &other), SQLITE_OK);
+        ASSERT_EQ(sqlite3_exec(other, sql, nullptr, nullptr, nullptr), SQLITE_OK);
+        EXPECT_THAT(opening, ThrowsMessage<BadInput>(HasSubstr("another program holds it")));
+        sqlite3_close(other);
+        const std::string before = folder.read("settings.db");
+        EXPECT_THAT(opening, ThrowsMessage<BadDatabase>(HasSubstr(words)));
+        EXPECT_EQ(folder.read("settings.db"), before);
+    }
+}
+
+TEST(Store, NeedsAWriteAheadLog)
 {
     const TempFolder folder;
-    folder.write("German.json", R"({"On": "Ein", "Title": "Bildeinstellungen: Helligkeit 1"})"); // 31 bytes
-    const auto load = [&] { return Translations(folder.path(), {{"German", "German"}}); };
-    EXPECT_EQ(*load().find("German", "On"), "Ein");
-    EXPECT_EQ(load().find("German", "Off"), nullptr);
-    EXPECT_EQ(load().find("French", "On"), nullptr);
-    folder.write("German.json", R"({"Title": "Bildeinstellungen: Helligkeit 12"})");
-    EXPECT_THAT(error_of<BadInput>(load), AllOf(HasSubstr("German.json"), HasSubstr("'Title' has 32 bytes")));
+    sqlite3_vfs* usual = sqlite3_vfs_find(nullptr);
+    sqlite3_vfs_register(sqlite3_vfs_find("unix-dotfile"), 1); // without shared memory, as some network folders are
+    EXPECT_THAT([&] { SettingsStore store(folder.path("settings.db")); },
+                ThrowsMessage<BadInput>(HasSubstr("no write-ahead log (journal mode 'delete')")));
+    sqlite3_vfs_register(usual, 1);
 }

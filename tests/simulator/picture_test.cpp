@@ -3,100 +3,79 @@
 
 #include "simulator/video/layer.h"
 #include "simulator/video/picture.h"
+#include "tests/simulator/temp_folder.h"
 
 using namespace sim;
 
-namespace {
-
-/// A picture of one color with a canvas over it, whose base is 1920 by 1080.
-template <typename Pixel>
-Image picture_under(Size size, Color ground, std::vector<Pixel> pixels, std::uint32_t format, SDL_Rect place)
+/// A picture of one color with a canvas over it, whose base is 1920 by 1080. Pixels of 16 bits lie two in a word.
+static Image picture_under(Size size, Color ground, std::vector<std::uint32_t> pixels, std::uint32_t format,
+                           SDL_Rect place)
 {
-    tagOSD_MENU_CANVAS_S canvas{};
+    tagOSD_MENU_CANVAS_S canvas{{}, {}, place, {0, 0, place.w, place.h - 1}, format, 0, 0, 0, 0, 0, {}};
     canvas.stMem.pvVirAddr = pixels.data();
-    canvas.stMenuRect = place;
+    EXPECT_NE(canvas_problem(canvas, SIZE_MAX), nullptr); // larger than its base
     canvas.stBaseRect = {0, 0, 1920, 1080};
-    canvas.enPixFmt = format;
-    EXPECT_NE(canvas_problem(canvas, pixels.size() * sizeof(Pixel) - 1), nullptr);
-    EXPECT_EQ(canvas_problem(canvas, pixels.size() * sizeof(Pixel)), nullptr);
+    const auto bytes = static_cast<std::size_t>(place.w * place.h * (format == 2 ? 4 : 2));
+    EXPECT_NE(canvas_problem(canvas, bytes - 1), nullptr);
+    EXPECT_EQ(canvas_problem(canvas, bytes), nullptr);
     Image picture(size);
     std::fill(picture.pixels.begin(), picture.pixels.end(), ground);
     blend_layer(picture, scale_layer(copy_canvas(canvas), size));
     return picture;
 }
 
-/// What a pixel of a canvas makes of a grey picture, 100 in all components.
-template <typename Pixel>
-Color over_grey(std::uint32_t format, Pixel pixel)
-{
-    return picture_under<Pixel>({1920, 1080}, 0xFF646464, {pixel}, format, {7, 5, 1, 1}).row(5)[7];
-}
-
-} // namespace
-
 TEST(Layer, ShowsThreePixelFormats)
 {
-    EXPECT_EQ(over_grey<std::uint16_t>(0, 0x0000), 0xFF646464U); // the one transparent value
-    EXPECT_EQ(over_grey<std::uint16_t>(0, 0x7FFF), 0xFFFFFFFFU); // color without the alpha bit counts as shown
-    EXPECT_EQ(over_grey<std::uint16_t>(0, 0x8421), 0xFF080808U); // the background of the menu, opaque
-    EXPECT_EQ(over_grey<std::uint16_t>(1, 0x0FFF), 0xFF646464U);
-    EXPECT_EQ(over_grey<std::uint16_t>(1, 0xF0A0), 0xFF00AA00U);
-    EXPECT_EQ(over_grey<std::uint16_t>(1, 0x800F), 0xFF2F2FB7U); // alpha 136: 100 * 119 / 255 = 47, and 136 of blue
-    EXPECT_EQ(over_grey<std::uint32_t>(2, 0x00FFFFFF), 0xFF646464U);
-    EXPECT_EQ(over_grey<std::uint32_t>(2, 0x800A0A0A), 0xFF373737U); // 10 * 128 / 255 = 5, 100 * 127 / 255 = 50
+    const std::tuple<std::uint32_t, std::uint32_t, Color> cases[] = {
+        {0, 0x0000, 0xFF646464},                                  // the one transparent value
+        {0, 0x7FFF, 0xFFFFFFFF},                                  // color without the alpha bit counts as shown
+        {0, 0x8421, 0xFF080808},                                  // the background of the menu, opaque
+        {1, 0x0FFF, 0xFF646464},     {1, 0x800F, 0xFF2F2FB7},     // alpha 136: 100 * 119 / 255 = 47, and 136 of blue
+        {2, 0x00FFFFFF, 0xFF646464}, {2, 0x800A0A0A, 0xFF373737}, // 10 * 128 / 255 = 5, 100 * 127 / 255 = 50
+    };
+    for (const auto& [format, pixel, seen] : cases) {
+        EXPECT_EQ(picture_under({1920, 1080}, 0xFF646464, {pixel}, format, {7, 5, 1, 1}).row(5)[7], seen) << pixel;
+    }
 }
 
-TEST(Layer, LiesScaledOnEachChannel)
+TEST(Layer, LiesScaledOnEachChannelAndIsCutAtTheEdges)
 {
-    struct Case {
-        Size size;
-        int left, top, right, bottom;
-    };
-    for (const Case& at : {Case{{3840, 2160}, 1920, 1080, 2112, 1188}, Case{{1280, 720}, 640, 360, 704, 396},
-                           Case{{640, 360}, 320, 180, 352, 198}}) {
-        const std::vector<std::uint32_t> red(96 * 54, 0xFFFF0000);
-        const Image picture = picture_under(at.size, 0, red, 2, {960, 540, 96, 54});
-        EXPECT_EQ(picture.row(at.top)[at.left], 0xFFFF0000U) << at.size.width;
-        EXPECT_EQ(picture.row(at.bottom - 1)[at.right - 1], 0xFFFF0000U) << at.size.width;
-        EXPECT_EQ(picture.row(at.top - 1)[at.left], 0U) << at.size.width;
-        EXPECT_EQ(picture.row(at.bottom)[at.right - 1], 0U) << at.size.width;
-        EXPECT_EQ(picture.row(at.top)[at.right], 0U) << at.size.width;
+    const std::vector<std::uint32_t> red(96 * 54, 0xFFFF0000);
+    const std::tuple<Size, SDL_Rect, SDL_Rect> cases[] = {{{3840, 2160}, {960, 540, 96, 54}, {1920, 1080, 192, 108}},
+                                                          {{640, 360}, {960, 540, 96, 54}, {320, 180, 32, 18}},
+                                                          {{1280, 720}, {-48, 1062, 96, 54}, {0, 708, 32, 12}},
+                                                          {{1920, 1080}, {1900, -53, 96, 54}, {1900, 0, 20, 1}},
+                                                          {{1920, 1080}, {5000, -900, 96, 54}, {0, 0, 0, 0}}};
+    for (const auto& [size, place, shown] : cases) {
+        Image expected(size);
+        for (int y = shown.y; y < shown.y + shown.h; ++y) {
+            std::fill_n(expected.row(y) + shown.x, shown.w, 0xFFFF0000U);
+        }
+        EXPECT_TRUE(picture_under(size, 0, red, 2, place).pixels == expected.pixels) << size.width << " " << place.x;
     }
-    // Three by three pixels become one: red (2 * 255 + 3 * 255) / 9, green and blue 2 * 255 / 9, the rest is clear.
-    const std::vector<std::uint32_t> nine = {0xFFFFFFFF, 0xFF000000, 0xFFFFFFFF, 0,         0,
-                                             0,          0xFFFF0000, 0xFFFF0000, 0xFFFF0000};
-    EXPECT_EQ(picture_under({640, 360}, 0xFF000000, nine, 2, {0, 0, 3, 3}).pixels[0], 0xFF8E3939U);
-}
-
-TEST(Layer, IsCutAtTheEdges)
-{
-    const std::vector<std::uint32_t> green(16, 0xFF00FF00);
-    struct Case {
-        SDL_Rect place;
-        int shown;
-    };
-    for (const Case& at : {Case{{-2, -2, 4, 4}, 4}, Case{{1917, 1078, 4, 4}, 6}, Case{{5000, -900, 4, 4}, 0}}) {
-        const Image picture = picture_under({1920, 1080}, 0, green, 2, at.place);
-        EXPECT_EQ(std::count(picture.pixels.begin(), picture.pixels.end(), 0xFF00FF00U), at.shown);
-    }
+    // Three by three pixels, three of them white and two black, become one: white 3 * 255 / 9, the rest is clear.
+    const std::vector<std::uint32_t> nine = {~0U, ~0U, ~0U, 0xFF000000, 0, 0, 0, 0, 0xFF000000};
+    EXPECT_EQ(picture_under({640, 360}, 0xFF000000, nine, 2, {0, 0, 3, 3}).pixels[0], 0xFF555555U);
 }
 
 TEST(Picture, ShowsTheSettings)
 {
-    const Size size{640, 360};
-    const Image plain = draw_picture(size, Look(), 0);
     Look look;
     look.mirror = look.flip = true;
-    EXPECT_EQ(draw_picture(size, look, 0).row(200)[100], plain.row(159)[539]);
-    look = Look();
-    look.saturation = -1;
-    const Color grey = draw_picture(size, look, 0).row(150)[100];
-    EXPECT_EQ(component(grey, 16), component(grey, 0));
-    look.brightness = 1;
-    EXPECT_GT(component(draw_picture(size, look, 0).row(150)[100], 8), component(grey, 8));
+    EXPECT_EQ(draw_picture({640, 360}, look, 0).row(200)[100], draw_picture({640, 360}, Look(), 0).row(159)[539]);
     look = Look();
     look.zoom = 2;
-    EXPECT_EQ(draw_picture(size, look, 0).row(300)[150], draw_picture({1280, 720}, Look(), 0).row(480)[470]);
     look.tally = 0xE8202A;
-    EXPECT_EQ(draw_picture(size, look, 0).row(2)[2], 0xFFE8202AU);
+    const Image near = draw_picture({640, 360}, look, 0);
+    EXPECT_EQ(near.row(300)[150], draw_picture({1280, 720}, Look(), 0).row(480)[470]);
+    EXPECT_EQ(near.row(2)[2], 0xFFE8202AU);
+
+    const TempFolder folder;
+    SettingsStore store(folder.path("settings.db"));
+    const SettingId id{"", "TallyLevel"};
+    const std::tuple<int, int, const char*, double> levels[] = {{0, 5, "4", 0.8}, {-5, 5, "-3", 0}, {-9, 0, "0", 0}};
+    for (const auto& [min, max, value, level] : levels) {
+        const std::map<SettingId, Setting> one = {{id, {id, SettingKind::Integer, {}, min, max, 1, "", value}}};
+        EXPECT_DOUBLE_EQ(look_of(Settings(one, store)).tally_level, level) << value;
+    }
 }

@@ -9,14 +9,9 @@
 
 class TempFolder {
 public:
-    TempFolder()
-    {
-        std::string name = (std::filesystem::temp_directory_path() / "camera-sim-test-XXXXXX").string();
-        path_ = mkdtemp(name.data());
-    }
+    TempFolder() = default;
     ~TempFolder() { std::filesystem::remove_all(path_); }
     TempFolder(const TempFolder&) = delete;
-    TempFolder& operator=(const TempFolder&) = delete;
 
     std::filesystem::path path(const std::string& name = "") const { return path_ / name; }
     std::filesystem::path write(const std::string& name, const std::string& text) const
@@ -32,29 +27,19 @@ public:
     }
 
 private:
-    std::filesystem::path path_;
+    std::string pattern_ = (std::filesystem::temp_directory_path() / "camera-sim-test-XXXXXX").string();
+    std::filesystem::path path_ = mkdtemp(pattern_.data());
 };
 
-/// The message of the error that an action throws; empty when it throws none of this type.
-template <typename Error, typename Action>
-std::string error_of(Action action)
+/// A settings definitions file with the languages English and German, with a list of further settings and the start of
+/// a list of further languages.
+inline std::string definitions_with(const std::string& settings, const std::string& zones = "{}",
+                                    const std::string& languages = "")
 {
-    try {
-        action();
-    } catch (const Error& error) {
-        return error.what();
-    }
-    return "";
-}
-
-/// A settings definitions file with two languages and these further settings.
-inline std::string definitions_with(const std::string& settings, const std::string& zones = "{}")
-{
-    return R"({"languages": {"English": "English", "German": "Deutsch"},
-               "facts": {"FwVersion": "3.1", "IspVersion": "2", "AfVersion": "3", "AiVersion": "4", "VideoFormat": "5",
+    return R"({"facts": {"FwVersion": "3.1", "IspVersion": "2", "AfVersion": "3", "AiVersion": "4", "VideoFormat": "5",
                          "DeviceName": "6", "SN": "7", "Mac": "8", "NdiVersion": "9", "FullNdiVersion": "10",
                          "NdiStatus": "11", "DeviceType": "Dome"}, "zones": )" +
-           zones + R"(, "settings": [{"key": "Language", "kind": "option", "options": ["English", "German"],
-                                      "default": "German"})" +
-           (settings.empty() ? "" : ", ") + settings + "]}";
+           zones + R"(, "languages": {)" + languages + R"("English": "English", "German": "Deutsch"}, "settings": [)" +
+           settings + (settings.empty() ? "" : ", ") +
+           R"({"key": "Language", "kind": "option", "options": ["English", "German"], "default": "German"}]})";
 }
