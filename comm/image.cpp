@@ -28,8 +28,7 @@ static OSD_SURFACE_PTR osdImageFit(OSD_SURFACE_PTR pstRaw, int s32W, int s32H)
     OSD_SURFACE_PTR pstImg(SDL_ConvertSurfaceFormat(pstScaled.get(), SDL_PIXELFORMAT_ARGB4444, 0));
     if (pstImg == nullptr) {
         OSD_TRACE_FAILED();
-        pstScaled.reset();
-        return nullptr;
+        return nullptr; // scaled first, then loaded
     }
     pstRaw.reset(); // loaded first, then scaled
     return pstImg;

@@ -1,100 +1,91 @@
-// The host's three refresh functions.
-#include "tests/fake/menu_test.h"
+// Values read again: the host's three refresh functions, and the places where the values stand.
+#include "menu/core/value_bind.h"
+#include "tests/core/page_text.h"
 
 using namespace fake;
-using testing::ElementsAre;
-using testing::IsEmpty;
+using testing::EndsWith;
 
-class RefreshTest : public MenuTest {
+class RefreshTest : public PageTest {
 protected:
     void SetUp() override
     {
         MenuTest::SetUp();
-        start();
-        setText("Gain", "Auto:Low:High", "Low");
-        setText("Mode", "", "On");
-        setNumber("Zoom", 0, 90, 5, 40);
-        page = open("p", "<P Layout='vertical_align'>"
-                         "<I ItemIndex='Gain' Ctx='NAME_VAL' Attr='COMMON'/>"
-                         "<I ItemIndex='Mode' Ctx='NAME_VAL' Attr='SUBITEM'><O ModeIndex='Off'/><O ModeIndex='On'>"
-                         "<I ItemIndex='Zoom' Ctx='NAME_VAL' Attr='COMMON' ValType='NUMERICAL'/></O></I>"
-                         "<I ItemIndex='Go' Ctx='NAME' Attr='CONFIRM_POP_BTN' ConfirmPage='c'/>"
-                         "<I ItemIndex='Gain' Ctx='NAME_VAL' Attr='COMMON'/></P>");
-        setText("Gain", "Auto:Low:High", "High");
-        setNumber("Zoom", 0, 90, 5, 45);
-        calls().lines.clear();
+        start({0, 2, 0, {0.0f, 0.0f, 0.2f, 0.2f}, true});
+        platform().parents = {{"Cam", "C"}, {"", "Default"}}; // values stand where the data zone says, and only there
+        setText("C/Gain", "Auto:Low:High", "Low");
+        setText("Mode", "", "B");
+        setNumber("C/Zoom", 0, 90, 5, 40);
+        const std::string gain = item("Gain NAME_VAL COMMON DataZone='Cam'");
+        const std::string zoom = item("Zoom NAME_VAL COMMON ValType='NUMERICAL' DataZone='Cam'");
+        const std::string deep = "<O ModeIndex='X'/><O ModeIndex='Y'>" + zoom + "</O>";
+        const std::string below = zoom + item("Bare NAME COMMON") + item("Ip NAME_IP_VAL EDITABLE") +
+                                  item("Deep NAME_VAL MSG_WITH_SUBITEM Msg='m' DataZone='Cam'", deep);
+        const std::string options = "<O ModeIndex='A'>" + gain + "</O><O ModeIndex='B'>" + below + "</O>";
+        opened(gain + item("Mode NAME_VAL SUBITEM DataZone='None'", options) +
+               item("Go NAME CONFIRM_POP_BTN ConfirmPage='c'") + gain);
+        setText("C/Gain", "Other:List", "High");
+        setText("C/Deep", "", "Y");
+        setText("Default/Ip", "", "10.0.0.2");
+        setNumber("C/Zoom", 1, 2, 3, 45);
     }
 
-    // Shown option of the two "Gain" items, option of "Mode", number below it.
-    std::vector<int> state()
+    static tagITEM_NODE_S* at(int index) { return itemAt(gstPageMgr.astPage[0].stItemList, index); }
+    static std::string below(int index) { return describe(*itemAt(at(1)->astSubList[1], index)); }
+
+    // Shown option of the first and the other "Gain"; then the pushes so far.
+    static std::string state()
     {
-        const tagITEM_NODE_S* mode = itemAt(page->stItemList, 1);
-        return {itemAt(page->stItemList, 0)->s32CurIdx, mode->s32CurIdx, itemAt(mode->astSubList[1], 0)->s32Cur,
-                itemAt(page->stItemList, 3)->s32CurIdx};
+        return format("%d %d pushes %zu", at(0)->s32CurIdx, at(3)->s32CurIdx, platform().pushes.size());
     }
 
-    int refreshItem(std::string key)
+    static std::string refresh(std::string key)
     {
-        int result = -1;
-        (void)printed([&] { result = OSD_MENU_RefreshItem(key.data()); });
-        return result;
+        return printed([&] { EXPECT_EQ(OSD_MENU_RefreshItem(key.data()), 0); });
     }
-
-    tagPAGE_NODE_S* page = nullptr;
 };
-
-TEST_F(RefreshTest, WithoutAPage)
-{
-    stop();
-    EXPECT_EQ(OSD_MENU_RefreshCurrentPage(), -1);
-    EXPECT_EQ(refreshItem("Gain"), 0);
-    EXPECT_EQ(OSD_MENU_RefreshPage(), 0);
-    EXPECT_THAT(platform().pushes, IsEmpty());
-}
 
 TEST_F(RefreshTest, ItemsOfOneKeyWithTheirSubItems)
 {
-    EXPECT_THAT(state(), ElementsAre(1, 1, 40, 1));
-    EXPECT_EQ(refreshItem("Gain"), 0);
-    EXPECT_THAT(state(), ElementsAre(2, 1, 40, 2));
-    EXPECT_EQ(linesOf({"push"}).size(), 1u);
-    EXPECT_EQ(refreshItem("Mode"), 0);
-    EXPECT_THAT(state(), ElementsAre(2, 1, 45, 2));
-    EXPECT_EQ(linesOf({"push"}).size(), 2u);
-
-    setNumber("Zoom", 0, 90, 5, 50);
-    EXPECT_EQ(refreshItem("Zoom"), 0) << "sub-items are not searched";
-    EXPECT_EQ(refreshItem("Nobody"), 0);
-    EXPECT_THAT(state(), ElementsAre(2, 1, 45, 2));
-    EXPECT_EQ(linesOf({"push"}).size(), 2u);
+    EXPECT_EQ(state(), "1 1 pushes 0");
+    EXPECT_EQ(refresh("Gain"), "");
+    EXPECT_EQ(state(), "2 2 pushes 1");
+    EXPECT_THAT(describe(*at(0)), EndsWith(" [Auto|t.Auto][Low|t.Low][High|t.High] cur=2 saved=2"));
+    EXPECT_EQ(refresh("Zoom"), "");
+    EXPECT_THAT(below(0), EndsWith(" 0..90/5=40,40")) << "sub-items are not searched";
+    EXPECT_EQ(refresh("Mode"), "[F:L] INDEX Zoom \n[F:L] INDEX Bare \n[F:L] INDEX Ip \n[F:L] INDEX Deep \n");
+    EXPECT_THAT(below(0), EndsWith(" 0..90/5=45,45"));
+    EXPECT_THAT(below(2), EndsWith(" [10.0.0.2][10.0.0.2]"));
+    EXPECT_THAT(below(3), EndsWith(" 0..90/5=45,45}] cur=1 saved=1"));
+    gstMenuMgr.pfnGetDataZoneParent = nullptr;
+    setText("Gain", "", "Auto");
+    (void)refresh("Gain");
+    EXPECT_EQ(state(), "0 0 pushes 3");
+    setText("Gain", "", "Medium"); // no option is called so
+    (void)refresh("Gain");
+    EXPECT_EQ(state(), "0 0 pushes 4");
+    EXPECT_EQ(osdMenuUpdateSubItems(at(0)), -1) << "an item without lists";
 }
 
 TEST_F(RefreshTest, PageUpToTheConfirmButton)
 {
-    (void)printed([] { EXPECT_EQ(OSD_MENU_RefreshPage(), 0); });
-    EXPECT_THAT(state(), ElementsAre(2, 1, 45, 1));
-    EXPECT_THAT(platform().pushes, IsEmpty());
+    EXPECT_EQ(OSD_MENU_RefreshPage(), 0);
+    EXPECT_EQ(state(), "2 1 pushes 0");
+    EXPECT_THAT(below(0), EndsWith(" 0..90/5=45,45"));
 }
 
 TEST_F(RefreshTest, CurrentPageIsBuiltAnew)
 {
-    page->bKeyMsg = 1;
-    itemAt(page->stItemList, 0)->bActive = 0;
-    itemAt(page->stItemList, 3)->bActive = 1;
-    itemAt(page->stItemList, 3)->s32CurIdx = 0; // uncommitted
+    tagPAGE_NODE_S& record = gstPageMgr.astPage[0];
+    record.bKeyMsg = 1;
     EXPECT_EQ(OSD_MENU_RefreshCurrentPage(), 0);
-    EXPECT_THAT(state(), ElementsAre(2, 1, 45, 2));
-    EXPECT_STREQ(page->acPageName, "p");
-    EXPECT_EQ(page->bKeyMsg, 0);
-    EXPECT_EQ(page->s32ItemCnt, 4);
-    EXPECT_EQ(itemAt(page->stItemList, 0)->bActive, 1);
-    EXPECT_EQ(liveItems(), 5);
-    EXPECT_EQ(gstPageMgr.s32PageCnt, 1);
-    EXPECT_EQ(linesOf({"push"}).size(), 1u);
-
+    EXPECT_EQ(state(), "0 0 pushes 1");
+    EXPECT_EQ(describe(record), "p layout=1 items=4");
+    EXPECT_EQ(record.bKeyMsg, 0);
     failCall("document");
     EXPECT_EQ(OSD_MENU_RefreshCurrentPage(), 0) << "also when the page can't be had";
-    EXPECT_THAT(itemNames(page), IsEmpty());
-    EXPECT_EQ(page->s32ItemCnt, 0);
-    EXPECT_STREQ(page->acPageName, "p");
+    EXPECT_EQ(describe(record), "p layout=1");
+    stop(); // without a page
+    EXPECT_EQ(OSD_MENU_RefreshCurrentPage(), -1);
+    EXPECT_EQ(refresh("Gain"), "");
+    EXPECT_EQ(OSD_MENU_RefreshPage(), 0);
 }

@@ -1,5 +1,6 @@
 #include "tests/fake/calls.h"
 
+#include <algorithm>
 #include <cstdarg>
 #include <cstdio>
 #include <gtest/gtest.h>
@@ -23,7 +24,7 @@ bool fails(const std::string& name)
 void failCall(const std::string& name, int n, int last)
 {
     const int count = calls().counts[name];
-    calls().failing[name] = {count + n, count + (last > n ? last : n)};
+    calls().failing[name] = {count + n, count + std::max(n, last)};
 }
 
 void record(const std::string& line) { calls().lines.push_back(line); }
@@ -44,11 +45,8 @@ std::vector<std::string> linesOf(const std::vector<std::string>& words)
 {
     std::vector<std::string> found;
     for (const std::string& line : calls().lines) {
-        for (const std::string& word : words) {
-            if (line.compare(0, word.size(), word) == 0) {
-                found.push_back(line);
-                break;
-            }
+        if (std::any_of(words.begin(), words.end(), [&](const auto& word) { return line.rfind(word, 0) == 0; })) {
+            found.push_back(line);
         }
     }
     return found;
@@ -57,18 +55,18 @@ std::vector<std::string> linesOf(const std::vector<std::string>& words)
 std::vector<std::string> blits()
 {
     std::vector<std::string> found;
-    for (const std::string& line : calls().lines) {
-        if (line.compare(0, 5, "blit ") == 0 && line.find(" on ") == std::string::npos) {
+    for (const std::string& line : linesOf({"blit "})) {
+        if (line.find(" on ") == std::string::npos) {
             found.push_back(line.substr(5));
         }
     }
     return found;
 }
 
-void beginCapture() { testing::internal::CaptureStdout(); }
-
-std::string endCapture()
+std::string printed(const std::function<void()>& function)
 {
+    testing::internal::CaptureStdout();
+    function();
     (void)fflush(stdout);
     static const std::regex place(R"((\w+)([ :])\d+)");
     return std::regex_replace(testing::internal::GetCapturedStdout(), place, "F$2L");

@@ -1,6 +1,7 @@
 // What all fakes share: one log of calls, and the calls that are to fail.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <set>
 #include <string>
@@ -15,16 +16,13 @@ struct Calls {
     std::map<std::string, int> counts;                  // calls by name
     std::map<std::string, std::pair<int, int>> failing; // first and last call of a name that fail
     std::set<std::string> missingFiles;                 // base names that can't be opened
-    bool fakeFonts = true;                              // fixed metrics instead of SDL_ttf
+    bool fakeFonts = true;                              // 20 pixels a byte, 30 high, instead of SDL_ttf
     bool fakePictures = true;                           // plain 100 by 100 pictures instead of files
-    int byteWidth = 20;                                 // metrics of the fake fonts
-    int lineHeight = 30;
-    std::string lastFile;                        // base name of the font file opened last
-    std::map<const void*, std::string> surfaces; // alive, with their descriptions
+    std::string lastFile;                               // base name of the font file opened last
+    std::map<const void*, std::string> surfaces;        // alive, with their descriptions
     struct Font {
         std::string name;
         int size;
-        void* stream; // of a fake font only
     };
     std::map<const void*, Font> fonts; // alive
 };
@@ -35,7 +33,6 @@ Calls& calls();
 bool fails(const std::string& name);
 // Lets the n-th call from now on fail, and the ones behind it up to the last.
 void failCall(const std::string& name, int n = 1, int last = 0);
-constexpr int ALWAYS = 1000000;
 
 void record(const std::string& line);
 std::string format(const char* pattern, ...) __attribute__((format(printf, 1, 2)));
@@ -46,19 +43,8 @@ std::vector<std::string> linesOf(const std::vector<std::string>& words);
 // What was blitted onto the canvas, such as "plain 28 white 'Gain' at 20,60".
 std::vector<std::string> blits();
 
-// Runs a function and gives what it printed; function names and source lines read "F" and "L".
-template <typename Function>
-std::string printed(Function function);
-void beginCapture();
-std::string endCapture();
-
-template <typename Function>
-std::string printed(Function function)
-{
-    beginCapture();
-    function();
-    return endCapture();
-}
+// What a function prints; function names and source lines read "F" and "L".
+std::string printed(const std::function<void()>& function);
 
 // Items alive on the heap; "calloc" names their allocation.
 int liveItems();

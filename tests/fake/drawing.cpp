@@ -13,25 +13,49 @@
 #include "tests/fake/calls.h"
 
 using fake::calls;
-using fake::fails;
 using fake::format;
 using fake::record;
 
-#define REAL(Name) \
-    ([] { \
-        static const auto pfn = reinterpret_cast<decltype(&Name)>(dlsym(RTLD_NEXT, #Name)); \
-        return pfn; \
-    }())
+#define REAL(Name) reinterpret_cast<decltype(&Name)>(dlsym(RTLD_NEXT, #Name))
+#define INTERCEPT(Name, line, ...) intercept(#Name, line, -1, [&] { return REAL(Name)(__VA_ARGS__); })
+#define CREATE(Name, line, description, ...) create(#Name, line, description, [&] { return REAL(Name)(__VA_ARGS__); })
 
 namespace {
 
-thread_local int g_depth = 0;
+int g_depth = 0;
 
-struct Depth {
-    const bool seen = calls().recording && g_depth == 0;
-    Depth() { ++g_depth; }
-    ~Depth() { --g_depth; }
-};
+bool seen() { return calls().recording && g_depth == 0; }
+
+// Logs a call and hands it on, unless it is to fail; an empty line is not logged.
+template <typename Result, typename Real>
+Result intercept(const char* name, const std::string& line, Result failure, Real real)
+{
+    if (!seen()) {
+        return real();
+    }
+    if (!line.empty()) {
+        record(line);
+    }
+    if (fake::fails(name)) {
+        return failure;
+    }
+    g_depth++;
+    const Result result = real();
+    g_depth--;
+    return result;
+}
+
+// The same for a new surface.
+template <typename Real>
+SDL_Surface* create(const char* name, const std::string& line, const std::string& description, Real real)
+{
+    const bool named = seen();
+    SDL_Surface* surface = intercept<SDL_Surface*>(name, line, nullptr, real);
+    if (named && surface != nullptr) {
+        calls().surfaces[surface] = description;
+    }
+    return surface;
+}
 
 std::string nameOf(const SDL_Surface* surface)
 {
@@ -39,48 +63,41 @@ std::string nameOf(const SDL_Surface* surface)
     return it == calls().surfaces.end() ? "a stranger" : it->second;
 }
 
-SDL_Surface* keep(const Depth& depth, SDL_Surface* surface, const std::string& name)
-{
-    if (depth.seen && surface != nullptr) {
-        calls().surfaces[surface] = name;
-    }
-    return surface;
-}
-
-std::string colourName(SDL_Color c)
-{
-    const std::string hex = format("%02x%02x%02x%02x", c.a, c.r, c.g, c.b);
-    static const std::map<std::string, std::string> names = {
-        {"ffffffff", "white"}, {"ffbfbfbf", "grey"}, {"ffffcd25", "amber"}};
-    const auto it = names.find(hex);
-    return it == names.end() ? hex : it->second;
-}
-
-std::string fontName(const std::string& file)
-{
-    return file == "font.ttf" ? "plain" : file == "bold_font.ttf" ? "bold" : file == "tcfont.ttf" ? "tc" : file;
-}
+// The stem in the name of a picture that was loaded or scaled.
+std::string stemOf(const SDL_Surface* surface) { return nameOf(surface).substr(nameOf(surface).find(' ') + 1); }
 
 std::string onto(const SDL_Surface* target) { return nameOf(target) == "canvas" ? "" : " on " + nameOf(target); }
 
+std::string nameOf(const TTF_Font* font)
+{
+    return format("%s %d", calls().fonts.at(font).name.c_str(), calls().fonts.at(font).size);
+}
+
+std::string nameOf(SDL_Color c)
+{
+    static const std::map<std::string, std::string> names = {
+        {"ffffffff", "white"}, {"ffbfbfbf", "grey"}, {"ffffcd25", "amber"}};
+    const std::string hex = format("%02x%02x%02x%02x", c.a, c.r, c.g, c.b);
+    return names.count(hex) != 0 ? names.at(hex) : hex;
+}
+
 SDL_Surface* filled(int w, int h, SDL_Color c)
 {
-    SDL_Surface* surface = REAL(SDL_CreateRGBSurfaceWithFormat)(0, w, h, 32, SDL_PIXELFORMAT_ARGB8888);
-    REAL(SDL_FillRect)(surface, nullptr, REAL(SDL_MapRGBA)(surface->format, c.r, c.g, c.b, c.a));
+    SDL_Surface* surface = SDL_CreateRGBSurfaceWithFormat(0, w, h, 32, SDL_PIXELFORMAT_ARGB8888);
+    (void)REAL(SDL_FillRect)(surface, nullptr, SDL_MapRGBA(surface->format, c.r, c.g, c.b, c.a));
     return surface;
 }
 
-bool isFake(const TTF_Font* font)
-{
-    const auto it = calls().fonts.find(font);
-    return it != calls().fonts.end() && it->second.stream != nullptr;
-}
+constexpr int LINE_HEIGHT = 30;
+
+int widthOf(const char* text) { return 20 * static_cast<int>(strlen(text)); }
 
 bool isMissing(const char* path) { return calls().missingFiles.count(fake::baseName(path)) != 0; }
 
-bool endsWith(const std::string& text, const std::string& end)
+bool hasSuffix(const char* path, const char* suffix)
 {
-    return text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
+    const char* dot = strrchr(path, '.');
+    return dot != nullptr && strcmp(dot, suffix) == 0;
 }
 
 } // namespace
@@ -93,10 +110,9 @@ int open(const char* path, int flags, ...)
     va_start(arguments, flags);
     const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
     va_end(arguments);
-    if (g_depth == 0 && endsWith(path, ".ttf") && calls().recording) {
+    if (seen() && hasSuffix(path, ".ttf")) {
         calls().lastFile = fake::baseName(path);
         if (isMissing(path)) {
-            errno = ENOENT;
             return -1;
         }
         path = calls().fakeFonts ? "/proc/self/exe" : path; // any file that can be mapped
@@ -106,157 +122,123 @@ int open(const char* path, int flags, ...)
 
 int access(const char* path, int mode)
 {
-    if (g_depth == 0 && calls().recording && endsWith(path, ".bmp")) {
-        record(format("access %s", path));
-        if (fails("access") || isMissing(path) ||
-            (calls().fakePictures && strncmp(path, OSD_RESOURCE_DIR "/pic/", sizeof(OSD_RESOURCE_DIR) + 4) != 0)) {
-            return -1;
-        }
-        if (calls().fakePictures) {
-            return 0;
-        }
+    if (!hasSuffix(path, ".bmp")) {
+        return REAL(access)(path, mode);
     }
-    return REAL(access)(path, mode);
+    return intercept("access", format("access %s", path), -1, [&] {
+        return isMissing(path) ? -1 : calls().fakePictures ? 0 : REAL(access)(path, mode);
+    });
 }
 
+// Nothing of the library needs SDL's subsystems.
 int SDL_Init(Uint32 flags)
 {
-    record(format("SDL_Init %#x", flags));
-    return fails("SDL_Init") ? -1 : 0; // nothing of the library needs SDL's subsystems
+    return intercept("SDL_Init", format("SDL_Init %#x", flags), -1, [] { return 0; });
 }
 void SDL_Quit() { record("SDL_Quit"); }
-int IMG_Init(int flags)
-{
-    record(format("IMG_Init %d", flags));
-    return fails("IMG_Init") ? -1 : REAL(IMG_Init)(flags);
-}
+int IMG_Init(int flags) { return INTERCEPT(IMG_Init, format("IMG_Init %d", flags), flags); }
 void IMG_Quit() { record("IMG_Quit"); }
 int TTF_Init()
 {
-    record("TTF_Init");
-    return fails("TTF_Init") ? -1 : REAL(TTF_Init)();
+    return intercept("TTF_Init", "TTF_Init", -1, [] { return REAL(TTF_Init)(); });
 }
 
 TTF_Font* TTF_OpenFontRW(SDL_RWops* source, int freeSource, int size)
 {
-    const Depth depth;
-    record(format("open %s %d", calls().lastFile.c_str(), size));
-    if (fails("TTF_OpenFontRW")) {
-        if (freeSource != 0 && source != nullptr) {
-            SDL_RWclose(source);
-        }
-        return nullptr;
-    }
-    void* stream = calls().fakeFonts ? source : nullptr;
-    auto* font =
-        calls().fakeFonts ? reinterpret_cast<TTF_Font*>(new char) : REAL(TTF_OpenFontRW)(source, freeSource, size);
+    const std::string& file = calls().lastFile;
+    const bool fake = calls().fakeFonts; // a fake font is its file
+    const std::string line = format("open %s %d%s", file.c_str(), size, freeSource != 0 ? "" : ", kept open");
+    TTF_Font* font = intercept<TTF_Font*>("TTF_OpenFontRW", line, nullptr, [=] {
+        return fake ? reinterpret_cast<TTF_Font*>(source) : REAL(TTF_OpenFontRW)(source, freeSource, size);
+    });
     if (font != nullptr) {
-        calls().fonts[font] = {fontName(calls().lastFile), size, stream};
+        calls().fonts[font] = {file == "font.ttf" ? "plain" : file == "bold_font.ttf" ? "bold" : "tc", size};
+    } else if (fake && freeSource != 0) {
+        SDL_RWclose(source);
     }
     return font;
 }
 
 void TTF_CloseFont(TTF_Font* font)
 {
-    const Depth depth;
-    record("close " + calls().fonts[font].name);
-    if (isFake(font)) {
-        SDL_RWclose(static_cast<SDL_RWops*>(calls().fonts[font].stream));
-        delete reinterpret_cast<char*>(font);
+    record("close " + calls().fonts.at(font).name);
+    calls().fonts.erase(font);
+    if (calls().fakeFonts) {
+        SDL_RWclose(reinterpret_cast<SDL_RWops*>(font));
     } else {
         REAL(TTF_CloseFont)(font);
     }
-    calls().fonts.erase(font);
 }
 
 int TTF_SetFontSize(TTF_Font* font, int size)
 {
-    const Depth depth;
-    record(format("size %s %d", calls().fonts[font].name.c_str(), size));
-    if (fails("TTF_SetFontSize")) {
-        return -1;
-    }
-    calls().fonts[font].size = size;
-    return isFake(font) ? 0 : REAL(TTF_SetFontSize)(font, size);
+    return intercept("TTF_SetFontSize", "", -1, [=] {
+        calls().fonts.at(font).size = size;
+        return calls().fakeFonts ? 0 : REAL(TTF_SetFontSize)(font, size);
+    });
 }
 
 int TTF_SizeUTF8(TTF_Font* font, const char* text, int* w, int* h)
 {
-    const Depth depth;
-    if (depth.seen) {
-        record(format("measure %s %d '%s'", calls().fonts[font].name.c_str(), calls().fonts[font].size, text));
-        if (fails("TTF_SizeUTF8")) {
-            return -1;
+    return intercept("TTF_SizeUTF8", format("measure %s '%s'", nameOf(font).c_str(), text), -1, [=] {
+        if (!calls().fakeFonts) {
+            return REAL(TTF_SizeUTF8)(font, text, w, h);
         }
-    }
-    if (!isFake(font)) {
-        return REAL(TTF_SizeUTF8)(font, text, w, h);
-    }
-    if (w != nullptr) {
-        *w = calls().byteWidth * static_cast<int>(strlen(text));
-    }
-    if (h != nullptr) {
-        *h = calls().lineHeight;
-    }
-    return 0;
+        *w = widthOf(text);
+        if (h != nullptr) {
+            *h = LINE_HEIGHT;
+        }
+        return 0;
+    });
 }
 
 SDL_Surface* TTF_RenderUTF8_Blended(TTF_Font* font, const char* text, SDL_Color colour)
 {
-    const Depth depth;
-    const fake::Calls::Font& entry = calls().fonts[font];
-    if (fails("TTF_RenderUTF8_Blended") || (isFake(font) && text[0] == '\0')) {
-        return nullptr;
-    }
-    const int width = calls().byteWidth * static_cast<int>(strlen(text));
-    SDL_Surface* surface =
-        isFake(font) ? filled(width, calls().lineHeight, colour) : REAL(TTF_RenderUTF8_Blended)(font, text, colour);
-    return keep(depth, surface,
-                format("%s %d %s '%s'", entry.name.c_str(), entry.size, colourName(colour).c_str(), text));
+    const std::string name = format("%s %s '%s'", nameOf(font).c_str(), nameOf(colour).c_str(), text);
+    return create("TTF_RenderUTF8_Blended", "", name, [=]() -> SDL_Surface* {
+        if (!calls().fakeFonts) {
+            return REAL(TTF_RenderUTF8_Blended)(font, text, colour);
+        }
+        return *text != '\0' ? filled(widthOf(text), LINE_HEIGHT, colour) : nullptr;
+    });
 }
 
 SDL_Surface* SDL_CreateRGBSurfaceWithFormat(Uint32 flags, int w, int h, int bits, Uint32 pixelFormat)
 {
-    const Depth depth;
-    if (depth.seen && fails("SDL_CreateRGBSurfaceWithFormat")) {
-        return nullptr;
-    }
-    SDL_Surface* surface = REAL(SDL_CreateRGBSurfaceWithFormat)(flags, w, h, bits, pixelFormat);
-    return keep(depth, surface, format("%dx%d", w, h));
+    return CREATE(SDL_CreateRGBSurfaceWithFormat, "", format("%dx%d", w, h), flags, w, h, bits, pixelFormat);
 }
 
 SDL_Surface* SDL_CreateRGBSurfaceWithFormatFrom(void* pixels, int w, int h, int bits, int pitch, Uint32 pixelFormat)
 {
-    const Depth depth;
-    if (!depth.seen) {
-        return REAL(SDL_CreateRGBSurfaceWithFormatFrom)(pixels, w, h, bits, pitch, pixelFormat);
-    }
-    record(format("canvas %dx%d %d bits, pitch %d, format %#x", w, h, bits, pitch, pixelFormat));
-    if (fails("SDL_CreateRGBSurfaceWithFormatFrom")) {
-        return nullptr;
-    }
-    return keep(depth, REAL(SDL_CreateRGBSurfaceWithFormatFrom)(pixels, w, h, bits, pitch, pixelFormat), "canvas");
+    const std::string line = format("canvas %dx%d %d bits, pitch %d, format %#x", w, h, bits, pitch, pixelFormat);
+    return CREATE(SDL_CreateRGBSurfaceWithFormatFrom, line, "canvas", pixels, w, h, bits, pitch, pixelFormat);
 }
 
 SDL_Surface* SDL_ConvertSurfaceFormat(SDL_Surface* source, Uint32 pixelFormat, Uint32 flags)
 {
-    const Depth depth;
-    if (!depth.seen) {
-        return REAL(SDL_ConvertSurfaceFormat)(source, pixelFormat, flags);
-    }
-    record(format("convert %s %#x", nameOf(source).c_str(), pixelFormat));
-    if (fails("SDL_ConvertSurfaceFormat")) {
-        return nullptr;
-    }
-    const std::string name = nameOf(source).substr(nameOf(source).find(' ') + 1);
-    return keep(depth, REAL(SDL_ConvertSurfaceFormat)(source, pixelFormat, flags),
-                format("%s %dx%d", name.c_str(), source->w, source->h));
+    const std::string line = format("convert %s %#x", nameOf(source).c_str(), pixelFormat);
+    const std::string name = format("%s %dx%d", stemOf(source).c_str(), source->w, source->h);
+    return CREATE(SDL_ConvertSurfaceFormat, line, name, source, pixelFormat, flags);
+}
+
+SDL_Surface* rotozoomSurfaceXY(SDL_Surface* source, double angle, double x, double y, int smooth)
+{
+    const std::string line = format("zoom %s %g %g %g %d", nameOf(source).c_str(), angle, x, y, smooth);
+    return CREATE(rotozoomSurfaceXY, line, "scaled " + stemOf(source), source, angle, x, y, smooth);
+}
+
+SDL_Surface* IMG_Load(const char* path)
+{
+    const std::string file = fake::baseName(path);
+    const std::string stem = file.substr(0, file.find('.'));
+    const SDL_Color colour = stem == "block" ? SDL_Color{255, 0, 0, 255} : SDL_Color{0, 0, 255, 255};
+    return create("IMG_Load", format("load %s", path), "loaded " + stem,
+                  [&] { return calls().fakePictures ? filled(100, 100, colour) : REAL(IMG_Load)(path); });
 }
 
 void SDL_FreeSurface(SDL_Surface* surface)
 {
-    const Depth depth;
-    if (depth.seen && surface != nullptr) {
+    if (seen() && surface != nullptr) {
         record("free " + nameOf(surface));
         calls().surfaces.erase(surface);
     }
@@ -265,63 +247,21 @@ void SDL_FreeSurface(SDL_Surface* surface)
 
 int SDL_FillRect(SDL_Surface* target, const SDL_Rect* rect, Uint32 pixel)
 {
-    const Depth depth;
-    if (!depth.seen) {
-        return REAL(SDL_FillRect)(target, rect, pixel);
-    }
     SDL_Color c;
     SDL_GetRGBA(pixel, target->format, &c.r, &c.g, &c.b, &c.a);
-    const SDL_Rect all = {0, 0, target->w, target->h};
-    const SDL_Rect& at = rect != nullptr ? *rect : all;
-    record(format("fill %d,%d %dx%d %s%s", at.x, at.y, at.w, at.h, colourName(c).c_str(), onto(target).c_str()));
-    return fails("SDL_FillRect") ? -1 : REAL(SDL_FillRect)(target, rect, pixel);
+    const std::string place = format("fill %d,%d %dx%d ", rect->x, rect->y, rect->w, rect->h);
+    return INTERCEPT(SDL_FillRect, place + nameOf(c) + onto(target), target, rect, pixel);
 }
 
 int SDL_UpperBlit(SDL_Surface* source, const SDL_Rect* part, SDL_Surface* target, SDL_Rect* place)
 {
-    const Depth depth;
-    if (!depth.seen || source == nullptr) {
-        return REAL(SDL_UpperBlit)(source, part, target, place);
-    }
-    const SDL_Rect at = place != nullptr ? *place : SDL_Rect{0, 0, 0, 0};
-    record(format("blit %s%s at %d,%d%s", nameOf(source).c_str(), part != nullptr ? " in part" : "", at.x, at.y,
-                  onto(target).c_str()));
-    return fails("SDL_UpperBlit") ? -1 : REAL(SDL_UpperBlit)(source, part, target, place);
+    const std::string line = format("blit %s at %d,%d", nameOf(source).c_str(), place->x, place->y);
+    return INTERCEPT(SDL_UpperBlit, line + onto(target), source, part, target, place);
 }
 
 int SDL_SetSurfaceAlphaMod(SDL_Surface* surface, Uint8 alpha)
 {
-    const Depth depth;
-    if (depth.seen) {
-        record(format("alpha %s %d", nameOf(surface).c_str(), alpha));
-    }
-    return REAL(SDL_SetSurfaceAlphaMod)(surface, alpha);
-}
-
-SDL_Surface* IMG_Load(const char* path)
-{
-    const Depth depth;
-    record(format("load %s", path));
-    if (fails("IMG_Load") || isMissing(path)) {
-        return nullptr;
-    }
-    const std::string file = fake::baseName(path);
-    const std::string stem = file.substr(0, file.find('.'));
-    const SDL_Color red = {255, 0, 0, 255};
-    const SDL_Color blue = {0, 0, 255, 255};
-    SDL_Surface* surface = calls().fakePictures ? filled(100, 100, stem == "block" ? red : blue) : REAL(IMG_Load)(path);
-    return keep(depth, surface, "loaded " + stem);
-}
-
-SDL_Surface* rotozoomSurfaceXY(SDL_Surface* source, double angle, double x, double y, int smooth)
-{
-    const Depth depth;
-    record(format("zoom %s %g %g %g %d", nameOf(source).c_str(), angle, x, y, smooth));
-    if (fails("rotozoomSurfaceXY")) {
-        return nullptr;
-    }
-    const std::string name = nameOf(source).substr(nameOf(source).find(' ') + 1);
-    return keep(depth, REAL(rotozoomSurfaceXY)(source, angle, x, y, smooth), "scaled " + name);
+    return INTERCEPT(SDL_SetSurfaceAlphaMod, "alpha " + nameOf(surface) + format(" %d", alpha), surface, alpha);
 }
 
 } // extern "C"

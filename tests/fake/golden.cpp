@@ -1,7 +1,6 @@
 #include "tests/fake/golden.h"
 
 #include <SDL_image.h>
-#include <cstdlib>
 
 #include "tests/fake/menu_test.h"
 
@@ -9,15 +8,20 @@ namespace fake {
 
 namespace {
 
-bool near(uint32_t left, uint32_t right, int tolerance, bool alpha)
+// The first difference of two pictures, or an empty text.
+std::string difference(SDL_Surface* actual, SDL_Surface* expected)
 {
-    for (int shift = 0; shift < (alpha ? 32 : 24); shift += 8) {
-        const int distance = static_cast<int>(left >> shift & 0xFF) - static_cast<int>(right >> shift & 0xFF);
-        if (std::abs(distance) > tolerance) {
-            return false;
+    if (actual->w != expected->w || actual->h != expected->h) {
+        return format("%dx%d instead of %dx%d", actual->w, actual->h, expected->w, expected->h);
+    }
+    for (int at = 0; at < actual->w * actual->h; at++) {
+        const int x = at % actual->w;
+        const int y = at / actual->w;
+        if (pixelAt(actual, x, y) != pixelAt(expected, x, y)) {
+            return format("pixel %d,%d is %08x instead of %08x", x, y, pixelAt(actual, x, y), pixelAt(expected, x, y));
         }
     }
-    return true;
+    return "";
 }
 
 } // namespace
@@ -28,45 +32,22 @@ bool& updateGolden()
     return update;
 }
 
-testing::AssertionResult samePixels(SDL_Surface* actual, SDL_Surface* expected, int tolerance, bool alpha)
-{
-    if (actual->w != expected->w || actual->h != expected->h) {
-        return testing::AssertionFailure()
-               << actual->w << "x" << actual->h << " instead of " << expected->w << "x" << expected->h;
-    }
-    for (int y = 0; y < actual->h; y++) {
-        for (int x = 0; x < actual->w; x++) {
-            const uint32_t left = pixelAt(actual, x, y);
-            const uint32_t right = pixelAt(expected, x, y);
-            if (!near(left, right, tolerance, alpha)) {
-                return testing::AssertionFailure() << format("pixel %d,%d is %08x instead of %08x", x, y, left, right);
-            }
-        }
-    }
-    return testing::AssertionSuccess();
-}
-
 testing::AssertionResult matchesGolden(SDL_Surface* actual, const std::string& name)
 {
-    const std::string path = OSD_GOLDEN_DIR "/" + name + ".png";
     const bool recording = std::exchange(calls().recording, false);
-    SDL_Surface* expected = updateGolden() ? nullptr : IMG_Load(path.c_str());
-    testing::AssertionResult result = testing::AssertionSuccess();
+    const std::string path = OSD_GOLDEN_DIR "/" + name + ".png";
     if (updateGolden()) {
-        if (IMG_SavePNG(actual, path.c_str()) != 0) {
-            result = testing::AssertionFailure() << "cannot write " << path;
-        }
-    } else {
-        result =
-            expected != nullptr ? samePixels(actual, expected) : testing::AssertionFailure() << path << " is missing";
-        if (!result) {
-            (void)IMG_SavePNG(actual, (name + ".actual.png").c_str());
-            result << "; the picture drawn is " << name << ".actual.png";
-        }
+        EXPECT_EQ(IMG_SavePNG(actual, path.c_str()), 0) << path;
     }
+    SDL_Surface* expected = IMG_Load(path.c_str());
+    const std::string text = expected != nullptr ? difference(actual, expected) : path + " is missing";
     SDL_FreeSurface(expected);
     calls().recording = recording;
-    return result;
+    if (text.empty()) {
+        return testing::AssertionSuccess();
+    }
+    (void)IMG_SavePNG(actual, (name + ".actual.png").c_str());
+    return testing::AssertionFailure() << text << "; the picture drawn is " << name << ".actual.png";
 }
 
 } // namespace fake

@@ -15,15 +15,15 @@ void __libc_free(void*);
 static void* g_items[4096];
 static int g_live = 0;
 
-static void swapEntry(void* from, void* to)
+static bool swapEntry(void* from, void* to)
 {
     for (void*& entry : g_items) {
         if (entry == from) {
             entry = to;
-            g_live += from == nullptr ? 1 : -1;
-            return;
+            return true;
         }
     }
+    return false;
 }
 
 int fake::liveItems() { return g_live; }
@@ -35,16 +35,12 @@ extern "C" void* calloc(size_t count, size_t size)
         return nullptr;
     }
     void* block = __interceptor_calloc != nullptr ? __interceptor_calloc(count, size) : __libc_calloc(count, size);
-    if (item) {
-        swapEntry(nullptr, block);
-    }
+    g_live += item && swapEntry(nullptr, block) ? 1 : 0;
     return block;
 }
 
 extern "C" void free(void* block)
 {
-    if (block != nullptr && g_live > 0) {
-        swapEntry(block, nullptr);
-    }
+    g_live -= block != nullptr && g_live > 0 && swapEntry(block, nullptr) ? 1 : 0;
     __interceptor_free != nullptr ? __interceptor_free(block) : __libc_free(block);
 }

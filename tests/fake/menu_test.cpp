@@ -56,9 +56,7 @@ void MenuTest::TearDown()
     EXPECT_EQ(platform().blocks.size(), 0u);
     EXPECT_EQ(platform().damaged, 0);
     EXPECT_EQ(platform().documents, 0);
-    for (const auto& [surface, name] : calls().surfaces) {
-        ADD_FAILURE() << "surface left: " << name;
-    }
+    EXPECT_TRUE(calls().surfaces.empty()) << "surface left: " << calls().surfaces.begin()->second;
     EXPECT_EQ(pthread_mutex_trylock(&g_stMutex), 0) << "the render lock is still held";
     (void)pthread_mutex_unlock(&g_stMutex);
 }
@@ -75,9 +73,10 @@ tagPAGE_NODE_S* MenuTest::open(const std::string& name, const std::string& docum
 
 uint32_t pixelAt(SDL_Surface* surface, int x, int y)
 {
-    const ptrdiff_t offset = ptrdiff_t{y} * surface->pitch + ptrdiff_t{x} * surface->format->BytesPerPixel;
+    const int bytes = surface->format->BytesPerPixel;
     Uint32 pixel = 0;
-    memcpy(&pixel, static_cast<const unsigned char*>(surface->pixels) + offset, surface->format->BytesPerPixel);
+    memcpy(&pixel, static_cast<const char*>(surface->pixels) + y * surface->pitch + x * bytes,
+           static_cast<size_t>(bytes));
     SDL_Color c;
     SDL_GetRGBA(pixel, surface->format, &c.r, &c.g, &c.b, &c.a);
     return static_cast<uint32_t>(c.a << 24 | c.r << 16 | c.g << 8 | c.b);

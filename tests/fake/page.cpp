@@ -3,23 +3,12 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "menu/core/flat_list.h"
 #include "tests/fake/calls.h"
 
 namespace fake {
 
 namespace {
-
-void append(list_head* head, list_head* link)
-{
-    *link = {head, head->prev};
-    head->prev->next = link;
-    head->prev = link;
-}
-
-tagITEM_NODE_S* itemOf(list_head* link)
-{
-    return reinterpret_cast<tagITEM_NODE_S*>(reinterpret_cast<char*>(link) - offsetof(tagITEM_NODE_S, stNode));
-}
 
 tagITEM_NODE_S* newItem(list_head* head, const std::string& name, tagITEM_CTX_E ctx, tagITEM_ATTR_E attr,
                         const std::string& value)
@@ -34,18 +23,18 @@ tagITEM_NODE_S* newItem(list_head* head, const std::string& name, tagITEM_CTX_E 
     item->enPicType = PIC_TYPE_NONE;
     item->s32ValCnt = value.empty() ? 0 : 1;
     item->s32ItemCnt = 1;
-    append(head, &item->stNode);
+    osdListAddTail(&item->stNode, head);
     return item;
 }
 
-void addText(std::string& out, const char* label, const std::string& text)
+std::string text(const char* label, const std::string& value)
 {
-    out += text.empty() ? "" : std::string(" ") + label + "=" + text;
+    return value.empty() ? "" : std::string(" ") + label + "=" + value;
 }
 
-void addNumber(std::string& out, const char* label, int value, int usual = 0)
+std::string number(const char* label, int value, int usual = 0)
 {
-    addText(out, label, value == usual ? "" : std::to_string(value));
+    return text(label, value == usual ? "" : std::to_string(value));
 }
 
 std::string describeValue(const tagITEM_NODE_S& item)
@@ -59,15 +48,12 @@ std::string describeValue(const tagITEM_NODE_S& item)
     std::string out = item.s32ValCnt > 0 ? " " : "";
     for (int option = 0; option < item.s32ValCnt; option++) {
         out += format("[%s|%s", item.acValueKey[option], item.acValue[option]);
-        const list_head& subItems = item.astSubList[option];
-        for (const list_head* link = subItems.next; link != nullptr && link != &subItems; link = link->next) {
-            out += "{" + describe(*itemOf(const_cast<list_head*>(link))) + "}";
+        for (const tagITEM_NODE_S* sub : osdItems(const_cast<list_head*>(&item.astSubList[option]))) {
+            out += "{" + describe(*sub) + "}";
         }
         out += "]";
     }
-    addNumber(out, "cur", item.s32CurIdx);
-    addNumber(out, "saved", item.s32SavedIdx);
-    return out;
+    return out + number("cur", item.s32CurIdx) + number("saved", item.s32SavedIdx);
 }
 
 } // namespace
@@ -84,7 +70,7 @@ tagPAGE_NODE_S* addPage(tagPAGE_LAYOUT_E layout, const std::string& title)
     page->enLayout = layout;
     page->bTitle = title.empty() ? 0 : 1;
     setField(page->acTitle, title);
-    page->stItemList = {&page->stItemList, &page->stItemList};
+    osdListInit(&page->stItemList);
     return page;
 }
 
@@ -112,11 +98,9 @@ void setOptions(tagITEM_NODE_S* item, std::initializer_list<const char*> options
     for (const char* option : options) {
         setField(item->acValue[item->s32ValCnt], option);
         setField(item->acValueKey[item->s32ValCnt], option);
-        list_head* head = &item->astSubList[item->s32ValCnt++];
-        *head = {head, head};
+        osdListInit(&item->astSubList[item->s32ValCnt++]);
     }
-    item->s32CurIdx = current;
-    item->s32SavedIdx = current;
+    item->s32SavedIdx = item->s32CurIdx = current;
 }
 
 void setRange(tagITEM_NODE_S* item, int min, int max, int step, int current)
@@ -125,68 +109,42 @@ void setRange(tagITEM_NODE_S* item, int min, int max, int step, int current)
     item->s32Min = min;
     item->s32Max = max;
     item->s32Step = step;
-    item->s32Cur = current;
-    item->s32Saved = current;
+    item->s32Saved = item->s32Cur = current;
 }
 
 std::string describe(const tagPAGE_NODE_S& page)
 {
-    std::string out = page.acPageName;
-    addNumber(out, "layout", page.enLayout);
-    addNumber(out, "perLine", page.s32CountPerLine);
-    addText(out, "num", page.stTurn.bCurPagesNum == 1 ? page.stTurn.acCurPagesNum : "");
-    addText(out, "next", page.stTurn.bNextPage == 1 ? page.stTurn.acNextPage : "");
-    addText(out, "prev", page.stTurn.bPrevPage == 1 ? page.stTurn.acPrevPage : "");
-    addText(out, "msg", page.acPageMsg);
-    addText(out, "title", page.bTitle == 1 ? std::string(page.acTitleKey) + "|" + page.acTitle : "");
-    addNumber(out, "pos", page.enTitlePos);
-    addNumber(out, "confirm", page.bConfirmBtn);
-    addNumber(out, "rdOnly", page.bRdOnly);
-    addNumber(out, "items", page.s32ItemCnt);
-    return out;
+    const tagPAGE_TURN_S& turn = page.stTurn;
+    const std::string title = format("%s|%s", page.acTitleKey, page.acTitle);
+    return page.acPageName + number("layout", page.enLayout) + number("perLine", page.s32CountPerLine) +
+           text("num", turn.bCurPagesNum == 1 ? turn.acCurPagesNum : "") +
+           text("next", turn.bNextPage == 1 ? turn.acNextPage : "") +
+           text("prev", turn.bPrevPage == 1 ? turn.acPrevPage : "") + text("msg", page.acPageMsg) +
+           text("title", page.bTitle == 1 ? title : "") + number("pos", page.enTitlePos) +
+           number("confirm", page.bConfirmBtn) + number("rdOnly", page.bRdOnly) + number("items", page.s32ItemCnt);
 }
 
 std::string describe(const tagITEM_NODE_S& item)
 {
-    std::string out = std::string(item.acItemIndex) + "|" + item.acItemName;
-    addText(out, "ctx", std::to_string(item.enCtx));
-    addText(out, "attr", std::to_string(item.enAttr));
-    addNumber(out, "type", item.enValType, OPTTXT);
-    addNumber(out, "pic", item.enPicType, PIC_TYPE_NONE);
-    addNumber(out, "level", item.enLevel);
-    addNumber(out, "active", item.bActive);
-    addNumber(out, "sub", item.bSubItem);
-    addNumber(out, "count", item.s32ItemCnt, 1);
-    addNumber(out, "index", item.s32ItemIndexOnLine);
-    addText(out, "icon", item.acPic);
-    addText(out, "selected", item.acSelectPic);
-    addNumber(out, "chars", item.s32NumOfChar);
-    addNumber(out, "pos", item.enItemPos);
-    addNumber(out, "line", item.bLine);
-    addText(out, "zone", item.acDataZone);
-    addText(out, "msg", item.acMsgKey[0] != 0 ? std::string(item.acMsgKey) + "|" + item.acMsg : "");
-    addText(out, "opens", item.acSubPage);
-    addText(out, "asks", item.acConfirmPage);
-    addNumber(out, "live", item.bShowValue);
-    return out + describeValue(item);
-}
-
-std::vector<std::string> itemNames(const tagPAGE_NODE_S* page)
-{
-    std::vector<std::string> names;
-    for (list_head* link = page->stItemList.next; link != &page->stItemList; link = link->next) {
-        names.emplace_back(itemOf(link)->acItemIndex);
-    }
-    return names;
+    const std::string message = format("%s|%s", item.acMsgKey, item.acMsg);
+    return format("%s|%s ctx=%d attr=%d", item.acItemIndex, item.acItemName, item.enCtx, item.enAttr) +
+           number("type", item.enValType, OPTTXT) + number("pic", item.enPicType, PIC_TYPE_NONE) +
+           number("level", item.enLevel) + number("active", item.bActive) + number("sub", item.bSubItem) +
+           number("count", item.s32ItemCnt, 1) + number("index", item.s32ItemIndexOnLine) + text("icon", item.acPic) +
+           text("selected", item.acSelectPic) + number("chars", item.s32NumOfChar) + number("pos", item.enItemPos) +
+           number("line", item.bLine) + text("zone", item.acDataZone) + text("msg", message == "|" ? "" : message) +
+           text("opens", item.acSubPage) + text("asks", item.acConfirmPage) + number("live", item.bShowValue) +
+           describeValue(item);
 }
 
 tagITEM_NODE_S* itemAt(const list_head& list, int index)
 {
-    list_head* link = list.next;
-    while (index-- > 0 && link != &list) {
-        link = link->next;
+    for (tagITEM_NODE_S* item : osdItems(const_cast<list_head*>(&list))) {
+        if (index-- == 0) {
+            return item;
+        }
     }
-    return link == &list ? nullptr : itemOf(link);
+    return nullptr;
 }
 
 } // namespace fake

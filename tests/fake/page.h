@@ -3,7 +3,6 @@
 
 #include <initializer_list>
 #include <string>
-#include <vector>
 
 #include "osd_records.h"
 
@@ -30,8 +29,6 @@ void setField(char (&field)[OSD_TEXT_LEN], const std::string& text);
 std::string describe(const tagPAGE_NODE_S& page);
 std::string describe(const tagITEM_NODE_S& item);
 
-// The keys of a page's items.
-std::vector<std::string> itemNames(const tagPAGE_NODE_S* page);
 tagITEM_NODE_S* itemAt(const list_head& list, int index);
 
 } // namespace fake

@@ -11,11 +11,14 @@
 #include "platform/media_service.h"
 #include "tests/fake/calls.h"
 
+using fake::fails;
+using fake::format;
 using fake::platform;
+using fake::record;
 
 namespace {
 
-constexpr int GUARD = 64;
+constexpr int GUARD = 64; // bytes behind each block
 constexpr unsigned char GUARD_BYTE = 0xC3;
 constexpr unsigned char FILL_BYTE = 0xA5;
 
@@ -26,28 +29,22 @@ struct CountedDocument : tinyxml2::XMLDocument {
 
 void copyText(char* out, size_t size, const std::string& text)
 {
+    snprintf(out, size, "%s", text.c_str());
     if (platform().garbage) {
         memset(out, 'x', size);
-        return;
     }
-    snprintf(out, size, "%s", text.c_str());
 }
 
 template <typename Record>
-int fetch(const std::map<std::string, Record>& all, const char* call, const std::string& key, Record* out,
-          const Record& garbage)
+int fetch(const char* call, const std::map<std::string, Record>& all, const std::string& key, const Record& garbage,
+          Record* out)
 {
-    fake::record(std::string(call) + " " + key);
-    if (fake::fails(call)) {
-        return -1; // the record stays as the caller made it
-    }
+    record(std::string(call) + " " + key);
     const auto it = all.find(key);
-    if (platform().garbage) {
-        *out = garbage;
-    } else if (it != all.end()) {
-        *out = it->second;
+    if (!fails(call) && (platform().garbage || it != all.end())) {
+        *out = platform().garbage ? garbage : it->second;
     }
-    return it == all.end() ? -1 : 0;
+    return -1; // not read by anybody
 }
 
 int fetchText(const std::string& key, tagCFG_VALUE_TXT_S* out)
@@ -57,28 +54,24 @@ int fetchText(const std::string& key, tagCFG_VALUE_TXT_S* out)
     for (size_t at = 1; at < 200; at += 2) {
         garbage.acList[at] = ':'; // more pieces than an item has options, then one that never ends
     }
-    return fetch(platform().texts, "text", key, out, garbage);
+    return fetch("text", platform().texts, key, garbage, out);
 }
 
 int fetchNumber(const std::string& key, tagCFG_VALUE_INT_S* out)
 {
-    return fetch(platform().numbers, "number", key, out, {INT_MAX, INT_MIN, -1, -1, INT_MIN});
+    return fetch("number", platform().numbers, key, {INT_MAX, INT_MIN, -1, -1, INT_MIN}, out);
 }
 
-void push(const char* call, OSD_BOOL show, const void* attach, const tagOSD_MENU_CANVAS_S* canvas)
+int push(const char* call, OSD_BOOL show, const void* attach, const tagOSD_MENU_CANVAS_S* canvas)
 {
-    fake::record(fake::format("%s %d", call, show));
+    record(format("%s %d", call, show));
     const bool locked = pthread_mutex_trylock(&g_stMutex) != 0;
     if (!locked) {
         (void)pthread_mutex_unlock(&g_stMutex);
     }
-    fake::Push entry = {show != 0, locked, canvas, attach, {}};
-    const auto it = platform().blocks.find(canvas->stMem.pvVirAddr);
-    if (it != platform().blocks.end()) {
-        const std::vector<unsigned char>& bytes = it->second.second;
-        entry.pixels.assign(bytes.begin() + GUARD, bytes.end() - GUARD);
-    }
-    platform().pushes.push_back(entry);
+    const std::vector<unsigned char>& bytes = platform().blocks.at(canvas->stMem.pvVirAddr).second;
+    platform().pushes.push_back({locked, canvas, attach, {bytes.begin(), bytes.end() - GUARD}});
+    return fails(call) ? -1 : 0;
 }
 
 } // namespace
@@ -93,10 +86,9 @@ Platform& platform()
 
 void setText(const std::string& key, const char* list, const char* value)
 {
-    tagCFG_VALUE_TXT_S record = {};
-    snprintf(record.acList, sizeof record.acList, "%s", list);
-    snprintf(record.acValue, sizeof record.acValue, "%s", value);
-    platform().texts[key] = record;
+    tagCFG_VALUE_TXT_S& text = platform().texts[key] = {};
+    snprintf(text.acList, sizeof text.acList, "%s", list);
+    snprintf(text.acValue, sizeof text.acValue, "%s", value);
 }
 
 void setNumber(const std::string& key, int min, int max, int step, int cur)
@@ -129,69 +121,55 @@ extern "C" {
 int CFG_COM_GetTxtParams(char* key, tagCFG_VALUE_TXT_S* out) { return fetchText(key, out); }
 int CFG_COM_GetTxtParamByParent(char* parent, char* key, tagCFG_VALUE_TXT_S* out)
 {
-    return fetchText(std::string(parent) + "/" + key, out);
+    return fetchText(format("%s/%s", parent, key), out);
 }
 int CFG_COM_GetIntParams(char* key, tagCFG_VALUE_INT_S* out) { return fetchNumber(key, out); }
 int CFG_COM_GetIntParamByParent(char* parent, char* key, tagCFG_VALUE_INT_S* out)
 {
-    return fetchNumber(std::string(parent) + "/" + key, out);
+    return fetchNumber(format("%s/%s", parent, key), out);
 }
+
 int CFG_COM_SetTxtParams(char* key, char* value, OSD_BOOL save)
 {
-    fake::record(fake::format("set %s=%s %d", key, value, save));
+    record(format("set %s=%s %d", key, value, save));
     return 0;
 }
 
 int CFG_SYSTEM_GetLanguage(char* out)
 {
-    if (fake::fails("language")) {
-        return -1;
-    }
-    copyText(out, OSD_TEXT_LEN, platform().language);
-    return 0;
+    copyText(out, OSD_TEXT_LEN, "English");
+    return fails("language") ? -1 : 0;
 }
 
-int CFG_LANG_GetString(char* language, char* key, char* out)
+int CFG_LANG_GetString(char* /*language*/, char* key, char* out)
 {
-    fake::record(fake::format("translate %s %s", language, key));
-    const auto it = platform().translations.find(key);
-    const bool known = it != platform().translations.end() || platform().echo;
-    if (fake::fails("translate") || platform().untranslated.count(key) != 0 || !known) {
+    if (fails("translate") || platform().untranslated.count(key) != 0) {
         return -1;
     }
-    copyText(out, OSD_TEXT_LEN, it != platform().translations.end() ? it->second : std::string("t.") + key);
+    copyText(out, OSD_TEXT_LEN, std::string("t.") + key);
     return 0;
 }
 
 int BSP_PARTITION_GetDevAttribute(tagDEV_ATTR_CONTENT_S* out)
 {
-    if (platform().garbage) {
-        memset(out, 'x', sizeof *out);
-    } else {
-        snprintf(out->acDeviceType, sizeof out->acDeviceType, "%s", platform().deviceType.c_str());
-    }
-    return fake::fails("attribute") ? -1 : 0;
+    copyText(out->acDeviceType, sizeof out->acDeviceType, platform().deviceType);
+    return fails("attribute") ? -1 : 0;
 }
 
 tinyxml2::XMLDocument* CFG_GetDocByFileName(const char* path, OSD_BOOL read)
 {
-    fake::record(fake::format("document %s %d", path, read));
-    const std::string folder = OSD_RESOURCE_DIR "/menu/";
-    const std::string full = path;
-    if (fake::fails("document") || full.compare(0, folder.size(), folder) != 0 || full.size() < folder.size() + 9) {
-        return nullptr;
-    }
-    if (platform().build) {
-        auto document = std::make_unique<CountedDocument>();
-        platform().build(*document);
-        return document.release();
-    }
-    const auto it = platform().pages.find(full.substr(folder.size(), full.size() - folder.size() - 9)); // "_page.xml"
-    if (it == platform().pages.end()) {
+    record(format("document %s %d", path, read));
+    const std::string file = fake::baseName(path);
+    const auto it = platform().pages.find(file.substr(0, file.rfind("_page.xml")));
+    if (fails("document") || it == platform().pages.end()) {
         return nullptr;
     }
     auto document = std::make_unique<CountedDocument>();
-    (void)document->Parse(it->second.c_str()); // a broken text leaves a document without a root
+    if (platform().build) {
+        platform().build(*document);
+    } else {
+        (void)document->Parse(it->second.c_str()); // a broken text leaves a document without a root
+    }
     return document.release();
 }
 
@@ -202,66 +180,61 @@ void UTIL_LOG_Print(int level, char* tag, const char* pattern, ...)
     va_start(arguments, pattern);
     (void)vsnprintf(text, sizeof text, pattern, arguments);
     va_end(arguments);
-    platform().log.push_back({level, tag, text});
-    fake::record(fake::format("log %d %s", level, text));
+    platform().log.push_back({tag, text});
+    record(format("log %d %s", level, text));
 }
 
 int MPP_AllocMem(const char* name, uint32_t size, int flag, void* out)
 {
-    fake::record(fake::format("alloc %s %u %d", name, size, flag));
-    if (fake::fails("alloc") || size > 64u << 20) {
+    record(format("alloc %s %u %d", name, size, flag));
+    if (fails("alloc") || size > 64u << 20) {
         return -1;
     }
-    std::vector<unsigned char> bytes(size + 2 * GUARD, GUARD_BYTE);
-    std::fill(bytes.begin() + GUARD, bytes.end() - GUARD, FILL_BYTE);
+    std::vector<unsigned char> bytes(size, FILL_BYTE);
+    bytes.resize(size + GUARD, GUARD_BYTE);
     auto* mem = static_cast<tagOSD_MEM_S*>(out);
-    *mem = {0x1122334455667788u, bytes.data() + GUARD, {1, 2}};
+    *mem = {0x1122334455667788u, bytes.data(), {1, 2}};
     platform().blocks[mem->pvVirAddr] = {name, std::move(bytes)};
     return 0;
 }
 
 int MPP_FreeMem(void* out)
 {
-    auto* mem = static_cast<tagOSD_MEM_S*>(out);
-    const auto it = platform().blocks.find(mem->pvVirAddr);
+    const auto it = platform().blocks.find(static_cast<tagOSD_MEM_S*>(out)->pvVirAddr);
     if (it == platform().blocks.end()) {
-        fake::record("release of an unknown block");
         platform().damaged++;
         return -1;
     }
     const auto& [name, bytes] = it->second;
-    fake::record("release " + name);
-    const auto damaged = [](unsigned char byte) { return byte != GUARD_BYTE; };
-    platform().damaged += std::any_of(bytes.begin(), bytes.begin() + GUARD, damaged) ? 1 : 0;
-    platform().damaged += std::any_of(bytes.end() - GUARD, bytes.end(), damaged) ? 1 : 0;
+    record("release " + name);
+    const bool intact = std::count(bytes.end() - GUARD, bytes.end(), GUARD_BYTE) == GUARD;
+    platform().damaged += intact ? 0 : 1;
     platform().blocks.erase(it);
     return 0;
 }
 
 int MPP_MENU_CreateSdkResource(tagOSD_MENU_CANVAS_S* canvas)
 {
-    fake::record("create resource");
+    record("create resource");
     platform().canvasAtCreate = *canvas;
-    return fake::fails("create") ? -1 : 0;
+    return fails("create") ? -1 : 0;
 }
 
 int MPP_MENU_SetMenuCb(int (*update)(OSD_BOOL, OSD_ATTACH_INFO_S*))
 {
-    fake::record("set callback");
+    record("set callback");
     platform().update = update;
     return 0;
 }
 
 int MPP_MENU_UpdateCanvasToAllChns(OSD_BOOL show, tagOSD_MENU_CANVAS_S* canvas)
 {
-    push("push", show, nullptr, canvas);
-    return fake::fails("push") ? -1 : 0;
+    return push("push", show, nullptr, canvas);
 }
 
 int MPP_MENU_UpdateCanvasToOneChn(OSD_BOOL show, OSD_ATTACH_INFO_S* attach, tagOSD_MENU_CANVAS_S* canvas)
 {
-    push("push one", show, attach, canvas);
-    return -1; // not read by anybody
+    return push("push one", show, attach, canvas);
 }
 
 } // extern "C"

@@ -13,7 +13,6 @@
 namespace fake {
 
 struct Push {
-    bool show;
     bool locked; // under the render lock
     const void* canvas;
     const void* attach; // null for all channels
@@ -21,7 +20,6 @@ struct Push {
 };
 
 struct Log {
-    int level;
     std::string tag;
     std::string text;
 };
@@ -31,10 +29,7 @@ struct Platform {
     std::map<std::string, tagCFG_VALUE_INT_S> numbers; // the same
     std::map<std::string, std::string> pages;          // page name to document text
     std::function<void(tinyxml2::XMLDocument&)> build; // builds any document, when set
-    std::map<std::string, std::string> translations;
-    std::set<std::string> untranslated; // keys that the language service refuses
-    bool echo = true;                   // any other key answers "t." and the key; off: refuses it
-    std::string language = "English";
+    std::set<std::string> untranslated;                // any other key answers "t." and the key
     std::string deviceType;
     std::map<int, std::string> answers;                    // of the get-callback, by event
     std::map<std::string, std::string> parents;            // of data zones
@@ -45,7 +40,7 @@ struct Platform {
     std::vector<Push> pushes;
     std::vector<Log> log;
     int documents = 0; // alive
-    int damaged = 0;   // guard bytes overwritten
+    int damaged = 0;   // blocks written past their end, and releases of none
 };
 
 Platform& platform();
