@@ -1,4 +1,4 @@
-#include "bare_redraw.h"
+#include "bench/bare_redraw.h"
 
 #include <SDL2_rotozoom.h>
 #include <SDL_image.h>

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "bench/page.h"
 #include "osd_menu.h"
-#include "page.h"
 
 namespace bench {
 

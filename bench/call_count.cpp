@@ -1,6 +1,6 @@
 // The functions below stand before those of the shared libraries, as the program's own symbols come first. Each counts,
 // then calls the function that it hides. What SDL_ttf calls of SDL in turn isn't counted.
-#include "call_count.h"
+#include "bench/call_count.h"
 
 #include <SDL.h>
 #include <SDL2_rotozoom.h>
@@ -10,7 +10,7 @@
 
 #include <cstdlib>
 
-#include "camera.h"
+#include "bench/camera.h"
 
 namespace bench {
 namespace {

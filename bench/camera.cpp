@@ -1,4 +1,4 @@
-#include "camera.h"
+#include "bench/camera.h"
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -11,8 +11,8 @@
 #include <stdexcept>
 #include <string>
 
+#include "bench/page.h"
 #include "menu/core/page.h"
-#include "page.h"
 #include "platform/config_service.h"
 #include "platform/log_service.h"
 #include "platform/media_service.h"

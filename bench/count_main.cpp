@@ -3,9 +3,9 @@
 #include <cstring>
 #include <string>
 
-#include "bare_redraw.h"
-#include "call_count.h"
-#include "camera.h"
+#include "bench/bare_redraw.h"
+#include "bench/call_count.h"
+#include "bench/camera.h"
 
 namespace {
 

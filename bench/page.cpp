@@ -1,4 +1,4 @@
-#include "page.h"
+#include "bench/page.h"
 
 #include <sstream>
 

@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "bare_redraw.h"
-#include "camera.h"
+#include "bench/bare_redraw.h"
+#include "bench/camera.h"
 
 namespace {
 

@@ -7,13 +7,13 @@ using namespace fake;
 
 class RecordsTest : public PageTest {
 protected:
-    // Three options: without sub-items, "b1" with "deep" below it and "b2", "c1".
+    // An item of three options (without sub-items; "b1" with "deep" below it and "b2"; "c1") and one behind it.
     tagITEM_NODE_S* openTree()
     {
         const std::string b1 = item("b1 NAME SUBITEM", "<O ModeIndex='X'>" + item("deep NAME COMMON") + "</O>");
         const std::string b = "<O ModeIndex='B'>" + b1 + item("b2 NAME COMMON") + "</O>";
         const std::string c = "<O ModeIndex='C'>" + item("c1 NAME COMMON") + "</O>";
-        return opened(item("Mode NAME SUBITEM", "<O ModeIndex='A'/>" + b + c));
+        return opened(item("Mode NAME SUBITEM", "<O ModeIndex='A'/>" + b + c) + item("Last NAME COMMON"));
     }
 
     // The keys of the flattened list, with a mark before those of an item without sub-items.
@@ -60,15 +60,15 @@ TEST_F(RecordsTest, SelectedItem)
     EXPECT_EQ(osdMenuIsSubItemSelected(tree), 0);
     EXPECT_EQ(osdMenuIsSubItemSelected(b1), 1);
     page->enLayout = PAGE_LAYOUT_ICON; // here the position names it
-    EXPECT_EQ(osdMenuGetSelectedItem(page), tree);
     page->s32SelIdx = 1;
+    EXPECT_EQ(osdMenuGetSelectedItem(page), itemAt(page->stItemList, 1));
+    page->s32SelIdx = 2;
     EXPECT_EQ(osdMenuGetSelectedItem(page), nullptr);
 }
 
 TEST_F(RecordsTest, StackGivesAndReleasesTheTopPage)
 {
     EXPECT_EQ(osdMenuReleaseSinglePage(), 0);
-    EXPECT_EQ(osdXmlGetCurPage(), nullptr);
     openTree();
     addItem(addPage(PAGE_LAYOUT_VERTICAL, "Title"), "Gain", NAME, COMMON);
     EXPECT_EQ(osdXmlGetCurPage(), &gstPageMgr.astPage[1]);

@@ -54,6 +54,7 @@ TEST_F(RefreshTest, ItemsOfOneKeyWithTheirSubItems)
     EXPECT_THAT(below(0), EndsWith(" 0..90/5=40,40")) << "sub-items are not searched";
     EXPECT_EQ(refresh("Mode"), "[F:L] INDEX Zoom \n[F:L] INDEX Bare \n[F:L] INDEX Ip \n[F:L] INDEX Deep \n");
     EXPECT_THAT(below(0), EndsWith(" 0..90/5=45,45"));
+    EXPECT_EQ(itemAt(at(1)->astSubList[1], 0)->s32Reserved, 7);
     EXPECT_THAT(below(2), EndsWith(" [10.0.0.2][10.0.0.2]"));
     EXPECT_THAT(below(3), EndsWith(" 0..90/5=45,45}] cur=1 saved=1"));
     gstMenuMgr.pfnGetDataZoneParent = nullptr;
