@@ -66,7 +66,7 @@ Color average(const Image& source, const Axis& across, const Axis& down, int x, 
             total += weight;
         }
     }
-    const auto mean = [&](std::size_t i) { return static_cast<std::uint32_t>(sums[i] / total + 0.5F); };
+    const auto mean = [&](std::size_t i) { return static_cast<std::uint32_t>(std::lround(sums[i] / total)); };
     return make_color(mean(3), mean(2), mean(1), mean(0));
 }
 

@@ -8,7 +8,7 @@ namespace {
 
 Color mix(Color below, Color above, double strength)
 {
-    const auto factor = static_cast<std::uint32_t>(std::clamp(strength, 0.0, 1.0) * 255.0 + 0.5);
+    const auto factor = static_cast<std::uint32_t>(std::lround(std::clamp(strength, 0.0, 1.0) * 255.0));
     return lay_over(below, premultiply((above & 0xFFFFFFU) | factor << 24));
 }
 

@@ -74,8 +74,8 @@ void draw_street(Painter& painter)
     painter.box({-100, 790, 2200, 46}, 0x98938A);
     painter.box({-100, 836, 2200, 8}, 0x78746C);
     painter.box({-100, 844, 2200, 170}, 0x53565B);
-    for (double x = 20; x < scene_width; x += 160) {
-        painter.box({x, 925, 84, 7}, 0xE8E6DC);
+    for (int x = 20; x < scene_width; x += 160) {
+        painter.box({static_cast<double>(x), 925, 84, 7}, 0xE8E6DC);
     }
     painter.box({-100, 1014, 2200, 80}, 0x6D9A4C);
 }
