@@ -14,12 +14,26 @@ add_library(osdmenu SHARED
   menu/core/canvas.cpp
   menu/core/flat_list.cpp
   menu/core/item_parse.cpp
+  menu/core/language.cpp
   menu/core/manager.cpp
   menu/core/page.cpp
   menu/core/page_parse.cpp
   menu/core/refresh.cpp
   menu/core/value_bind.cpp
   menu/core/value_status.cpp
+  menu/nav/address.cpp
+  menu/nav/change.cpp
+  menu/nav/confirm_item.cpp
+  menu/nav/confirm_page.cpp
+  menu/nav/cursor.cpp
+  menu/nav/home_key.cpp
+  menu/nav/icon_cursor.cpp
+  menu/nav/keys.cpp
+  menu/nav/paged_cursor.cpp
+  menu/nav/query.cpp
+  menu/nav/stack.cpp
+  menu/nav/tally.cpp
+  menu/nav/value_step.cpp
   menu/render/layouts.cpp
   menu/render/row.cpp
   menu/render/value.cpp

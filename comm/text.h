@@ -31,3 +31,18 @@ void osdTextSetField(char (&acDst)[N], const char (&acSrc)[M])
 {
     osdTextCopy(acDst, N, acSrc, M);
 }
+
+// Overwrites the start of a field with a text and its end; what stands behind stays. For literals, which must fit.
+template <size_t N, size_t M>
+void osdTextPatch(char (&acDst)[N], const char (&acSrc)[M])
+{
+    static_assert(M <= N, "the text must fit the field");
+    memcpy(acDst, acSrc, M);
+}
+
+// Equality of a field, which may lack its end, with a text.
+template <size_t N>
+bool osdTextFieldEqual(const char (&acField)[N], const char* pcText)
+{
+    return strncmp(acField, pcText, N) == 0;
+}

@@ -91,6 +91,14 @@ static_assert(offsetof(tagOSD_MENU_MGR_S, pfnBusinessFunc) == 200, "manager reco
 #endif
 static_assert(sizeof(tagOSD_MENU_CONTROL_PARAM_S) == 4096, "answer block");
 
+/* The direction that a key hands to the cursor. */
+OSD_ENUM(tagOSD_MENU_KEY_E){
+    OSD_MENU_KEY_UP = 1,
+    OSD_MENU_KEY_DOWN = 2,
+    OSD_MENU_KEY_LEFT = 3,
+    OSD_MENU_KEY_RIGHT = 4,
+};
+
 extern OSD_API tagOSD_MENU_MGR_S gstMenuMgr;
 extern OSD_API uint32_t enMenuStyle;
 extern OSD_API pthread_mutex_t g_stMutex; /* held by OSD_MENU_RenderCanvas through one redraw and its push */
@@ -145,6 +153,59 @@ OSD_API int OSD_MENU_RefreshItem(char* pcItemIndex);
 
 /* Reads the top-level items again, in order, up to and with the first CONFIRM_POP_BTN item; doesn't draw. Returns 0. */
 OSD_API int OSD_MENU_RefreshPage(void);
+
+/* Keys of the remote control. Each is one call: when it returns, the new state has been drawn and shown. All return 0,
+ * unless told otherwise. A page file that can't be read counts as a page without items; the menu key takes it away. */
+
+/* Menu closed: opens "main". One page open: closes the menu. More: drops the address edit of the selected item, or else
+ * goes back one page. Returns -1 when the page count is negative. */
+OSD_API int OSD_MENU_HandleKeyMenu(void);
+
+/* Opens "advanced" in place of all open pages. Returns -1 when the page count is negative. */
+OSD_API int OSD_MENU_HandleKeyAdvancedMenu(void);
+
+/* Goes back one page, dropping an address edit with its page; does nothing while the menu is closed. */
+OSD_API int OSD_MENU_ReturnMenu(void);
+
+/* Closes the menu with all its pages; hides the overlay again when it is closed. */
+OSD_API int OSD_MENU_CloseMenu(void);
+
+/* Directions. Up and down move the cursor, left and right step the value, which then goes to the business function;
+ * on an icon page all four move through the grid; a diagonal makes both moves and draws once. Nothing happens while the
+ * menu is closed. */
+OSD_API int OSD_MENU_HandleKeyUp(void);
+OSD_API int OSD_MENU_HandleKeyDown(void);
+OSD_API int OSD_MENU_HandleKeyLeft(void);
+OSD_API int OSD_MENU_HandleKeyRight(void);
+OSD_API int OSD_MENU_HandleKeyUp_Left(void);
+OSD_API int OSD_MENU_HandleKeyUp_Right(void);
+OSD_API int OSD_MENU_HandleKeyDown_Left(void);
+OSD_API int OSD_MENU_HandleKeyDown_Right(void);
+
+/* Left and right without the business function: the host calls OSD_MENU_HandleSetParam when the value is to apply. */
+OSD_API int OSD_MENU_HandleKeyLeftUpdateItem(void);
+OSD_API int OSD_MENU_HandleKeyRightUpdateItem(void);
+
+/* Hands the selected item of a list to the business function, changed or not, and draws. Nothing happens on icon and
+ * popup pages, on pages that a confirm page applies (but "network"), and for a value that waits for the home key. */
+OSD_API int OSD_MENU_HandleSetParam(void);
+
+/* The enter key: opens the sub-page or confirm page of the selected item, answers a confirm page, presses a button,
+ * applies a waiting value, or starts and ends the editing of an address. Holds its caller for one second after a restore
+ * has been confirmed. Returns -1 when no item is selected, when no language can be had, and when the page to open can't
+ * be read or would be the sixth; 0 while the menu is closed. */
+OSD_API int OSD_MENU_HandleKeyHome(void);
+
+/* 1 when the top page is "network". */
+OSD_API OSD_BOOL osdXmlIsInNetworkPage(void);
+
+/* 1 when the top page is "exposure" and the committed option of its item "ViewFollowExposure" reads "On"; for the page
+ * "wblance" and the item "ViewFollowWB" the second. */
+OSD_API OSD_BOOL osdXmlIsOnOfViewFollowExposure(void);
+OSD_API OSD_BOOL osdXmlIsOnOfViewFollowWB(void);
+
+/* Counts the digits and the dots of an edited address, up to and with the character under the cursor. Returns 0. */
+OSD_API int osdMenuCalcInfoBeforeCursor(tagITEM_NODE_S* pstItemNode, int* ps32Digits, int* ps32Dots);
 
 /* Fills pstPage from the file of the page; the caller chooses the record and counts it in gstPageMgr.s32PageCnt.
  * The record must hold no items. Whatever the failure, pstPage->stItemList is a valid list afterwards. */

@@ -1,5 +1,12 @@
 #include "menu/core/flat_list.h"
 
+#include <algorithm>
+
+int32_t osdItemListCnt(const tagITEM_NODE_S* pstItem)
+{
+    return osdItemHasOptionLists(pstItem) ? std::min<int32_t>(pstItem->s32ValCnt, OSD_OPTION_MAX) : 0;
+}
+
 list_head* osdItemSubList(tagITEM_NODE_S* pstItem, int32_t s32Option)
 {
     const bool bInRange = s32Option >= 0 && s32Option < OSD_OPTION_MAX && s32Option < pstItem->s32ValCnt;
@@ -40,6 +47,57 @@ int osdMenuInsertItems2TmpList(tagITEM_NODE_S* pstItemNode, list_head* pstHead)
     return 0;
 }
 
+void osdPageFlatten(tagPAGE_NODE_S* pstPage, list_head* pstHead)
+{
+    osdListInit(pstHead);
+    for (tagITEM_NODE_S* pstItem : osdItems(&pstPage->stItemList)) {
+        (void)osdMenuInsertItems2TmpList(pstItem, pstHead); // always 0
+    }
+}
+
+tagITEM_NODE_S* osdFlatActive(list_head* pstHead)
+{
+    for (tagITEM_NODE_S* pstItem : osdFlatItems(pstHead)) {
+        if (pstItem->bActive == 1) {
+            return pstItem;
+        }
+    }
+    return nullptr;
+}
+
+// The item of a list, or of any list below it, that the link belongs to.
+static tagITEM_NODE_S* osdFlatOwner(list_head* pstList, const list_head* pstLink)
+{
+    for (tagITEM_NODE_S* pstItem : osdItems(pstList)) {
+        if (&pstItem->stTmpNode == pstLink) {
+            return pstItem;
+        }
+        const int32_t s32Lists = osdItemListCnt(pstItem);
+        for (int32_t i = 0; i < s32Lists; i++) {
+            tagITEM_NODE_S* pstSub = osdFlatOwner(&pstItem->astSubList[i], pstLink);
+            if (pstSub != nullptr) {
+                return pstSub;
+            }
+        }
+    }
+    return nullptr;
+}
+
+static tagITEM_NODE_S* osdFlatOwnerOnStack(const list_head* pstLink)
+{
+    const int32_t s32Pages = std::min<int32_t>(gstPageMgr.s32PageCnt, OSD_PAGE_MAX);
+    for (int32_t i = 0; i < s32Pages; i++) {
+        tagITEM_NODE_S* pstItem = osdFlatOwner(&gstPageMgr.astPage[i].stItemList, pstLink);
+        if (pstItem != nullptr) {
+            return pstItem;
+        }
+    }
+    return nullptr;
+}
+
+tagITEM_NODE_S* osdFlatPrev(const tagITEM_NODE_S* pstItem) { return osdFlatOwnerOnStack(pstItem->stTmpNode.prev); }
+tagITEM_NODE_S* osdFlatNext(const tagITEM_NODE_S* pstItem) { return osdFlatOwnerOnStack(pstItem->stTmpNode.next); }
+
 // On an icon page the position alone names the selected item.
 static tagITEM_NODE_S* osdIconSelected(tagPAGE_NODE_S* pstPage)
 {
@@ -59,16 +117,8 @@ tagITEM_NODE_S* osdMenuGetSelectedItem(tagPAGE_NODE_S* pstPage)
         return osdIconSelected(pstPage);
     }
     list_head stFlatList;
-    osdListInit(&stFlatList);
-    for (tagITEM_NODE_S* pstItem : osdItems(&pstPage->stItemList)) {
-        (void)osdMenuInsertItems2TmpList(pstItem, &stFlatList); // always 0
-    }
-    for (tagITEM_NODE_S* pstItem : osdFlatItems(&stFlatList)) {
-        if (pstItem->bActive == 1) {
-            return pstItem;
-        }
-    }
-    return nullptr;
+    osdPageFlatten(pstPage, &stFlatList);
+    return osdFlatActive(&stFlatList);
 }
 
 OSD_BOOL osdMenuIsSubItemSelected(tagITEM_NODE_S* pstItemNode)

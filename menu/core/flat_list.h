@@ -18,6 +18,12 @@ struct tagITEM_STEP_S {
 inline tagITEM_WALK_S osdItems(list_head* pstHead) { return {pstHead, offsetof(tagITEM_NODE_S, stNode)}; }
 inline tagITEM_WALK_S osdFlatItems(list_head* pstHead) { return {pstHead, offsetof(tagITEM_NODE_S, stTmpNode)}; }
 
+// The item of a link in a flattened list.
+inline tagITEM_NODE_S* osdFlatItem(list_head* pstLink)
+{
+    return reinterpret_cast<tagITEM_NODE_S*>(reinterpret_cast<char*>(pstLink) - offsetof(tagITEM_NODE_S, stTmpNode));
+}
+
 inline tagITEM_STEP_S begin(tagITEM_WALK_S stWalk)
 {
     list_head* pstFirst = osdListEmpty(stWalk.pstHead) ? stWalk.pstHead : stWalk.pstHead->next;
@@ -44,6 +50,20 @@ inline bool osdItemHasOptionLists(const tagITEM_NODE_S* pstItem)
 {
     return pstItem->enAttr == SUBITEM || pstItem->enAttr == MSG_WITH_SUBITEM;
 }
+
+// How many of the item's lists of sub-items are in use.
+int32_t osdItemListCnt(const tagITEM_NODE_S* pstItem);
+
+// Threads the page's items, with the sub-items that show, through their stTmpNode onto a fresh list.
+void osdPageFlatten(tagPAGE_NODE_S* pstPage, list_head* pstHead);
+
+// The first item of a flattened list that holds the cursor, or null.
+tagITEM_NODE_S* osdFlatActive(list_head* pstHead);
+
+// The item that stood right before (next: right behind) in the most recent flattened list, or null at its end. The
+// head of that list may be gone, so the link is believed only when it is one of an item of an open page.
+tagITEM_NODE_S* osdFlatPrev(const tagITEM_NODE_S* pstItem);
+tagITEM_NODE_S* osdFlatNext(const tagITEM_NODE_S* pstItem);
 
 // The sub-items of an option; null where there is no such list.
 list_head* osdItemSubList(tagITEM_NODE_S* pstItem, int32_t s32Option);

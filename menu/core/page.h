@@ -28,5 +28,17 @@ using OSD_ITEM_PTR = std::unique_ptr<tagITEM_NODE_S, OSD_ITEM_RELEASE>;
 // A zero-filled item, or null.
 OSD_ITEM_PTR osdItemNew();
 
+// Names one filling of a page record: while the page still holds it, the page's items are alive.
+struct tagPAGE_MARK_S {
+    const tagPAGE_NODE_S* pstPage;
+    uint32_t u32Filling;
+};
+
+// The present filling of an open page.
+tagPAGE_MARK_S osdPageMark(const tagPAGE_NODE_S* pstPage);
+
+// Whether the page's items are still those of the mark. The host's function may close and rebuild pages inside a key.
+bool osdPageHolds(const tagPAGE_MARK_S& stMark);
+
 // Frees a page's items; the record stays in use with an empty list.
 void osdPageDropItems(tagPAGE_NODE_S* pstPage);

@@ -5,7 +5,7 @@
 #include "comm/log.h"
 #include "menu/core/attr.h"
 #include "menu/core/flat_list.h"
-#include "menu/core/words.h"
+#include "menu/core/led_color.h"
 #include "platform/config_call.h"
 
 // The parent key of a lookup, or null for a lookup without one.
@@ -20,23 +20,6 @@ static tagCFG_VALUE_TXT_S osdBindTxt(const char* pcKey, const char* pcDataZone)
     tagCFG_VALUE_TXT_S stTxt = {};
     osdCfgGetTxt(osdBindParent(pcDataZone), pcKey, &stTxt);
     return stTxt;
-}
-
-struct tagLED_BYTE_S {
-    const char* pcKey;
-    unsigned u32Shift;
-};
-
-static constexpr tagLED_BYTE_S gs_astLedByte[] = {{OSD_KEY_LED_RED, 16}, {OSD_KEY_LED_GREEN, 8}};
-
-static const tagLED_BYTE_S* osdLedByteFind(const char* pcKey)
-{
-    for (const tagLED_BYTE_S& stByte : gs_astLedByte) {
-        if (osdTextEqual(stByte.pcKey, pcKey)) {
-            return &stByte;
-        }
-    }
-    return nullptr;
 }
 
 // The integer record of an item; the LED keys take their byte out of the one colour.
