@@ -2,7 +2,8 @@
 """Checks pages, translations and settings of a resource folder against each other.
 
 Every text that a page or a setting asks for must be there in all languages, and every item that shows a value must
-have a setting or a device fact behind it. Errors go to standard error, each with its file and line or key.
+have a setting or a device fact behind it. Every page must have a file, be reached by keys, and never be the sixth that
+is open. Errors go to standard error, each with its file and line or key.
 """
 import argparse
 import json
@@ -12,7 +13,10 @@ from pathlib import Path
 
 MAX_TEXT_BYTES = 31
 PAGE_ENDING = "_page.xml"
+ROOT_PAGES = ("main", "advanced")
+MAX_OPEN_PAGES = 5
 
+OPENING_ATTRIBUTES = {"SUBPAGE": "SubPage", "CONFIRM_POP": "ConfirmPage", "CONFIRM_POP_BTN": "ConfirmPage"}
 VALUE_CONTEXTS = ("NAME_BAR_VAL", "NAME_VAL", "NAME_IP_VAL")
 TRANSLATED_ATTRIBUTES = ("Title", "ItemIndex", "Msg", "Value", "ModeIndex")
 WORDS_OF_THE_MENU = ("StaticIp", "DhcpIp", "AutoMode", "Confirm", "Finish", "Loading")
@@ -100,8 +104,8 @@ class Checker:
             self.check_texts(page)
             for element in page.descendants():
                 self.check_texts(element)
-                self.check_sub_page(element)
                 self.check_value(element)
+        self.check_page_stack()
 
     def check_languages(self):
         all_keys = {key for texts in self.languages.values() for key in texts}
@@ -125,10 +129,42 @@ class Checker:
             if name in element.attributes:
                 self.need_text(f"{element.place}: {name}", element[name])
 
-    def check_sub_page(self, item):
+    def links_of(self, page):
+        """Names of the pages that a page opens, each with the place that says so; pages without a file are errors."""
+        named = [(page.place, "NextPage", page["NextPage"])] if page["NextPage"] else []
+        for item in page.descendants():
+            opening = OPENING_ATTRIBUTES.get(item["Attr"])
+            if opening:
+                named.append((item.place, opening, item[opening]))
+        links = []
         names = [path.name for path in self.pages]
-        if item["Attr"] == "SUBPAGE" and item["SubPage"] + PAGE_ENDING not in names:
-            self.error(item.place, f"SubPage '{item['SubPage']}': there is no file {item['SubPage']}{PAGE_ENDING}")
+        for place, attribute, target in named:
+            if target + PAGE_ENDING in names:
+                links.append((place, target))
+            else:
+                self.error(place, f"{attribute} '{target}': there is no file {target}{PAGE_ENDING}")
+        return links
+
+    def check_page_stack(self):
+        """Walks from the root pages as keys do, one open page more at each step."""
+        pages = {path.name.removesuffix(PAGE_ENDING): page for path, page in self.pages.items() if page}
+        links = {name: self.links_of(page) for name, page in pages.items()}
+        reached = set()
+        stacks = {name: [name] for name in ROOT_PAGES if name in pages} # by top page: the open pages, bottom first
+        while stacks:
+            reached.update(stacks)
+            higher = {}
+            for top, stack in stacks.items():
+                for place, target in links.get(top, []):
+                    if len(stack) == MAX_OPEN_PAGES:
+                        self.error(place, f"page '{target}' would be number {MAX_OPEN_PAGES + 1} above "
+                                          f"{' > '.join(stack)}, expected at most {MAX_OPEN_PAGES} open pages")
+                    else:
+                        higher.setdefault(target, stack + [target])
+            stacks = higher
+        for name in sorted(pages.keys() - reached):
+            self.error(pages[name].place, f"page '{name}' is reached from nowhere, expected an item of a page that "
+                                          f"{' or '.join(ROOT_PAGES)} leads to")
 
     def check_value(self, item):
         if "ShowValue" in item.attributes:

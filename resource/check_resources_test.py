@@ -22,6 +22,9 @@ def good_resources():
             "zones": {"Image": "ImageParam"},
             "settings": [{"key": "Gain", "parent": "ImageParam", "kind": "integer"},
                          {"key": "Mode", "kind": "option", "options": ["Off", "On"]}]},
+        "pages/main_page.xml":
+            '<Page>\n  <Item ItemIndex="image" Ctx="NAME" Attr="SUBPAGE" SubPage="image"/>\n</Page>\n',
+        "pages/confirm_page.xml": '<Page/>\n',
         "pages/image_page.xml":
             '<Page Title="image">\n'
             '  <Item ItemIndex="Mode" Ctx="NAME_VAL" Attr="SUBITEM">\n'
@@ -31,7 +34,7 @@ def good_resources():
             '    </Option>\n'
             '  </Item>\n'
             '  <Item ItemIndex="FwVersion" Ctx="NAME_VAL" Attr="STATUS"/>\n'
-            '  <Item ItemIndex="image" Ctx="NAME" Attr="SUBPAGE" SubPage="image"/>\n'
+            '  <Item ItemIndex="image" Ctx="NAME" Attr="CONFIRM_POP_BTN" ConfirmPage="confirm"/>\n'
             '</Page>\n'}
 
 
@@ -64,8 +67,18 @@ FAULTS = {
         lambda files: files["settings.json"]["facts"].pop("FwVersion"), ["image_page.xml:8: STATUS item 'FwVersion'"]),
     "a live value has no setting": (
         edit_page('Ctx="NAME"', 'Ctx="NAME" ShowValue="1"'), ["image_page.xml:9: item 'image': no setting 'image'"]),
+    "a confirm page is missing": (
+        edit_page('ConfirmPage="confirm"', 'ConfirmPage="sound"'),
+        ["image_page.xml:9: ConfirmPage 'sound': there is no file sound_page.xml",
+         "confirm_page.xml:1: page 'confirm' is reached from nowhere"]),
     "a sub-page is missing": (
-        edit_page('SubPage="image"', 'SubPage="sound"'), ["image_page.xml:9: SubPage 'sound': there is no file"]),
+        lambda files: files.pop("pages/image_page.xml"), ["main_page.xml:2: SubPage 'image': there is no file"]),
+    "a next page is missing": (
+        edit_page('<Page ', '<Page NextPage="sound" '), ["image_page.xml:1: NextPage 'sound': there is no file"]),
+    "pages open each other without end": (
+        lambda files: files.update({"pages/confirm_page.xml": '<Page NextPage="image"/>\n'}),
+        ["confirm_page.xml:1: page 'image' would be number 6 above main > image > confirm > image > confirm, "
+         "expected at most 5 open pages"]),
     "a page is no XML": (edit_page("</Page>", "</Pag>"), ["image_page.xml:10: mismatched tag"]),
 }
 
