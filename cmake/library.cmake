@@ -34,10 +34,16 @@ add_library(osdmenu SHARED
   menu/nav/stack.cpp
   menu/nav/tally.cpp
   menu/nav/value_step.cpp
+  menu/render/icon_grid.cpp
   menu/render/layouts.cpp
+  menu/render/paged_list.cpp
+  menu/render/popup.cpp
   menu/render/row.cpp
+  menu/render/tolvane_list.cpp
   menu/render/value.cpp
-  menu/render/vertical_list.cpp)
+  menu/render/vertical_list.cpp
+  prompt/prompt.cpp
+  prompt/zoom_ratio.cpp)
 add_library(osdmenu::osdmenu ALIAS osdmenu)
 
 target_include_directories(osdmenu

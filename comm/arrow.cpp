@@ -1,4 +1,5 @@
-// Small pictures beside an item, drawn straight onto a surface.
+#include "comm/arrow.h"
+
 #include <algorithm>
 
 #include "comm/arith.h"
@@ -36,7 +37,7 @@ static int osdArrowDraw(SDL_Surface* pstDst, const char* pcPicName, bool bBright
     return 0;
 }
 
-int OSD_COMM_DrawArrows(SDL_Surface* pstDst, SDL_Rect stMenuRect, SDL_Rect stItemRect)
+SDL_Rect osdArrowBeside(const SDL_Rect& stMenuRect, const SDL_Rect& stItemRect)
 {
     const float f32MenuW = osdF32(stMenuRect.w);
     const int s32W = osdTrunc(f32MenuW * gs_f32ArrowSize);
@@ -44,7 +45,12 @@ int OSD_COMM_DrawArrows(SDL_Surface* pstDst, SDL_Rect stMenuRect, SDL_Rect stIte
     const int s32Beside = osdClampS32(int64_t{stItemRect.x} - s32W);
     const int s32X = std::max(stMenuRect.x, osdTrunc(osdF32(s32Beside) - f32MenuW * gs_f32ArrowGap));
     const int s32Y = osdClampS32(stItemRect.y + (int64_t{stItemRect.h} - s32H) / 2);
-    return osdArrowDraw(pstDst, "nav_arrow", true, {s32X, s32Y, s32W, s32H});
+    return {s32X, s32Y, s32W, s32H};
+}
+
+int OSD_COMM_DrawArrows(SDL_Surface* pstDst, SDL_Rect stMenuRect, SDL_Rect stItemRect)
+{
+    return osdArrowDraw(pstDst, "nav_arrow", true, osdArrowBeside(stMenuRect, stItemRect));
 }
 
 int OSD_COMM_DrawTurnArrows(SDL_Surface* pstDst, SDL_Rect stMenuRect, char* pcPicName)

@@ -211,15 +211,23 @@ OSD_API int osdMenuCalcInfoBeforeCursor(tagITEM_NODE_S* pstItemNode, int* ps32Di
  * The record must hold no items. Whatever the failure, pstPage->stItemList is a valid list afterwards. */
 OSD_API int OSD_MENU_ParseXml(char* pcPageName, tagPAGE_NODE_S* pstPage);
 
-/* Draws a page of layout "vertical_align" onto the canvas. Call after OSD_MENU_InitSdkRes has succeeded and under
- * g_stMutex, as the three below. Returns 0. */
-OSD_API int OSD_MENU_RenderVerticalCanvas(tagPAGE_NODE_S* pstPage);
+/* Draw a page of one layout onto the canvas. Call after OSD_MENU_InitSdkRes has succeeded and under g_stMutex, as all
+ * below. Return 0. */
+OSD_API int OSD_MENU_RenderIconCanvas(tagPAGE_NODE_S* pstPage);               /* "icon" */
+OSD_API int OSD_MENU_RenderVerticalCanvas(tagPAGE_NODE_S* pstPage);           /* "vertical_align" */
+OSD_API int OSD_MENU_RenderHorizontalCanvas(tagPAGE_NODE_S* pstPage);         /* "horizontal_align" */
+OSD_API int OSD_MENU_RenderVerticalSpecialCanvas(tagPAGE_NODE_S* pstPage);    /* "vertical_tolvane_align" */
+OSD_API int OSD_MENU_RenderVerticalCanvasWithKETH(tagPAGE_NODE_S* pstPage);   /* "vertical_align_keth" */
+OSD_API int OSD_MENU_RenderHorizontalCanvasWithKETH(tagPAGE_NODE_S* pstPage); /* "horizontal_align_keth" */
 
-/* Draws one item with its visible sub-items in the vertical list.
+/* Draw one item with its visible sub-items in the vertical, the Tolvane and the paged list.
  * pstLayoutCursor  y and h of the row above, y 0 for none; stands on this item's row afterwards
  * bSelected        the item holds the cursor
  * On failure nothing of the item is drawn and the cursor stays. Call under g_stMutex. */
 OSD_API int OSD_MENU_RenderVerticalItem(tagITEM_NODE_S* pstItemNode, SDL_Rect* pstLayoutCursor, OSD_BOOL bSelected);
+OSD_API int OSD_MENU_RenderVerticalTolvaneItem(tagITEM_NODE_S* pstItemNode, SDL_Rect* pstLayoutCursor,
+                                               OSD_BOOL bSelected);
+OSD_API int OSD_MENU_RenderVerticalKETHItem(tagITEM_NODE_S* pstItemNode, SDL_Rect* pstLayoutCursor, OSD_BOOL bSelected);
 
 /* Blits the whole of pstSrc onto the canvas at stDst.x, stDst.y; a null pstSrc draws nothing. Returns 0. */
 OSD_API int OSD_MENU_FillData2Canvas(SDL_Surface* pstSrc, SDL_Rect stDst);

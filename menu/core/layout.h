@@ -5,8 +5,8 @@
 
 struct tagLAYOUT_S {
     tagPAGE_LAYOUT_E enLayout;
-    const SDL_Rect* pstRect; // background, in surface coordinates
     int s32Frame;            // frame width in pixels, 0 for none
+    const SDL_Rect* pstRect; // background, in surface coordinates
     int (*pfnDrawPage)(tagPAGE_NODE_S*);
     int (*pfnDrawMsg)(tagITEM_NODE_S*, SDL_Rect*, OSD_BOOL); // null: no message line
 };

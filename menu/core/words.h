@@ -38,6 +38,10 @@ inline constexpr char OSD_KEY_RESTORE_WB[] = "RestoreWB";
 inline constexpr char OSD_KEY_HDMI_CFG[] = "HdmiCfg"; // under this key the confirmed page "video" is applied
 inline constexpr char OSD_KEY_PIP[] = "Pip";          // and under this the page "pip"
 
+// Languages with a rule of their own
+inline constexpr char OSD_LANGUAGE_EN[] = "English";
+inline constexpr char OSD_LANGUAGE_TC[] = "TraditionalChinese";
+
 // Option keys and translation keys
 inline constexpr char OSD_WORD_DHCP_IP[] = "DhcpIp";
 inline constexpr char OSD_WORD_AUTO_MODE[] = "AutoMode";

@@ -1,10 +1,20 @@
 #include "menu/render/row.h"
 
+#include <algorithm>
+#include <cstring>
+
 #include "comm/arith.h"
+#include "comm/log.h"
 #include "comm/text.h"
+#include "menu/core/flat_list.h"
 #include "menu/core/layout.h"
 #include "menu/core/page.h"
+#include "menu/render/value.h"
+#include "osd_comm.h"
 #include "osd_menu.h"
+
+static constexpr float gs_f32ValueRight = 0.95f; // of W
+static constexpr float gs_f32ValueShare = 0.5f;  // of the list's frame
 
 tagITEM_NODE_S osdRowOfText(const char (&acText)[OSD_TEXT_LEN], tagITEM_LEVEL_E enLevel, tagITEM_ATTR_E enAttr)
 {
@@ -14,6 +24,127 @@ tagITEM_NODE_S osdRowOfText(const char (&acText)[OSD_TEXT_LEN], tagITEM_LEVEL_E 
     stRow.enAttr = enAttr;
     osdTextSetField(stRow.acItemName, acText);
     return stRow;
+}
+
+OSD_BOOL osdRowBright(tagITEM_NODE_S* pstItem, OSD_BOOL bSelected)
+{
+    return bSelected == 1 && osdMenuIsSubItemSelected(pstItem) == 0 ? 1 : 0;
+}
+
+int osdRowSetSize(int s32Size)
+{
+    (void)TTF_SetFontSize(gstMenuMgr.pstFont, s32Size); // the bold font's answer counts for both
+    if (TTF_SetFontSize(gstMenuMgr.pstSelectFont, s32Size) != 0) {
+        osdTrace("%s %d\n", OSD_PLACE);
+        return -1;
+    }
+    return 0;
+}
+
+static int osdRowLeft(const tagROW_GEOM_S& stGeom, const tagITEM_NODE_S* pstItem, int s32TxtW)
+{
+    const int s32MenuW = gstMenuMgr.stCanvas.stMenuRect.w;
+    if (pstItem->enItemPos == ITEM_POS_CENTER) {
+        return osdClampS32((int64_t{s32MenuW} - s32TxtW) / 2);
+    }
+    if (enMenuStyle == 0) {
+        return osdTrunc((osdF32(pstItem->enLevel) * stGeom.f32Indent + stGeom.f32Left) * osdF32(s32MenuW));
+    }
+    return osdTrunc(osdF32(s32MenuW) * stGeom.f32Left);
+}
+
+static int osdRowTop(const tagROW_GEOM_S& stGeom, const tagITEM_NODE_S* pstItem, const SDL_Rect& stAbove, int s32TxtH)
+{
+    const float f32MenuH = osdF32(gstMenuMgr.stCanvas.stMenuRect.h);
+    if (pstItem->enAttr == MSG_LINE) { // at the foot, wherever the list ended
+        return osdTrunc(f32MenuH * stGeom.f32MsgFoot - osdF32(s32TxtH));
+    }
+    if (stAbove.y == 0) { // no row drawn yet
+        return osdTrunc(osdF32(stAbove.h) + f32MenuH * stGeom.f32FirstGap);
+    }
+    const int s32Next = osdTrunc(osdF32(stAbove.y) + osdF32(stAbove.h) + f32MenuH * stGeom.f32NextGap);
+    const int64_t s64Empty = pstItem->enAttr == CONFIRM_POP_BTN ? int64_t{s32TxtH} * stGeom.s32EmptyAboveBtn : 0;
+    return osdClampS32(s32Next + s64Empty);
+}
+
+SDL_Rect osdRowLabel(const tagROW_GEOM_S& stGeom, const tagITEM_NODE_S* pstItem, const SDL_Rect& stAbove)
+{
+    SDL_Rect stLabel = {};
+    (void)TTF_SizeUTF8(gstMenuMgr.pstFont, pstItem->acItemName, &stLabel.w, &stLabel.h); // 0 by 0 on failure
+    stLabel.x = osdRowLeft(stGeom, pstItem, stLabel.w);
+    stLabel.y = osdRowTop(stGeom, pstItem, stAbove, stLabel.h);
+    return stLabel;
+}
+
+SDL_Rect osdRowColumn(const tagROW_GEOM_S& stGeom, const SDL_Rect& stLabel)
+{
+    const float f32MenuW = osdF32(gstMenuMgr.stCanvas.stMenuRect.w);
+    const int s32W = osdTrunc(f32MenuW * stGeom.f32ValueFrame * gs_f32ValueShare);
+    return {osdTrunc(f32MenuW * gs_f32ValueRight - osdF32(s32W)), stLabel.y, s32W, stLabel.h};
+}
+
+tagROW_VALUE_S osdRowValue(tagITEM_NODE_S* pstItem)
+{
+    tagROW_VALUE_S stValue = {};
+    stValue.s32Cnt = 1; // a text has no place on a bar: the block stands at the left end
+    (void)osdMenuGetItemValInfo(pstItem, stValue.acText, &stValue.s32Pos, &stValue.s32Cnt); // empty on failure
+    return stValue;
+}
+
+OSD_SURFACE_PTR osdRowValueSurface(const tagROW_S& stRow, tagROW_VALUE_S stValue, const SDL_Rect& stColumn)
+{
+    SDL_Surface* pstValue = nullptr; // stays null without a text
+    if (stRow.pstItem->enCtx == NAME_BAR_VAL) {
+        (void)OSD_COMM_GetBarTxtSurface(stRow.pstFont, stValue.acText, stValue.s32Pos, stValue.s32Cnt, stRow.s32Size,
+                                        stRow.bBright, stColumn, &pstValue);
+    } else {
+        (void)OSD_COMM_GetTxtSurface(stRow.pstFont, stValue.acText, stRow.s32Size, stRow.bBright, &pstValue);
+    }
+    return OSD_SURFACE_PTR(pstValue);
+}
+
+int osdRowTextWidth(const char* pcText)
+{
+    int s32W = 0;
+    (void)TTF_SizeUTF8(gstMenuMgr.pstFont, pcText, &s32W, nullptr);
+    return s32W;
+}
+
+SDL_Rect osdRowCaret(const tagITEM_NODE_S* pstItem, const tagROW_VALUE_S& stValue, const SDL_Rect& stColumn)
+{
+    const int32_t s32At = std::clamp<int32_t>(pstItem->s32EditCursor, 0, OSD_TEXT_LEN - 1);
+    const char acDigit[2] = {stValue.acText[s32At], '\0'};
+    SDL_Rect stCaret = {stColumn.x, 0, osdRowTextWidth(acDigit), 0};
+    if (s32At > 0) {
+        char acBefore[OSD_TEXT_LEN];
+        memcpy(acBefore, stValue.acText, sizeof(acBefore));
+        acBefore[s32At] = '\0';
+        stCaret.x += osdRowTextWidth(acBefore);
+    }
+    return stCaret;
+}
+
+void osdRowCaretDraw(SDL_Rect stCaret, const SDL_Rect& stColumn, float f32NextGap)
+{
+    const float f32Gap = osdF32(gstMenuMgr.stCanvas.stMenuRect.h) * f32NextGap / 3.0f;
+    stCaret.y = osdTrunc(osdF32(osdClampS32(int64_t{stColumn.y} + stColumn.h)) + f32Gap);
+    stCaret.h = osdTrunc(f32Gap);
+    (void)OSD_COMM_DrawLine(gstMenuMgr.pstSurface, stCaret); // a row without caret is still a row
+}
+
+void osdRowEnd(const SDL_Rect& stLabel, SDL_Rect* pstLayoutCursor)
+{
+    pstLayoutCursor->y = stLabel.y;
+    pstLayoutCursor->h = stLabel.h;
+}
+
+void osdRowSubItems(tagITEM_NODE_S* pstItem, SDL_Rect* pstLayoutCursor, OSD_ROW_FUNC pfnDraw)
+{
+    if (osdMenuHasSubItem(pstItem) == 1) {
+        for (tagITEM_NODE_S* pstSub : osdItems(&pstItem->astSubList[pstItem->s32CurIdx])) {
+            (void)pfnDraw(pstSub, pstLayoutCursor, pstSub->bActive);
+        }
+    }
 }
 
 int OSD_MENU_FillData2Canvas(SDL_Surface* pstSrc, SDL_Rect stDst)

@@ -58,11 +58,6 @@ int osdMenuGetItemValInfo(tagITEM_NODE_S* pstItemNode, char* pcValue, int* ps32P
     return -1;
 }
 
-static bool osdOptionIs(const tagITEM_NODE_S* pstItem, int32_t s32Option, const char (&acText)[OSD_TEXT_LEN])
-{
-    return strncmp(osdItemOption(pstItem, s32Option), acText, OSD_TEXT_LEN) == 0;
-}
-
 OSD_BOOL osdMenuJudgeNetWorkofDhcp(tagITEM_NODE_S* pstItemNode)
 {
     if (!osdTextEqual(pstItemNode->acItemIndex, OSD_KEY_IP_MODE)) {
@@ -75,11 +70,12 @@ OSD_BOOL osdMenuJudgeNetWorkofDhcp(tagITEM_NODE_S* pstItemNode)
     (void)osdCfgTranslate(acLanguage, OSD_WORD_DHCP_IP, acDhcp);
     (void)osdCfgTranslate(acLanguage, OSD_WORD_AUTO_MODE, acAuto);
     list_head* pstSubList = osdItemSubList(pstItemNode, pstItemNode->s32CurIdx);
-    if (pstSubList == nullptr || !osdOptionIs(pstItemNode, pstItemNode->s32SavedIdx, acDhcp)) {
+    if (pstSubList == nullptr || !osdTextFieldEqual(osdItemOption(pstItemNode, pstItemNode->s32SavedIdx), acDhcp)) {
         return 0;
     }
     for (const tagITEM_NODE_S* pstSub : osdItems(pstSubList)) {
-        if (osdTextEqual(pstSub->acItemIndex, OSD_KEY_DNS_MODE) && osdOptionIs(pstSub, pstSub->s32CurIdx, acAuto)) {
+        if (osdTextEqual(pstSub->acItemIndex, OSD_KEY_DNS_MODE) &&
+            osdTextFieldEqual(osdItemOption(pstSub, pstSub->s32CurIdx), acAuto)) {
             return 1;
         }
     }
