@@ -2,9 +2,12 @@
 
 #include <iostream>
 #include <memory>
+#include <tinyxml2.h>
+#include <utility>
 
 #include "simulator/core/errors.h"
 #include "simulator/core/log.h"
+#include "simulator/core/page_files.h"
 #include "simulator/core/services.h"
 #include "simulator/video/picture.h"
 
@@ -59,7 +62,8 @@ Camera::Camera(const CameraConfig& config)
       translations_(config.resources / "lang", definitions_.languages),
       forced_language_(find_language(definitions_, config.language)), folder_(config.data),
       store_(open_store(folder_.database(), config.reset)), settings_(definitions_.settings, store_),
-      channels_(config.uhd ? ultra_hd : full_hd), still_(config.still)
+      channels_(config.uhd ? ultra_hd : full_hd), pages_(config.pages), still_(config.still),
+      mounting_(look_of(settings_).mounting)
 {
     if (!forced_language_.empty()) {
         settings_.set_for_this_run(language_setting, forced_language_);
@@ -81,6 +85,40 @@ const std::string* Camera::translate(const std::string& language, const std::str
     return text;
 }
 
+double Camera::seconds() const
+{
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start_).count();
+}
+
+void Camera::change(const SettingId& id, const std::string& text)
+{
+    const std::string before = language();
+    settings_.set(id, text);
+    if (language() != before) {
+        events_.tell({"language", language()});
+    }
+}
+
+std::unique_ptr<tinyxml2::XMLDocument> Camera::open_page(const std::filesystem::path& path)
+{
+    const std::filesystem::path own = pages_ / path.filename();
+    auto document = load_page_document(!pages_.empty() && std::filesystem::exists(own) ? own : path);
+    if (document != nullptr) {
+        events_.tell({"page", page_name(path)});
+    }
+    return document;
+}
+
+bool Camera::restart_if_asked()
+{
+    if (!std::exchange(restart_asked_, false)) {
+        return false;
+    }
+    picture_start_ = seconds();
+    mounting_ = look_of(settings_).mounting;
+    return true;
+}
+
 bool Camera::push_canvas(bool show, const tagOSD_MENU_CANVAS_S& canvas, std::optional<int> channel)
 {
     const char* problem = show ? canvas_problem(canvas, memory_.size_at(canvas.stMem.pvVirAddr)) : nullptr;
@@ -96,6 +134,9 @@ bool Camera::push_canvas(bool show, const tagOSD_MENU_CANVAS_S& canvas, std::opt
             channels_.hide(i, &canvas);
         }
     }
+    if (!channel) {
+        events_.tell({show ? "show" : "hide", ""});
+    }
     return true;
 }
 
@@ -110,8 +151,9 @@ void Camera::start_channel(int channel)
 Image Camera::look_at(int channel)
 {
     start_channel(channel);
-    const std::chrono::duration<double> running = std::chrono::steady_clock::now() - start_;
-    Image picture = draw_picture(channels_.size(channel), look_of(settings_), still_ ? 0.0 : running.count());
+    Look look = look_of(settings_);
+    look.mounting = mounting_;
+    Image picture = draw_picture(channels_.size(channel), look, still_ ? 0.0 : seconds() - picture_start_);
     channels_.lay_canvases_over(channel, picture);
     return picture;
 }

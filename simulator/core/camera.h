@@ -3,17 +3,24 @@
 
 #include <chrono>
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <set>
 #include <string>
 
 #include "simulator/core/data_folder.h"
 #include "simulator/core/definitions.h"
+#include "simulator/core/events.h"
 #include "simulator/core/media_memory.h"
 #include "simulator/core/settings.h"
 #include "simulator/core/settings_store.h"
 #include "simulator/core/translations.h"
 #include "simulator/video/channels.h"
+#include "simulator/video/picture.h"
+
+namespace tinyxml2 {
+class XMLDocument;
+}
 
 namespace sim {
 
@@ -24,6 +31,7 @@ struct CameraConfig {
     bool uhd = false;                    ///< a main channel of 3840 by 2160 instead of 1920 by 1080
     bool still = false;                  ///< the scene stands at time 0
     std::optional<std::string> language; ///< language for this run, by its name or its option key
+    std::filesystem::path pages;         ///< page files that go before those of the resources; empty for none
 };
 
 /// Owns the services and the channels. One camera at a time: the platform functions forward to it.
@@ -43,12 +51,28 @@ public:
     Settings& settings() { return settings_; }
     MediaMemory& memory() { return memory_; }
     Channels& channels() { return channels_; }
+    Events& events() { return events_; }
+
+    /// Seconds since the camera was made.
+    double seconds() const;
 
     /// The name of the menu's present language.
     const std::string& language() const;
     /// The text of a key; null, reported once a key, when there is none. Live values are asked for as well: what
     /// begins with no letter, such as an address, is no key and not reported.
     const std::string* translate(const std::string& language, const std::string& key);
+
+    /// Stores the new value of a setting, and tells of it when that is the language. Throws as Settings::set() does.
+    void change(const SettingId& id, const std::string& text);
+
+    /// The document of a page file, from the folder of the configuration when that has one of the same name; null, with
+    /// file and line in the log, when it can't be had.
+    std::unique_ptr<tinyxml2::XMLDocument> open_page(const std::filesystem::path& path);
+
+    /// A restart is asked for inside a call of the menu, which still needs its page then, and made behind that call.
+    void ask_for_restart() { restart_asked_ = true; }
+    /// Starts the picture anew, with the mounting that is set by now, when a restart was asked for; false when not.
+    bool restart_if_asked();
 
     /// Shows or hides a canvas on one channel, or on all when there is none. False, with a line in the log, for a
     /// canvas that can't be shown.
@@ -73,8 +97,13 @@ private:
     Settings settings_;
     MediaMemory memory_;
     Channels channels_;
+    Events events_;
+    std::filesystem::path pages_;
     bool still_;
-    std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
+    const std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
+    double picture_start_ = 0; ///< in seconds since start_
+    Mounting mounting_;
+    bool restart_asked_ = false;
     std::set<std::string> missing_texts_;
     MenuRefresh menu_refresh_ = nullptr;
     std::set<int> started_channels_;

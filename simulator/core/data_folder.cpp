@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <fcntl.h>
+#include <stdexcept>
 #include <string>
 #include <sys/file.h>
 #include <system_error>
@@ -52,5 +53,20 @@ DataFolder::DataFolder(std::filesystem::path path) : path_(std::move(path))
 }
 
 DataFolder::~DataFolder() { ::close(lock_); }
+
+TemporaryFolder::TemporaryFolder()
+{
+    std::string pattern = (std::filesystem::temp_directory_path() / "camera-sim-XXXXXX").string();
+    if (::mkdtemp(pattern.data()) == nullptr) {
+        throw std::runtime_error("temporary folder " + pattern + ": can't be made: " + system_words());
+    }
+    path_ = pattern;
+}
+
+TemporaryFolder::~TemporaryFolder()
+{
+    std::error_code ignored; // nobody could do more about what stays behind
+    std::filesystem::remove_all(path_, ignored);
+}
 
 } // namespace sim

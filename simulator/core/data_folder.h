@@ -26,4 +26,19 @@ private:
     int lock_ = -1;
 };
 
+/// A folder of its own below the system's one for temporary files; it goes with the object, and all in it.
+class TemporaryFolder {
+public:
+    /// Throws std::runtime_error when it can't be made.
+    TemporaryFolder();
+    ~TemporaryFolder();
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+    const std::filesystem::path& path() const { return path_; }
+
+private:
+    std::filesystem::path path_;
+};
+
 } // namespace sim

@@ -1,38 +1,18 @@
 #include "simulator/core/json_file.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <cstring>
-#include <fstream>
 #include <functional>
-#include <iterator>
-#include <system_error>
 #include <utility>
 #include <vector>
 
 #include "simulator/core/errors.h"
+#include "simulator/core/text_file.h"
 
 namespace sim {
 namespace {
 
 using nlohmann::json;
-
-std::string read_file(const std::filesystem::path& path)
-{
-    std::error_code ignored; // what can't be looked at can't be opened either
-    if (std::filesystem::is_directory(path, ignored)) {
-        throw BadInput(path.string() + ": is a folder, expected a file");
-    }
-    std::ifstream file(path, std::ios::binary);
-    if (!file) {
-        throw BadInput(path.string() + ": can't be read: " + std::generic_category().message(errno));
-    }
-    try {
-        return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-    } catch (const std::ios_base::failure& error) { // the only way in which this iterator tells of a bad disk
-        throw BadInput(path.string() + ": can't be read: " + error.what());
-    }
-}
 
 /// Notices fields that stand twice in one object; the parser itself would keep the last one and say nothing.
 class DuplicateFinder {
@@ -75,7 +55,7 @@ std::string line_of(const json::parse_error& error, const std::string& text)
 
 json load_json_object(const std::filesystem::path& path)
 {
-    const std::string text = read_file(path);
+    const std::string text = read_text_file(path);
     json root;
     try {
         // The finder is handed over by reference: the parser copies its callback.

@@ -1,12 +1,23 @@
 #include "simulator/core/page_files.h"
 
 #include <algorithm>
+#include <string_view>
 #include <system_error>
 #include <tinyxml2.h>
 
 #include "simulator/core/log.h"
 
 namespace sim {
+namespace {
+
+constexpr std::string_view ending = "_page.xml";
+
+bool is_page_file(const std::string& name)
+{
+    return name.size() > ending.size() && name.compare(name.size() - ending.size(), ending.size(), ending) == 0;
+}
+
+} // namespace
 
 std::unique_ptr<tinyxml2::XMLDocument> load_page_document(const std::filesystem::path& path)
 {
@@ -20,15 +31,19 @@ std::unique_ptr<tinyxml2::XMLDocument> load_page_document(const std::filesystem:
     return nullptr;
 }
 
+std::string page_name(const std::filesystem::path& path)
+{
+    const std::string file = path.filename().string();
+    return file.substr(0, file.size() - (is_page_file(file) ? ending.size() : 0));
+}
+
 std::vector<std::string> page_names(const std::filesystem::path& resources)
 {
-    const std::string ending = "_page.xml";
     std::vector<std::string> names;
     std::error_code error; // a missing folder has no pages
     for (const auto& entry : std::filesystem::directory_iterator(resources / "menu", error)) {
-        const std::string name = entry.path().filename().string();
-        if (name.size() > ending.size() && name.compare(name.size() - ending.size(), ending.size(), ending) == 0) {
-            names.push_back(name.substr(0, name.size() - ending.size()));
+        if (is_page_file(entry.path().filename().string())) {
+            names.push_back(page_name(entry.path()));
         }
     }
     std::sort(names.begin(), names.end());

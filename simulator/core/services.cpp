@@ -14,7 +14,6 @@
 #include "simulator/core/camera.h"
 #include "simulator/core/guard.h"
 #include "simulator/core/log.h"
-#include "simulator/core/page_files.h"
 
 namespace sim {
 namespace {
@@ -125,7 +124,15 @@ int CFG_COM_GetIntParamByParent(char* pcParent, char* pcKey, tagCFG_VALUE_INT_S*
 int CFG_COM_SetTxtParams(char* pcKey, char* pcValue, OSD_BOOL /*bSave*/)
 {
     return serve("settings", [&](Camera& camera) {
-        camera.settings().set({"", text_or_empty(pcKey)}, text_or_empty(pcValue));
+        const SettingId id{"", text_or_empty(pcKey)};
+        const std::string value = text_or_empty(pcValue);
+        camera.events().tell({"set", id.key + "=" + value});
+        if (camera.settings().find(id) == nullptr) {
+            // Also the usual case of a page's confirm button, which the menu stores with the page's values.
+            log_line(LogLevel::Info, "settings", "nothing to store for '" + id.key + "'");
+            return failed;
+        }
+        camera.change(id, value);
         return ok;
     });
 }
@@ -153,7 +160,9 @@ int CFG_LANG_GetString(char* pcLanguage, char* pcKey, char* pcOut)
 tinyxml2::XMLDocument* CFG_GetDocByFileName(const char* pcPath, OSD_BOOL /*bRead*/)
 {
     tinyxml2::XMLDocument* const none = nullptr;
-    return guarded("pages", none, [&] { return load_page_document(text_or_empty(pcPath)).release(); });
+    return guarded("pages", none, [&] {
+        return current_camera == nullptr ? none : current_camera->open_page(text_or_empty(pcPath)).release();
+    });
 }
 
 int BSP_PARTITION_GetDevAttribute(tagDEV_ATTR_CONTENT_S* pstAttr)

@@ -57,6 +57,21 @@ void Settings::set(const SettingId& id, const std::string& text)
     values_[id] = text;
 }
 
+void Settings::restore_defaults(const std::function<bool(const SettingId& id)>& chosen)
+{
+    std::vector<SettingId> ids;
+    for (const auto& [id, setting] : definitions_) {
+        if (chosen(id)) {
+            ids.push_back(id);
+        }
+    }
+    const std::lock_guard<std::mutex> lock(mutex_);
+    store_.remove(ids);
+    for (const SettingId& id : ids) {
+        values_[id] = definitions_.at(id).default_text;
+    }
+}
+
 void Settings::set_for_this_run(const SettingId& id, const std::string& text)
 {
     const std::lock_guard<std::mutex> lock(mutex_);

@@ -1,6 +1,7 @@
 // The camera's settings: definitions and present values together.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <mutex>
 #include <string>
@@ -29,6 +30,9 @@ public:
 
     /// Checks and stores a value. Throws BadInput in words for an unknown setting or a value that doesn't fit.
     void set(const SettingId& id, const std::string& text);
+    /// Sets all settings of which the function says true back to their defaults, all of them or none. Throws
+    /// std::runtime_error when the database refuses.
+    void restore_defaults(const std::function<bool(const SettingId& id)>& chosen);
     /// Gives a setting that exists a value for this run only: the database keeps its own, until set() is called.
     void set_for_this_run(const SettingId& id, const std::string& text);
 

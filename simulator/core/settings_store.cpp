@@ -82,6 +82,22 @@ void SettingsStore::write(const SettingId& id, const std::string& value)
 
 void SettingsStore::clear() { run("DELETE FROM setting"); }
 
+void SettingsStore::remove(const std::vector<SettingId>& ids)
+{
+    run("BEGIN IMMEDIATE");
+    for (const SettingId& id : ids) {
+        const Statement statement = prepare("DELETE FROM setting WHERE parent = ? AND key = ?");
+        bind_text(statement.get(), 1, id.parent);
+        bind_text(statement.get(), 2, id.key);
+        const int step = sqlite3_step(statement.get());
+        if (step != SQLITE_DONE) {
+            (void)sqlite3_exec(database_.get(), "ROLLBACK", nullptr, nullptr, nullptr); // the first failure counts
+            fail(step);
+        }
+    }
+    run("COMMIT");
+}
+
 void SettingsStore::run(const std::string& sql)
 {
     const int code = sqlite3_exec(database_.get(), sql.c_str(), nullptr, nullptr, nullptr);

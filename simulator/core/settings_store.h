@@ -5,6 +5,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "simulator/core/errors.h"
 #include "simulator/core/setting.h"
@@ -30,9 +31,11 @@ public:
     explicit SettingsStore(const std::filesystem::path& file);
 
     std::map<SettingId, std::string> load_all();
-    /// Both throw std::runtime_error when the database refuses; nothing has changed then.
+    /// These three throw std::runtime_error when the database refuses; nothing has changed then.
     void write(const SettingId& id, const std::string& value);
     void clear();
+    /// Forgets some values, all of them or none.
+    void remove(const std::vector<SettingId>& ids);
 
 private:
     struct Close {

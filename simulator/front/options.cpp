@@ -19,20 +19,30 @@ const char* const description =
     "A simulated network camera with its on-screen menu.\n"
     "Without options it opens a window; without a display it writes camera.png with the menu open.";
 
-const char* const examples = "\nExamples:\n"
-                             "  camera-sim --window\n"
-                             "      a window; M opens the menu, Q or closing the window ends the camera\n"
-                             "  camera-sim --keys menu --snapshot menu.png\n"
-                             "      presses keys without a window and writes what the main channel shows\n"
-                             "  camera-sim --keys menu --snapshot small.png --channel 2 --format argb4444 --still\n"
-                             "      the preview channel, other pixels, a scene that stands still\n"
-                             "  camera-sim --page image --language German --keys menu --snapshot page.png\n"
-                             "      for authors of pages: the menu key opens this page, in this language\n"
-                             "\nExit status: 0 success, 1 the camera failed, 2 the input can't be used.\n";
+const char* const examples =
+    "\nExamples:\n"
+    "  camera-sim --window\n"
+    "      a window; M opens the menu, Q or closing the window ends the camera\n"
+    "  camera-sim --keys menu --snapshot menu.png\n"
+    "      presses keys without a window and writes what the main channel shows\n"
+    "  camera-sim --keys menu --snapshot small.png --channel 2 --format argb4444 --still\n"
+    "      the preview channel, other pixels, a scene that stands still\n"
+    "  camera-sim --page image --language German --keys menu --snapshot page.png\n"
+    "      for authors of pages: the menu key opens this page, in this language\n"
+    "  camera-sim --window --record keys.txt\n"
+    "      writes each key with its time into a file; --keys-file keys.txt presses them again\n"
+    "  camera-sim --scenario tests/scenarios/NAME\n"
+    "      plays keys.txt of this folder and compares with its calls.txt and frame.png\n"
+    "\nExit status: 0 success, 1 the camera failed or a scenario differs, 2 the input can't be "
+    "used.\n";
 
 /// What the command line says before it is checked and turned into Options.
 struct Words {
     std::string keys;
+    std::string keys_file;
+    std::string record;
+    std::string scenario;
+    std::string update_scenario;
     std::string snapshot;
     std::string size = "1080p";
     std::string format = "argb8888";
@@ -50,7 +60,7 @@ std::string key_help()
         text += "  " + name + key.help + (keyboard.empty() ? "" : " (" + keyboard + ")") +
                 (key.function == nullptr ? "; no function yet" : "") + "\n";
     }
-    return text;
+    return text + "Escape is the menu key while the menu is open.\n";
 }
 
 template <typename Value>
@@ -66,6 +76,11 @@ std::vector<std::string> names_of(const std::map<std::string, Value>& table)
 void declare(CLI::App& app, Options& options, Words& words)
 {
     app.add_option("--keys", words.keys, "Press these keys, separated by spaces, and end")->type_name("\"KEY ...\"");
+    app.add_option("--keys-file", words.keys_file,
+                   "Press the keys of a file, one a line, optionally behind a time in seconds: 1.250 down")
+        ->type_name("FILE");
+    app.add_option("--record", words.record, "Write each key that is pressed into a new file for --keys-file")
+        ->type_name("FILE");
     app.add_option("--snapshot", words.snapshot, "Write what the channel shows at the end")->type_name("FILE.png");
     app.add_option("--channel", options.channel, "Channel that is shown: 0 main, 1 sub, 2 preview")
         ->check(CLI::Range(0, channel_count - 1))
@@ -89,6 +104,10 @@ void declare(CLI::App& app, Options& options, Words& words)
     app.add_flag("--reset", options.reset, "Set all settings back to their defaults first");
     app.add_flag("--still", options.still, "The scene stands at time 0, so that pictures repeat exactly");
     app.add_flag("--window", options.window, "Open a window");
+    app.add_option("--scenario", words.scenario, "Play a scenario and compare; stands alone")->type_name("DIR");
+    app.add_option("--update-scenario", words.update_scenario,
+                   "Play a scenario and write its calls.txt and frame.png anew; stands alone")
+        ->type_name("DIR");
 }
 
 void check_page(const std::string& page)
@@ -104,11 +123,45 @@ void check_page(const std::string& page)
     throw BadInput("unknown page '" + page + "', expected one of:" + known);
 }
 
-void take_over(const CLI::App& app, const Words& words, Options& options)
+void check_combinations(const CLI::App& app)
+{
+    constexpr std::pair<const char*, const char*> enemies[] = {{"--window", "--snapshot"}, {"--keys", "--keys-file"}};
+    for (const auto& [one, other] : enemies) {
+        if (app.count(one) > 0 && app.count(other) > 0) {
+            throw BadInput(std::string(one) + " and " + other + " can't be used together");
+        }
+    }
+    for (const char* lonely : {"--scenario", "--update-scenario"}) {
+        if (app.count(lonely) > 0 && app.parse_order().size() > 1) {
+            throw BadInput(std::string(lonely) + " stands alone: what it needs is in its folder");
+        }
+    }
+}
+
+void take_scenario(const CLI::App& app, const Words& words, Options& options)
+{
+    options.update_scenario = app.count("--update-scenario") > 0;
+    if (options.update_scenario || app.count("--scenario") > 0) {
+        options.scenario = options.update_scenario ? words.update_scenario : words.scenario;
+    }
+}
+
+void take_keys(const CLI::App& app, const Words& words, Options& options)
 {
     if (app.count("--keys") > 0) {
         options.keys = parse_keys(words.keys);
+    } else if (app.count("--keys-file") > 0) {
+        options.keys = read_keys_file(words.keys_file);
     }
+    if (app.count("--record") > 0) {
+        options.record = words.record;
+    }
+}
+
+void take_over(const CLI::App& app, const Words& words, Options& options)
+{
+    take_scenario(app, words, options);
+    take_keys(app, words, options);
     if (app.count("--snapshot") > 0) {
         options.snapshot = words.snapshot;
         check_snapshot_path(*options.snapshot);
@@ -141,9 +194,7 @@ std::optional<Options> parse_options(int argc, const char* const* argv)
     } catch (const CLI::ParseError& error) {
         throw BadInput(first_line(error.what()) + "; --help explains all options");
     }
-    if (options.window && app.count("--snapshot") > 0) {
-        throw BadInput("--window and --snapshot can't be used together");
-    }
+    check_combinations(app);
     take_over(app, words, options);
     return options;
 }

@@ -7,12 +7,13 @@
 #include <string>
 #include <vector>
 
-#include "simulator/host/keys.h"
+#include "simulator/host/key_script.h"
 
 namespace sim {
 
 struct Options {
-    std::optional<std::vector<const Key*>> keys; ///< none when the option isn't given
+    std::optional<std::vector<TimedKey>> keys; ///< none when no option brings keys
+    std::optional<std::filesystem::path> record;
     std::optional<std::filesystem::path> snapshot;
     int channel = 0;
     bool uhd = false;
@@ -24,6 +25,8 @@ struct Options {
     bool reset = false;
     bool still = false;
     bool window = false;
+    std::optional<std::filesystem::path> scenario; ///< stands alone
+    bool update_scenario = false;
 };
 
 /// Reads the command line and checks all that can be checked before a start. Empty when the help text was asked for

@@ -5,7 +5,7 @@
 
 namespace sim {
 
-/// Runs one camera until its front end is done. Throws BadInput and std::runtime_error.
+/// Runs one camera until its front end is done, or plays a scenario. Throws BadInput and std::runtime_error.
 void run(const Options& options);
 
 } // namespace sim

@@ -67,20 +67,21 @@ struct Screen {
     std::unique_ptr<SDL_Texture, Destroy> texture;
 };
 
-void press(MenuHost& host, SDL_Keycode code)
+/// A page file with a mistake must not end the camera.
+template <typename Action>
+void with_mistakes_told(Action action)
 {
-    const Key* key = find_keyboard_key(code);
-    if (key == nullptr) {
-        return;
-    }
-    if (key->function == nullptr) {
-        std::cerr << "camera-sim: key '" << key->name << "' has no function yet" << std::endl;
-        return;
-    }
     try {
-        key->function(host);
-    } catch (const BadInput& error) { // a page file with a mistake must not end the camera
+        action();
+    } catch (const BadInput& error) {
         std::cerr << "camera-sim: " << error.what() << std::endl;
+    }
+}
+
+void press_keyboard(MenuHost& host, SDL_Keycode code)
+{
+    if (const Key* key = find_keyboard_key(code, host.is_open())) {
+        with_mistakes_told([&] { press(find_key(key->name), host); });
     }
 }
 
@@ -93,7 +94,7 @@ bool handle_events(MenuHost& host)
             return false;
         }
         if (event.type == SDL_KEYDOWN) {
-            press(host, event.key.keysym.sym);
+            press_keyboard(host, event.key.keysym.sym);
         }
     }
     return true;
@@ -101,18 +102,20 @@ bool handle_events(MenuHost& host)
 
 } // namespace
 
-bool show_window(Camera& camera, MenuHost& host, int channel)
+bool show_window(MenuHost& host, KeyPlayer& keys, int channel)
 {
     const VideoSystem video;
     if (!video.can_show()) {
         SDL_SetError("there is no display");
         return false;
     }
+    Camera& camera = host.camera();
     const Screen screen(camera.channels().size(channel));
     if (screen.texture == nullptr) {
         return false;
     }
     while (handle_events(host)) {
+        with_mistakes_told([&] { keys.press_due(); });
         const Uint32 began = SDL_GetTicks();
         screen.show(camera.look_at(channel));
         const Uint32 used = SDL_GetTicks() - began;

@@ -1,13 +1,12 @@
 // The window front end.
 #pragma once
 
-#include "simulator/core/camera.h"
-#include "simulator/host/menu_host.h"
+#include "simulator/host/key_script.h"
 
 namespace sim {
 
-/// Shows a channel in a window and takes keys from the keyboard until the window is closed. False when no window can
-/// be opened; SDL_GetError() says why.
-bool show_window(Camera& camera, MenuHost& host, int channel);
+/// Shows a channel in a window and takes keys from the player and the keyboard until the window is closed. False when
+/// no window can be opened; SDL_GetError() says why.
+bool show_window(MenuHost& host, KeyPlayer& keys, int channel);
 
 } // namespace sim

@@ -8,6 +8,7 @@
 #include "simulator/core/camera.h"
 #include "simulator/core/guard.h"
 #include "simulator/core/log.h"
+#include "simulator/host/actions.h"
 
 namespace sim {
 namespace {
@@ -61,7 +62,7 @@ SettingId setting_of(const tagITEM_NODE_S& item, const std::string& key)
 
 void store(Camera& camera, const SettingId& id, const std::string& text)
 {
-    camera.settings().set(id, text);
+    camera.change(id, text);
     log_line(LogLevel::Info, "business", to_string(id) + " is now " + text);
 }
 
@@ -85,6 +86,13 @@ bool store_color_part(Camera& camera, const tagITEM_NODE_S& item)
     return false;
 }
 
+void store_value(Camera& camera, const tagITEM_NODE_S& item)
+{
+    if (!store_color_part(camera, item)) {
+        store(camera, setting_of(item, item.acItemIndex), value_of(item));
+    }
+}
+
 std::string answer_text(Camera& camera, const std::string& name)
 {
     if (name == custom_color) {
@@ -100,13 +108,17 @@ int apply_item(tagITEM_NODE_S* item)
 {
     Camera* camera = Camera::current();
     if (camera == nullptr || item == nullptr) {
+        log_line(LogLevel::Warning, "business", camera == nullptr ? "there is no camera" : "there is no item");
         return -1;
     }
     return guarded("business", -1, [&] {
-        if (!carries_value(*item)) {
-            log_line(LogLevel::Info, "business", "action '" + std::string(item->acItemIndex) + "'");
-        } else if (!store_color_part(*camera, *item)) {
-            store(*camera, setting_of(*item, item->acItemIndex), value_of(*item));
+        const std::string key = item->acItemIndex;
+        const bool value = carries_value(*item);
+        camera->events().tell({"business", value ? key + "=" + value_of(*item) : key});
+        if (value) {
+            store_value(*camera, *item);
+        } else if (!run_action(*camera, key)) {
+            log_line(LogLevel::Info, "business", "nothing to do for '" + key + "'"); // such as a text on a page
         }
         return 0;
     });

@@ -5,7 +5,7 @@
 
 namespace sim {
 
-/// Stores the value of an item in the setting that it shows, and logs one line.
+/// Stores the value of an item in the setting that it shows, or does what its button stands for, and logs one line.
 int apply_item(tagITEM_NODE_S* item);
 
 /// The parent key of a data zone; null when the settings definitions name none.

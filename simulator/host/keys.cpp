@@ -1,21 +1,27 @@
 #include "simulator/host/keys.h"
 
 #include <algorithm>
-#include <iostream>
-#include <sstream>
 
+#include "osd_menu.h"
 #include "simulator/core/errors.h"
 
 namespace sim {
 namespace {
 
+/// Only the opening is the host's: it knows the page.
 void press_menu(MenuHost& host)
 {
     if (host.is_open()) {
-        std::cerr << "camera-sim: key 'menu' has no function yet while the menu is open" << std::endl;
-        return;
+        host.call(OSD_MENU_HandleKeyMenu);
+    } else {
+        host.open();
     }
-    host.open();
+}
+
+template <int (*Function)()>
+void call(MenuHost& host)
+{
+    host.call(Function);
 }
 
 } // namespace
@@ -23,21 +29,22 @@ void press_menu(MenuHost& host)
 const std::vector<Key>& all_keys()
 {
     static const std::vector<Key> keys = {
-        {"menu", SDLK_m, press_menu, "opens the menu"},
-        {"home", SDLK_RETURN, nullptr, "confirms the selected item"},
-        {"up", SDLK_UP, nullptr, "moves the cursor up"},
-        {"down", SDLK_DOWN, nullptr, "moves the cursor down"},
-        {"left", SDLK_LEFT, nullptr, "changes the value downwards"},
-        {"right", SDLK_RIGHT, nullptr, "changes the value upwards, opens a page"},
-        {"up-left", SDLK_UNKNOWN, nullptr, "up, then left"},
-        {"up-right", SDLK_UNKNOWN, nullptr, "up, then right"},
-        {"down-left", SDLK_UNKNOWN, nullptr, "down, then left"},
-        {"down-right", SDLK_UNKNOWN, nullptr, "down, then right"},
-        {"advanced", SDLK_a, nullptr, "opens the advanced menu"},
-        {"return", SDLK_ESCAPE, nullptr, "goes back one page"},
-        {"close", SDLK_c, nullptr, "closes the menu"},
-        {"left-keep", SDLK_UNKNOWN, nullptr, "like left, but the value waits until it is applied"},
-        {"right-keep", SDLK_UNKNOWN, nullptr, "like right, but the value waits until it is applied"},
+        {"menu", SDLK_m, press_menu, "opens the menu; drops an edited address, goes back one page, closes the menu"},
+        {"home", SDLK_RETURN, call<OSD_MENU_HandleKeyHome>, "enters: opens a page, presses a button, applies a value"},
+        {"up", SDLK_UP, call<OSD_MENU_HandleKeyUp>, "moves the cursor up"},
+        {"down", SDLK_DOWN, call<OSD_MENU_HandleKeyDown>, "moves the cursor down"},
+        {"left", SDLK_LEFT, call<OSD_MENU_HandleKeyLeft>, "changes the value downwards"},
+        {"right", SDLK_RIGHT, call<OSD_MENU_HandleKeyRight>, "changes the value upwards"},
+        {"up-left", SDLK_UNKNOWN, call<OSD_MENU_HandleKeyUp_Left>, "up, then left"},
+        {"up-right", SDLK_UNKNOWN, call<OSD_MENU_HandleKeyUp_Right>, "up, then right"},
+        {"down-left", SDLK_UNKNOWN, call<OSD_MENU_HandleKeyDown_Left>, "down, then left"},
+        {"down-right", SDLK_UNKNOWN, call<OSD_MENU_HandleKeyDown_Right>, "down, then right"},
+        {"advanced", SDLK_a, call<OSD_MENU_HandleKeyAdvancedMenu>, "opens the advanced menu"},
+        {"return", SDLK_BACKSPACE, call<OSD_MENU_ReturnMenu>, "goes back one page, an edited address with it"},
+        {"close", SDLK_c, call<OSD_MENU_CloseMenu>, "closes the menu"},
+        {"left-keep", SDLK_UNKNOWN, call<OSD_MENU_HandleKeyLeftUpdateItem>, "left, but the camera isn't told yet"},
+        {"right-keep", SDLK_UNKNOWN, call<OSD_MENU_HandleKeyRightUpdateItem>, "right, but the camera isn't told yet"},
+        {"apply", SDLK_SPACE, call<OSD_MENU_HandleSetParam>, "tells the camera the value of the selected item"},
         {"zoom+", SDLK_PLUS, nullptr, "zooms in"},
         {"zoom-", SDLK_MINUS, nullptr, "zooms out"},
         {"prompt", SDLK_p, nullptr, "shows a prompt over the picture"},
@@ -54,31 +61,33 @@ std::string key_names()
     return names;
 }
 
-std::vector<const Key*> parse_keys(const std::string& script)
+const Key& find_key(const std::string& name)
 {
-    std::string spaced = script;
-    std::replace(spaced.begin(), spaced.end(), ',', ' ');
-    std::istringstream words(spaced);
-    std::vector<const Key*> keys;
-    for (std::string word; words >> word;) {
-        const auto has_name = [&word](const Key& key) { return word == key.name; };
-        const auto found = std::find_if(all_keys().begin(), all_keys().end(), has_name);
-        if (found == all_keys().end()) {
-            throw BadInput("unknown key '" + word + "', expected one of: " + key_names());
-        }
-        if (found->function == nullptr) {
-            throw BadInput("key '" + word + "' has no function yet");
-        }
-        keys.push_back(&*found);
+    const auto has_name = [&name](const Key& key) { return name == key.name; };
+    const auto found = std::find_if(all_keys().begin(), all_keys().end(), has_name);
+    if (found == all_keys().end()) {
+        throw BadInput("unknown key '" + name + "', expected one of: " + key_names());
     }
-    return keys;
+    if (found->function == nullptr) {
+        throw BadInput("key '" + name + "' has no function yet");
+    }
+    return *found;
 }
 
-const Key* find_keyboard_key(SDL_Keycode code)
+const Key* find_keyboard_key(SDL_Keycode code, bool menu_is_open)
 {
+    if (code == SDLK_ESCAPE) { // leaves one thing at a time, as the menu key does, but opens nothing
+        code = menu_is_open ? SDLK_m : SDLK_UNKNOWN;
+    }
     const auto has_code = [code](const Key& key) { return key.keyboard == code && code != SDLK_UNKNOWN; };
     const auto found = std::find_if(all_keys().begin(), all_keys().end(), has_code);
     return found == all_keys().end() ? nullptr : &*found;
+}
+
+void press(const Key& key, MenuHost& host)
+{
+    host.camera().events().tell({"key", key.name});
+    key.function(host);
 }
 
 } // namespace sim

@@ -22,11 +22,14 @@ const std::vector<Key>& all_keys();
 /// The names of all keys, separated by spaces.
 std::string key_names();
 
-/// The keys of a script: names separated by spaces or commas. Throws BadInput for an unknown name, which lists the
-/// known ones, and for a key without function.
-std::vector<const Key*> parse_keys(const std::string& script);
+/// The key of this name. Throws BadInput for an unknown name, which lists the known ones, and for a key without
+/// function.
+const Key& find_key(const std::string& name);
 
-/// The key of a keyboard key; null when there is none.
-const Key* find_keyboard_key(SDL_Keycode code);
+/// The key of a keyboard key; null when there is none. Escape is the menu key while the menu is open.
+const Key* find_keyboard_key(SDL_Keycode code, bool menu_is_open);
+
+/// Presses a key that has a function. Throws BadInput when a page that it opens by name can't be read.
+void press(const Key& key, MenuHost& host);
 
 } // namespace sim

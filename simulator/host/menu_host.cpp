@@ -49,6 +49,16 @@ MenuHost::~MenuHost()
 
 bool MenuHost::is_open() const { return OSD_MENU_GetMenuStatus() == 1; }
 
+void MenuHost::call(int (*key_function)())
+{
+    if (key_function() != 0) {
+        log_line(LogLevel::Warning, "menu", "the key has no effect");
+    }
+    if (camera_.restart_if_asked()) {
+        OSD_MENU_CloseMenu();
+    }
+}
+
 void MenuHost::open()
 {
     if (is_open()) {

@@ -28,7 +28,10 @@ public:
     MenuHost(const MenuHost&) = delete;
     MenuHost& operator=(const MenuHost&) = delete;
 
+    Camera& camera() { return camera_; }
     bool is_open() const;
+    /// Calls one of the menu's key functions, and then does what had to wait for its end.
+    void call(int (*key_function)());
     /// Opens the menu on its root page; does nothing when it is open. Throws BadInput when a page that the
     /// configuration names can't be read to its end; the menu is open then with what was read.
     void open();

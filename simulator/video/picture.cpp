@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <iterator>
 #include <string>
 
 #include "simulator/video/painter.h"
@@ -29,6 +30,34 @@ struct TallyColor {
     Color color;
 };
 constexpr TallyColor tally_colors[] = {{"Red", 0xE8202A}, {"Green", 0x1FC24B}};
+
+struct AngleOption {
+    const char* option;
+    int angle;
+};
+constexpr AngleOption angle_options[] = {{"90deg", 90}, {"180deg", 180}, {"270deg", 270}};
+
+struct CornerOption {
+    const char* option;
+    bool right;
+    bool bottom;
+};
+constexpr CornerOption corner_options[] = {
+    {"TopLeft", false, false}, {"TopRight", true, false}, {"BottomLeft", false, true}, {"BottomRight", true, true}};
+
+struct WidthOption {
+    const char* option;
+    double width;
+};
+constexpr WidthOption width_options[] = {{"SizeSmall", 0.2}, {"Medium", 0.25}, {"SizeLarge", 0.33}};
+
+template <typename Row, std::size_t N>
+const Row* find_row(const Row (&table)[N], const std::string& option)
+{
+    const auto found =
+        std::find_if(std::begin(table), std::end(table), [&option](const Row& row) { return option == row.option; });
+    return found == std::end(table) ? nullptr : found;
+}
 
 /// A setting's value as a share of its maximum: 0 to 1.
 double share_of_max(const Settings& settings, const Setting& setting)
@@ -62,10 +91,8 @@ const Setting* find_number(const Settings& settings, const char* key)
 void read_lights(const Settings& settings, Look& look)
 {
     const std::string tally = option_of(settings, "Tally");
-    for (const TallyColor& row : tally_colors) {
-        if (tally == row.option) {
-            look.tally = row.color;
-        }
+    if (const TallyColor* row = find_row(tally_colors, tally)) {
+        look.tally = row->color;
     }
     if (const Setting* level = find_number(settings, "TallyLevel")) {
         look.tally_level = share_of_max(settings, *level);
@@ -76,6 +103,26 @@ void read_lights(const Settings& settings, Look& look)
         look.lamp = look.tally;
     } else if (mode == "LedCustom" && custom != nullptr) {
         look.lamp = static_cast<Color>(settings.number(custom->id));
+    }
+}
+
+void read_arrangement(const Settings& settings, Look& look)
+{
+    if (const AngleOption* row = find_row(angle_options, option_of(settings, "RotateAngle"))) {
+        look.mounting.angle = row->angle;
+    }
+    look.mounting.crop = option_of(settings, "RotateFit") != "FitBars";
+    if (option_of(settings, "PipMode") != "On") {
+        return;
+    }
+    Inset& inset = look.inset.emplace();
+    inset.panorama = option_of(settings, "PipSource") != "PipMain";
+    if (const CornerOption* row = find_row(corner_options, option_of(settings, "PipPos"))) {
+        inset.right = row->right;
+        inset.bottom = row->bottom;
+    }
+    if (const WidthOption* row = find_row(width_options, option_of(settings, "PipSize"))) {
+        inset.width = row->width;
     }
 }
 
@@ -111,7 +158,7 @@ void apply_tones(Image& image, const Look& look)
     }
 }
 
-void turn(Image& image, const Look& look)
+void reflect(Image& image, const Look& look)
 {
     const int width = image.size.width;
     for (int y = 0; look.mirror && y < image.size.height; ++y) {
@@ -120,6 +167,18 @@ void turn(Image& image, const Look& look)
     for (int y = 0; look.flip && y < image.size.height / 2; ++y) {
         std::swap_ranges(image.row(y), image.row(y) + width, image.row(image.size.height - 1 - y));
     }
+}
+
+/// What the lens and the sensor give.
+Image draw_view(Size size, const Look& look, double zoom, double seconds)
+{
+    Image image(size);
+    draw_scene(image, seconds, zoom);
+    if (look.brightness != 0 || look.contrast != 0 || look.saturation != 0) {
+        apply_tones(image, look);
+    }
+    reflect(image, look);
+    return image;
 }
 
 Color dimmed(Color color, double level)
@@ -161,18 +220,19 @@ Look look_of(const Settings& settings)
     if (const Setting* zoom = find_number(settings, "Zoom")) {
         look.zoom = std::max(1.0, settings.number(zoom->id) / 100.0); // the setting counts in percent
     }
+    read_arrangement(settings, look);
     read_lights(settings, look);
     return look;
 }
 
 Image draw_picture(Size size, const Look& look, double seconds)
 {
-    Image image(size);
-    draw_scene(image, seconds, look.zoom);
-    if (look.brightness != 0 || look.contrast != 0 || look.saturation != 0) {
-        apply_tones(image, look);
+    Image image = draw_view(size, look, look.zoom, seconds);
+    turn_picture(image, look.mounting);
+    if (look.inset) {
+        const double zoom = look.inset->panorama ? 1 : look.zoom;
+        lay_inset(image, draw_view(inset_size(size, *look.inset), look, zoom, seconds), *look.inset);
     }
-    turn(image, look);
     // Behind the lens: neither tones nor mirror reach what the camera writes onto its picture.
     draw_time_code(image, seconds);
     draw_lights(image, look);

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "simulator/core/settings.h"
+#include "simulator/video/arrange.h"
 #include "simulator/video/image.h"
 
 namespace sim {
@@ -16,6 +17,8 @@ struct Look {
     bool mirror = false;
     bool flip = false;
     double zoom = 1;
+    Mounting mounting;
+    std::optional<Inset> inset;
     std::optional<Color> tally; ///< a frame around the picture
     double tally_level = 1;     ///< 0 to 1
     std::optional<Color> lamp;  ///< the camera's own light, in the lower right corner

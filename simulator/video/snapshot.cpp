@@ -2,6 +2,7 @@
 
 #include <SDL.h>
 #include <SDL_image.h>
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
@@ -60,6 +61,23 @@ void save_png(const Image& image, const std::filesystem::path& path)
         throw std::runtime_error("snapshot " + path.string() + ": " + words);
     }
     std::filesystem::rename(temporary, path);
+}
+
+Image load_png(const std::filesystem::path& path)
+{
+    using Surface = std::unique_ptr<SDL_Surface, FreeSurface>;
+    const Surface file(IMG_Load(path.c_str()));
+    const Surface surface(file == nullptr ? nullptr
+                                          : SDL_ConvertSurfaceFormat(file.get(), SDL_PIXELFORMAT_ARGB8888, 0));
+    if (surface == nullptr) {
+        throw BadInput("picture " + path.string() + ": can't be read: " + SDL_GetError());
+    }
+    Image image({surface->w, surface->h});
+    for (int y = 0; y < surface->h; ++y) {
+        const auto* bytes = static_cast<const char*>(surface->pixels) + std::ptrdiff_t{y} * surface->pitch;
+        std::copy_n(reinterpret_cast<const Color*>(bytes), surface->w, image.row(y));
+    }
+    return image;
 }
 
 } // namespace sim

@@ -14,4 +14,7 @@ void check_snapshot_path(const std::filesystem::path& path);
 /// std::runtime_error, leaving an earlier file of that name as it was.
 void save_png(const Image& image, const std::filesystem::path& path);
 
+/// Reads a picture. Throws BadInput when the file can't be read as one.
+Image load_png(const std::filesystem::path& path);
+
 } // namespace sim

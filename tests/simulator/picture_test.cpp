@@ -70,6 +70,16 @@ TEST(Picture, ShowsTheSettings)
     EXPECT_EQ(near.row(300)[150], draw_picture({1280, 720}, Look(), 0).row(480)[470]);
     EXPECT_EQ(near.row(2)[2], 0xFFE8202AU);
 
+    look = Look();
+    look.mounting.angle = 180;
+    EXPECT_EQ(draw_picture({640, 360}, look, 0).row(200)[100], draw_picture({640, 360}, Look(), 0).row(159)[539]);
+    look.mounting = {90, false}; // 202 pixels wide, 219 beside it
+    look.inset = Inset{true, false, true, 0.25};
+    const Image turned = draw_picture({640, 360}, look, 0);
+    EXPECT_EQ(turned.row(20)[218], 0xFF000000U);
+    EXPECT_EQ(turned.row(20)[420], draw_picture({640, 360}, Look(), 0).row(1)[36]); // the sky lies at the right
+    EXPECT_EQ(turned.row(232)[19], draw_picture({160, 90}, Look(), 0).row(0)[0]);
+
     const TempFolder folder;
     SettingsStore store(folder.path("settings.db"));
     const SettingId id{"", "TallyLevel"};

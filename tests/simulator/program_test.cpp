@@ -2,7 +2,6 @@
 #include <cstdlib>
 #include <gmock/gmock.h>
 
-#include "simulator/core/data_folder.h"
 #include "tests/simulator/temp_folder.h"
 
 using testing::MatchesRegex;
@@ -26,6 +25,10 @@ TEST(Program, RefusesBadInputInOneLine)
     const std::pair<const char*, std::string> cases[] = {
         {"--colour", "--colour"},
         {"--keys 'menu jump' --snapshot a.png", "unknown key 'jump', expected one of: menu home up"},
+        {"--keys menu --keys-file a.txt", "can't be used together"},
+        {"--keys-file a.txt", "a.txt: can't be read"},
+        {"--scenario case --still", "stands alone"},
+        {"--scenario case", "no such folder"},
         {"--keys menu --language Klingon", "expected one of English"},
         {"--keys menu --page nowhere", "unknown page 'nowhere', expected one of: "},
         {"--keys menu --data /dev/null/x", "can't be made"},
@@ -40,6 +43,31 @@ TEST(Program, RefusesBadInputInOneLine)
     EXPECT_EQ(folder.read("camera-sim/settings.db.bak"), damaged);
     const sim::DataFolder other(folder.path("camera-sim"));
     EXPECT_THAT(run_camera(folder, "--keys menu"), MatchesRegex("camera-sim: .*another camera runs on it.*\n2\n"));
+}
+
+TEST(Program, RecordsKeysThatPlayAgain)
+{
+    const TempFolder folder;
+    EXPECT_EQ(run_camera(folder, "--still --data one --keys 'menu up,up left' --record keys.txt --snapshot a.png"),
+              "0\n");
+    EXPECT_EQ(run_camera(folder, "--still --data two --keys-file keys.txt --snapshot b.png"), "0\n");
+    EXPECT_EQ(folder.read("a.png"), folder.read("b.png"));
+    EXPECT_THAT(run_camera(folder, "--keys menu --record keys.txt"), MatchesRegex(".*the file exists; [^\n]*\n2\n"));
+}
+
+TEST(Program, TellsWhereAScenarioDiffers)
+{
+    const TempFolder folder;
+    folder.write("case/keys.txt", "menu\n");
+    folder.write("case/calls.txt", "# opens\nkey menu\n# wrong\nhide\n");
+    EXPECT_THAT(run_camera(folder, "--scenario case"),
+                MatchesRegex(".*calls.txt:4: expected 'hide', got 'page main'\n1\n"));
+    EXPECT_EQ(run_camera(folder, "--update-scenario case"), "0\n");
+    EXPECT_EQ(folder.read("case/calls.txt"), "# opens\nkey menu\n# wrong\npage main\nshow\n");
+    EXPECT_EQ(run_camera(folder, "--scenario case"), "0\n");
+    folder.write("case/options.json", R"({"settings": {"Zoom": "150"}})");
+    EXPECT_THAT(run_camera(folder, "--scenario case"),
+                MatchesRegex(".*frame.png: pixel [0-9]+,[0-9]+: .*; case.actual.png shows [^\n]*\n1\n"));
 }
 
 TEST(Program, WritesTheSamePictureTwice)

@@ -8,11 +8,12 @@
 #include "simulator/core/camera.h"
 #include "simulator/core/services.h"
 #include "simulator/host/callbacks.h"
-#include "simulator/host/menu_host.h"
+#include "simulator/host/key_script.h"
 #include "tests/simulator/temp_folder.h"
 
 using namespace sim;
 using namespace testing;
+using namespace std::string_literals;
 
 static CameraConfig camera_in(const TempFolder& folder)
 {
@@ -21,7 +22,7 @@ static CameraConfig camera_in(const TempFolder& folder)
                                                    R"({"Image": "P"})"));
     folder.write("lang/English.json", R"({"On": "On"})");
     folder.write("lang/Deutsch.json", R"({"On": "Ein"})");
-    return {folder.path(), folder.path("data"), false, false, true, std::nullopt};
+    return {folder.path(), folder.path("data"), false, false, true, std::nullopt, {}};
 }
 
 struct Services : testing::Test {
@@ -101,6 +102,46 @@ TEST_F(Services, StoreWhatTheMenuApplies)
     tagOSD_MENU_CONTROL_PARAM_S answer;
     answer_event(&camera, OSD_MENU_GET_LED_CUSTOM_COLOR, &answer);
     EXPECT_STREQ(answer.acText, "AB01FF");
+}
+
+TEST_F(Services, DoWhatTheButtonsSay)
+{
+    const std::vector<std::array<const char*, 3>> cases = {
+        {"RestoreImg", "3", "00FF00"}, {"FactoryRestore", "3", "1E90FF"}, {"NoSuchButton", "-5", "00FF00"}};
+    for (const auto& [key, gain, color] : cases) {
+        camera.change({"P", "Gain"}, "-5");
+        camera.change({"", "LedCustomColor"}, "00FF00");
+        camera.change(language_setting, "English");
+        tagITEM_NODE_S item{};
+        std::strcpy(item.acItemIndex, key);
+        item.enAttr = CONFIRM_POP;
+        EXPECT_EQ(apply_item(&item), 0);
+        EXPECT_EQ(camera.settings().value({"P", "Gain"}), gain) << key;
+        EXPECT_EQ(camera.settings().value({"", "LedCustomColor"}) + camera.language(), color + "English"s) << key;
+        EXPECT_EQ(SettingsStore(folder.path("data/settings.db")).load_all().count({"P", "Gain"}), *gain == '3' ? 0 : 1);
+    }
+    EXPECT_NE(apply_item(nullptr), 0);
+}
+
+TEST_F(Services, ReadKeysFilesAndRecordAtOnce)
+{
+    const auto at = [](double seconds) { return Field(&TimedKey::at, seconds); };
+    EXPECT_THAT(read_keys_file(folder.write("good", "# x\r\n\n0.5 menu #1\nhome\n\t1.25  down-left\r\n")),
+                ElementsAre(at(0.5), at(0.5), at(1.25)));
+    const std::pair<const char*, const char*> bad[] = {
+        {"menu\n\njump", ":3: unknown key 'jump', expected one of: menu"},
+        {"1,5 menu", ":1: '1,5' is no time in seconds"},
+        {"nan menu", ":1: 'nan' is no time"},
+        {"1 menu\n0.9 up", ":2: the time 0.9 lies before"},
+        {"1 menu up", ":1: expected a key, or a time and a key"}};
+    for (const auto& [text, words] : bad) {
+        const auto path = folder.write("bad", text);
+        EXPECT_THAT([&] { read_keys_file(path); }, ThrowsMessage<BadInput>(StartsWith(path.string() + words)));
+    }
+    KeyRecorder recorder(folder.path("record"));
+    recorder.follow(camera);
+    camera.events().tell({"key", "up"});
+    EXPECT_THAT(folder.read("record"), MatchesRegex("[0-9]+[.][0-9][0-9][0-9] up\n"));
 }
 
 TEST_F(Services, KeepAPageThatCantBeReadOpen)

@@ -1,19 +1,16 @@
 // A folder of its own for each test, and what tests put into it.
 #pragma once
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
 
+#include "simulator/core/data_folder.h"
+
 class TempFolder {
 public:
-    TempFolder() = default;
-    ~TempFolder() { std::filesystem::remove_all(path_); }
-    TempFolder(const TempFolder&) = delete;
-
-    std::filesystem::path path(const std::string& name = "") const { return path_ / name; }
+    std::filesystem::path path(const std::string& name = "") const { return folder_.path() / name; }
     std::filesystem::path write(const std::string& name, const std::string& text) const
     {
         std::filesystem::create_directories(path(name).parent_path());
@@ -27,8 +24,7 @@ public:
     }
 
 private:
-    std::string pattern_ = (std::filesystem::temp_directory_path() / "camera-sim-test-XXXXXX").string();
-    std::filesystem::path path_ = mkdtemp(pattern_.data());
+    sim::TemporaryFolder folder_;
 };
 
 /// A settings definitions file with the languages English and German, with a list of further settings and the start of

@@ -1,0 +1,46 @@
+// What happens in the camera, told as it happens.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace sim {
+
+/// One thing that happened:
+///   key NAME             a key is pressed; what follows up to the next one is its doing
+///   page NAME            the document of a page was read
+///   business KEY=VALUE   the menu applies a value; business KEY where there is none, such as a button
+///   set KEY=VALUE        the menu stores a value itself
+///   language NAME        the camera speaks another language from now on
+///   show, hide           the menu was pushed to all channels, or taken away from them
+struct Event {
+    std::string kind;
+    std::string what; ///< may be empty
+};
+
+inline std::string to_line(const Event& event)
+{
+    return event.what.empty() ? event.kind : event.kind + " " + event.what;
+}
+
+/// Passes events on. All calls are made on the thread that presses the keys.
+class Events {
+public:
+    using Listener = std::function<void(const Event& event)>;
+
+    /// Listeners are called in the order in which they came, and stay.
+    void listen(Listener listener) { listeners_.push_back(std::move(listener)); }
+    void tell(const Event& event) const
+    {
+        for (const Listener& listener : listeners_) {
+            listener(event);
+        }
+    }
+
+private:
+    std::vector<Listener> listeners_;
+};
+
+} // namespace sim

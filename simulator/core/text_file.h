@@ -1,0 +1,12 @@
+// Whole text files.
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+namespace sim {
+
+/// The content of a file. Throws BadInput with the file and the reason.
+std::string read_text_file(const std::filesystem::path& path);
+
+} // namespace sim
