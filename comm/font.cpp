@@ -2,12 +2,14 @@
 #include <SDL.h>
 #include <SDL_ttf.h>
 #include <fcntl.h>
+#include <pthread.h>
 #include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <climits>
 
+#include "comm/guard.h"
 #include "comm/log.h"
 #include "comm/paths.h"
 #include "osd_comm.h"
@@ -48,10 +50,27 @@ static SDL_RWops* osdFontMap(const char* pcPath)
     return pvFont != MAP_FAILED ? osdFontWrap(pvFont, static_cast<size_t>(stStat.st_size)) : nullptr;
 }
 
+// All fonts hang on one list inside SDL_ttf, and a prompt opens its font while another thread draws the menu. Held for
+// one opening or closing, never while something is drawn.
+static pthread_mutex_t gs_stFontMutex = PTHREAD_MUTEX_INITIALIZER;
+
 static TTF_Font* osdFontOpen(const char* pcPath)
 {
     SDL_RWops* pstFile = osdFontMap(pcPath);
-    return pstFile != nullptr ? TTF_OpenFontRW(pstFile, 1, gs_s32FontSize) : nullptr; // 1: closes the file, always
+    if (pstFile == nullptr) {
+        return nullptr;
+    }
+    (void)pthread_mutex_lock(&gs_stFontMutex);
+    TTF_Font* pstFont = TTF_OpenFontRW(pstFile, 1, gs_s32FontSize); // 1: closes the file, always
+    (void)pthread_mutex_unlock(&gs_stFontMutex);
+    return pstFont;
+}
+
+void osdFontClose(TTF_Font* pstFont)
+{
+    (void)pthread_mutex_lock(&gs_stFontMutex);
+    TTF_CloseFont(pstFont);
+    (void)pthread_mutex_unlock(&gs_stFontMutex);
 }
 
 TTF_Font* OSD_COMM_OpenTtfFont()

@@ -4,8 +4,6 @@
 #include <SDL_image.h>
 #include <unistd.h>
 
-#include <utility>
-
 #include "comm/arith.h"
 #include "comm/log.h"
 #include "comm/paths.h"

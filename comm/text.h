@@ -12,6 +12,18 @@ inline bool osdTextEqual(const char* pcLeft, const char* pcRight)
     return *pcLeft == *pcRight && strcmp(pcLeft, pcRight) == 0;
 }
 
+// Exact equality with one of several texts.
+template <size_t N>
+bool osdTextAmong(const char* const (&apcText)[N], const char* pcText)
+{
+    for (const char* pcCandidate : apcText) {
+        if (osdTextEqual(pcCandidate, pcText)) {
+            return true;
+        }
+    }
+    return false;
+}
+
 // A text with its end fits a field of the records.
 inline bool osdTextFits(const char* pcText) { return strlen(pcText) < OSD_TEXT_LEN; }
 

@@ -1,13 +1,10 @@
 // Text in the menu's colours.
 #include <SDL_ttf.h>
 
+#include "comm/color.h"
 #include "comm/guard.h"
 #include "comm/log.h"
 #include "osd_comm.h"
-
-static constexpr SDL_Color gs_stSelectedColor = {255, 255, 255, 255};
-static constexpr SDL_Color gs_stPlainColor = {191, 191, 191, 255};
-static constexpr SDL_Color gs_stTolvaneColor = {255, 205, 37, 255};
 
 static OSD_SURFACE_PTR osdTextSurface(TTF_Font* pstFont, const char* pcText, int s32FontSize, SDL_Color stColor)
 {
@@ -20,7 +17,7 @@ static OSD_SURFACE_PTR osdTextSurface(TTF_Font* pstFont, const char* pcText, int
 
 int OSD_COMM_GetTxtSurface(TTF_Font* pstFont, char* pcText, int s32FontSize, OSD_BOOL bSelected, SDL_Surface** ppstTxt)
 {
-    const SDL_Color stColor = bSelected == 1 ? gs_stSelectedColor : gs_stPlainColor;
+    const SDL_Color stColor = bSelected == 1 ? OSD_COLOR_SELECTED : OSD_COLOR_PLAIN;
     return osdHandOver(osdTextSurface(pstFont, pcText, s32FontSize, stColor), ppstTxt);
 }
 
@@ -33,5 +30,5 @@ int OSD_COMM_GetTxtSurfaceWithCursor(TTF_Font* pstFont, char* pcText, int s32Fon
 int OSD_COMM_GetTolvaneTxtSurface(TTF_Font* pstFont, char* pcText, int s32FontSize, OSD_BOOL /*bSelected*/,
                                   SDL_Surface** ppstTxt)
 {
-    return osdHandOver(osdTextSurface(pstFont, pcText, s32FontSize, gs_stTolvaneColor), ppstTxt);
+    return osdHandOver(osdTextSurface(pstFont, pcText, s32FontSize, OSD_COLOR_AMBER), ppstTxt);
 }

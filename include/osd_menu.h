@@ -34,10 +34,11 @@ typedef struct tagOSD_MENU_CFG_S {
     uint32_t enMenuStyle;          /* skin, 0 to 2 */
 } tagOSD_MENU_CFG_S;
 
-/* Applies an item's value. Called on the key's thread with no lock held; the result is not read. */
+/* Applies an item's value. Called on the key's thread with no lock held; the result is not read. May call every function of
+ * the library, keys and refreshes too; the item is gone when its page is closed or built anew. */
 typedef int (*OSD_BUSINESS_FUNC)(tagITEM_NODE_S*);
 
-/* Maps a data zone to the parent key of a lookup; null looks the key up without a parent. */
+/* Maps a data zone to the parent key of a lookup; null looks the key up without a parent. Must not call the library. */
 typedef const char* (*OSD_DATA_ZONE_FUNC)(const char*);
 
 /* What the library asks the host's get-callback for. */
@@ -61,7 +62,8 @@ typedef struct tagOSD_MENU_CONTROL_PARAM_S {
     char acText[OSD_ANSWER_LEN];
 } tagOSD_MENU_CONTROL_PARAM_S;
 
-/* Answers an event by writing into the block before it returns. The first argument is the host's user pointer. */
+/* Answers an event by writing into the block before it returns. The first argument is the host's user pointer. Must not
+ * call the library. */
 typedef void (*OSD_GET_FUNC)(void*, tagOSD_MENU_GET_EVENT_E, tagOSD_MENU_CONTROL_PARAM_S*);
 
 typedef struct tagOSD_HANDLER_S {
@@ -155,7 +157,8 @@ OSD_API int OSD_MENU_RefreshItem(char* pcItemIndex);
 OSD_API int OSD_MENU_RefreshPage(void);
 
 /* Keys of the remote control. Each is one call: when it returns, the new state has been drawn and shown. All return 0,
- * unless told otherwise. A page file that can't be read counts as a page without items; the menu key takes it away. */
+ * unless told otherwise. A page file that can't be read counts as a page, with the items that stand before the
+ * mistake; the menu key takes it away. */
 
 /* Menu closed: opens "main". One page open: closes the menu. More: drops the address edit of the selected item, or else
  * goes back one page. Returns -1 when the page count is negative. */
@@ -170,9 +173,12 @@ OSD_API int OSD_MENU_ReturnMenu(void);
 /* Closes the menu with all its pages; hides the overlay again when it is closed. */
 OSD_API int OSD_MENU_CloseMenu(void);
 
-/* Directions. Up and down move the cursor, left and right step the value, which then goes to the business function;
- * on an icon page all four move through the grid; a diagonal makes both moves and draws once. Nothing happens while the
- * menu is closed. */
+/* Directions, by what they meet; a diagonal makes both moves and draws once. Nothing happens while the menu is closed.
+ *   list               up and down move the cursor, left and right step the value, which then goes to the business function
+ *   paged list         the same; at the ends of the list up and down turn the page, and right enters a sub-page
+ *   popup              left and right move the cursor
+ *   icon page          all four move through the grid
+ *   address in edit    left and right move to another digit, up and down turn it */
 OSD_API int OSD_MENU_HandleKeyUp(void);
 OSD_API int OSD_MENU_HandleKeyDown(void);
 OSD_API int OSD_MENU_HandleKeyLeft(void);
@@ -186,14 +192,15 @@ OSD_API int OSD_MENU_HandleKeyDown_Right(void);
 OSD_API int OSD_MENU_HandleKeyLeftUpdateItem(void);
 OSD_API int OSD_MENU_HandleKeyRightUpdateItem(void);
 
-/* Hands the selected item of a list to the business function, changed or not, and draws. Nothing happens on icon and
- * popup pages, on pages that a confirm page applies (but "network"), and for a value that waits for the home key. */
+/* Hands the selected item of a list to the business function, changed or not, and draws. A value that waits for the home
+ * key, and a DNS mode that a static address mode holds, are only drawn. Nothing happens on icon and popup pages and on
+ * pages that a confirm page applies, but "network". */
 OSD_API int OSD_MENU_HandleSetParam(void);
 
 /* The enter key: opens the sub-page or confirm page of the selected item, answers a confirm page, presses a button,
- * applies a waiting value, or starts and ends the editing of an address. Holds its caller for one second after a restore
- * has been confirmed. Returns -1 when no item is selected, when no language can be had, and when the page to open can't
- * be read or would be the sixth; 0 while the menu is closed. */
+ * applies a waiting value, or starts and ends the editing of an address. "Yes" holds its caller for one second, unless it
+ * applies the whole page below. Returns -1 when no item is selected (with no line in the log), when no language can be had,
+ * and when the page to open can't be read or would be the sixth; 0 while the menu is closed. */
 OSD_API int OSD_MENU_HandleKeyHome(void);
 
 /* 1 when the top page is "network". */
@@ -221,9 +228,10 @@ OSD_API int OSD_MENU_RenderVerticalCanvasWithKETH(tagPAGE_NODE_S* pstPage);   /*
 OSD_API int OSD_MENU_RenderHorizontalCanvasWithKETH(tagPAGE_NODE_S* pstPage); /* "horizontal_align_keth" */
 
 /* Draw one item with its visible sub-items in the vertical, the Tolvane and the paged list.
- * pstLayoutCursor  y and h of the row above, y 0 for none; stands on this item's row afterwards
+ * pstLayoutCursor  y and h of the row above, y 0 for none; stands on the last row drawn afterwards
  * bSelected        the item holds the cursor
- * On failure nothing of the item is drawn and the cursor stays. Call under g_stMutex. */
+ * On failure the row has no text and the cursor stays; what goes before a text stays too: the arrow of a Tolvane row, the
+ * picture of a button, and a separator line, on which the cursor then stands. */
 OSD_API int OSD_MENU_RenderVerticalItem(tagITEM_NODE_S* pstItemNode, SDL_Rect* pstLayoutCursor, OSD_BOOL bSelected);
 OSD_API int OSD_MENU_RenderVerticalTolvaneItem(tagITEM_NODE_S* pstItemNode, SDL_Rect* pstLayoutCursor,
                                                OSD_BOOL bSelected);

@@ -54,8 +54,8 @@ extern OSD_API OSD_PROMPT_HANDLER_S gsOsdPromptItem;    /* the general prompt */
 extern OSD_API OSD_PROMPT_HANDLER_S gsZoomRatioOsdItem; /* the zoom ratio */
 extern OSD_API uint32_t bZoomRatioActive;               /* 1 while gsZoomRatioOsdItem is on the picture */
 
-/* Makes a canvas as large as the text, and shows it. The handler holds no surface: a live one is destroyed first. On
- * failure nothing that was made is left. */
+/* Makes a canvas as large as the text, and shows it. The caller destroys a live prompt first: what the handler
+ * holds is not looked at. On failure nothing that was made is left. */
 OSD_API int OSD_PROMPT_CreateEx(OSD_PROMPT_HANDLER_S* pstHandler, OSD_PROMPT_CFG_S stCfg, char* pcText);
 
 /* Puts another text in the middle of a live canvas, whose place and size stay; a longer text is clipped. Of stCfg only
@@ -73,7 +73,7 @@ OSD_API int OSD_PROMPT_Destroy(void);
 /* Shows (1) or hides (0) the live general prompt. Returns what the media service returns. */
 OSD_API int OSD_PROMPT_Show(OSD_BOOL bShow);
 
-/* Shows the general prompt for three seconds, which hold the caller. Returns 0. */
+/* Shows the general prompt, which must not be live, for three seconds, which hold the caller. Returns 0. */
 OSD_API int OSD_PROMPT_Update(OSD_PROMPT_CFG_S stCfg, char* pcText);
 
 /* Shows or updates the zoom ratio in the middle of the picture, with one decimal place. While the marker file

@@ -4,8 +4,6 @@
 #include <SDL_ttf.h>
 #include <unistd.h>
 
-#include <algorithm>
-#include <climits>
 #include <cstdio>
 
 #include "comm/arith.h"
@@ -15,9 +13,9 @@
 #include "platform/media_service.h"
 
 static constexpr SDL_Rect gs_stPromptBase = {0, 0, 3840, 2160};
-static constexpr uint32_t PROMPT_PIX_FMT = 1;  // ARGB4444
-static constexpr int gs_s32PromptAlign = 4;    // canvases start on and cover multiples of this
-static constexpr unsigned PROMPT_UPDATE_S = 3; // so long OSD_PROMPT_Update shows its text
+static constexpr uint32_t gs_u32PromptPixFmt = 1;  // ARGB4444
+static constexpr int gs_s32PromptAlign = 4;        // canvases start on and cover multiples of this
+static constexpr unsigned gs_u32PromptSeconds = 3; // so long OSD_PROMPT_Update shows its text
 
 OSD_PROMPT_HANDLER_S gsOsdPromptItem;
 
@@ -69,7 +67,7 @@ int OSD_PROMPT_CreateEx(OSD_PROMPT_HANDLER_S* pstHandler, OSD_PROMPT_CFG_S stCfg
 {
     pstHandler->stCfg = stCfg;
     pstHandler->stCanvas.stBaseRect = gs_stPromptBase;
-    pstHandler->stCanvas.enPixFmt = PROMPT_PIX_FMT;
+    pstHandler->stCanvas.enPixFmt = gs_u32PromptPixFmt;
     const OSD_SURFACE_PTR pstTxt = osdPromptText(stCfg, pcText);
     if (pstTxt == nullptr) {
         return -1;
@@ -108,8 +106,8 @@ int OSD_PROMPT_UpdateTextEx(OSD_PROMPT_HANDLER_S* pstHandler, OSD_PROMPT_CFG_S s
 
 int OSD_PROMPT_DestroyEx(OSD_PROMPT_HANDLER_S* pstHandler)
 {
-    (void)MPP_MENU_UpdateCanvasToAllChns(0, &pstHandler->stCanvas);               // the canvas goes, whatever
-    (void)OSD_COMM_DestroySurface(&pstHandler->stCanvas, pstHandler->pstSurface); // the two say
+    (void)MPP_MENU_UpdateCanvasToAllChns(0, &pstHandler->stCanvas);               // the canvas goes, shown or not
+    (void)OSD_COMM_DestroySurface(&pstHandler->stCanvas, pstHandler->pstSurface); // -1 when there was none
     return 0;
 }
 
@@ -133,6 +131,6 @@ int OSD_PROMPT_Update(OSD_PROMPT_CFG_S stCfg, char* pcText)
         return 0;
     }
     (void)OSD_PROMPT_Create(stCfg, pcText); // the caller counts on the three seconds, shown or not
-    (void)sleep(PROMPT_UPDATE_S);           // a signal may shorten them
+    (void)sleep(gs_u32PromptSeconds);       // a signal may shorten them
     return OSD_PROMPT_Destroy();
 }

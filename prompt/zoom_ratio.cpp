@@ -26,7 +26,7 @@ int OSD_PROMPT_ShowZoomRatio(float f32Ratio)
         return 0;
     }
     char acRatio[64] = {};
-    (void)snprintf(acRatio, sizeof(acRatio), "%.1fX", static_cast<double>(f32Ratio)); // a float has 41 digits at most
+    (void)snprintf(acRatio, sizeof(acRatio), "%.1fX", static_cast<double>(f32Ratio)); // 43 bytes at most
     if (bZoomRatioActive == 0) {
         char acWidest[] = "888.8X";
         const int s32Ret = OSD_PROMPT_CreateEx(&gsZoomRatioOsdItem, gs_stZoomCfg, acWidest);

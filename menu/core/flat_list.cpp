@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "menu/core/page.h"
+
 int32_t osdItemListCnt(const tagITEM_NODE_S* pstItem)
 {
     return osdItemHasOptionLists(pstItem) ? std::min<int32_t>(pstItem->s32ValCnt, OSD_OPTION_MAX) : 0;
@@ -85,8 +87,7 @@ static tagITEM_NODE_S* osdFlatOwner(list_head* pstList, const list_head* pstLink
 
 static tagITEM_NODE_S* osdFlatOwnerOnStack(const list_head* pstLink)
 {
-    const int32_t s32Pages = std::min<int32_t>(gstPageMgr.s32PageCnt, OSD_PAGE_MAX);
-    for (int32_t i = 0; i < s32Pages; i++) {
+    for (int32_t i = 0; i < osdPageCnt(&gstPageMgr); i++) {
         tagITEM_NODE_S* pstItem = osdFlatOwner(&gstPageMgr.astPage[i].stItemList, pstLink);
         if (pstItem != nullptr) {
             return pstItem;

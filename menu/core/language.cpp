@@ -4,9 +4,10 @@
 
 #include "comm/log.h"
 #include "menu/core/flat_list.h"
+#include "menu/core/page.h"
 #include "platform/config_call.h"
 
-// A text without translation keeps what the service made of it, as everywhere: the results are not read.
+// A text without translation keeps what the service made of it: the results are not read.
 static void osdLanguageOptions(const char* pcLanguage, tagITEM_NODE_S* pstItem)
 {
     const int32_t s32Cnt = std::min<int32_t>(pstItem->s32ValCnt, OSD_OPTION_MAX);
@@ -47,8 +48,7 @@ int osdMenuReparseParamByLang()
         OSD_TRACE_FAILED();
         return -1;
     }
-    const int32_t s32Pages = std::min<int32_t>(gstPageMgr.s32PageCnt, OSD_PAGE_MAX);
-    for (int32_t i = 0; i < s32Pages; i++) {
+    for (int32_t i = 0; i < osdPageCnt(&gstPageMgr); i++) {
         osdLanguagePage(acLanguage, &gstPageMgr.astPage[i]);
     }
     return 0;

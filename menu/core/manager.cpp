@@ -5,6 +5,7 @@
 #include <cstdio>
 
 #include "comm/arith.h"
+#include "comm/guard.h"
 #include "comm/log.h"
 #include "comm/surface.h"
 #include "menu/core/page.h"
@@ -74,9 +75,9 @@ int osdMenuCalcPopWithMsgRect(SDL_Rect* pstMenu, SDL_Rect* pstOut)
     return 0;
 }
 
-static void osdFontClose(TTF_Font** ppstFont)
+static void osdFontDrop(TTF_Font** ppstFont)
 {
-    TTF_CloseFont(*ppstFont);
+    osdFontClose(*ppstFont);
     *ppstFont = nullptr;
 }
 
@@ -88,13 +89,13 @@ int osdMenuCreatSurface(tagOSD_MENU_MGR_S* pstMgr)
     }
     pstMgr->pstSelectFont = OSD_COMM_OpenSelectTtfFont();
     if (pstMgr->pstSelectFont == nullptr) {
-        osdFontClose(&pstMgr->pstFont);
+        osdFontDrop(&pstMgr->pstFont);
         return -1;
     }
     pstMgr->pstSurface = OSD_COMM_CreateSurface(&pstMgr->stCanvas);
     if (pstMgr->pstSurface == nullptr) {
-        osdFontClose(&pstMgr->pstSelectFont);
-        osdFontClose(&pstMgr->pstFont);
+        osdFontDrop(&pstMgr->pstSelectFont);
+        osdFontDrop(&pstMgr->pstFont);
         return -1;
     }
     return 0;
@@ -109,8 +110,8 @@ static void osdManagerDrop()
     if (gstMenuMgr.pstSurface != nullptr) {
         (void)OSD_MENU_RenderCanvas(); // hides the overlay before its memory goes
         (void)OSD_COMM_DestroySurface(&gstMenuMgr.stCanvas, gstMenuMgr.pstSurface); // 0, as there is a surface
-        osdFontClose(&gstMenuMgr.pstSelectFont);
-        osdFontClose(&gstMenuMgr.pstFont);
+        osdFontDrop(&gstMenuMgr.pstSelectFont);
+        osdFontDrop(&gstMenuMgr.pstFont);
     }
 }
 

@@ -6,11 +6,13 @@
 
 tagPAGE_MGR_S gstPageMgr;
 
-tagPAGE_NODE_S* osdXmlGetCurPage()
+tagPAGE_NODE_S* osdPageTop(tagPAGE_MGR_S* pstMgr)
 {
-    const int32_t s32Cnt = gstPageMgr.s32PageCnt;
-    return s32Cnt >= 1 && s32Cnt <= OSD_PAGE_MAX ? &gstPageMgr.astPage[s32Cnt - 1] : nullptr;
+    const int32_t s32Cnt = osdPageCnt(pstMgr);
+    return s32Cnt >= 1 ? &pstMgr->astPage[s32Cnt - 1] : nullptr;
 }
+
+tagPAGE_NODE_S* osdXmlGetCurPage() { return osdPageTop(&gstPageMgr); }
 
 OSD_ITEM_PTR osdItemNew() { return OSD_ITEM_PTR(static_cast<tagITEM_NODE_S*>(calloc(1, sizeof(tagITEM_NODE_S)))); }
 
@@ -70,6 +72,6 @@ int osdMenuReleaseSinglePage()
     }
     osdPageDropItems(pstPage);
     *pstPage = {};
-    gstPageMgr.s32PageCnt--;
+    gstPageMgr.s32PageCnt = osdPageCnt(&gstPageMgr) - 1;
     return 0;
 }

@@ -1,6 +1,7 @@
 // The page stack and the life of items.
 #pragma once
 
+#include <algorithm>
 #include <memory>
 
 #include "osd_records.h"
@@ -16,6 +17,15 @@ OSD_API int osdMenuReleaseItem(tagITEM_NODE_S* pstItemNode);
 // with no page open.
 OSD_API int osdMenuReleaseSinglePage();
 }
+
+// How many records of a stack hold pages, whatever its count says.
+inline int32_t osdPageCnt(const tagPAGE_MGR_S* pstMgr)
+{
+    return std::clamp<int32_t>(pstMgr->s32PageCnt, 0, OSD_PAGE_MAX);
+}
+
+// The top page of a stack, or null with no page open.
+tagPAGE_NODE_S* osdPageTop(tagPAGE_MGR_S* pstMgr);
 
 struct OSD_ITEM_RELEASE {
     void operator()(tagITEM_NODE_S* pstItem) const

@@ -53,7 +53,7 @@ static void osdStatusFromDevice(const tagSTATUS_SOURCE_S& /*stSource*/, const ch
     osdTextSetField(pstItem->acValue[0], stAttr.acDeviceType);
 }
 
-static constexpr tagOSD_MENU_GET_EVENT_E NO_EVENT = OSD_MENU_GET_AF_VERSION; // where the source is another
+static constexpr tagOSD_MENU_GET_EVENT_E gs_enNoEvent = OSD_MENU_GET_AF_VERSION; // where the source is another
 
 static constexpr tagSTATUS_SOURCE_S gs_astStatusSource[] = {
     {"FwVersion", osdStatusFromHost, OSD_MENU_GET_FW_VERSION, nullptr},
@@ -61,14 +61,14 @@ static constexpr tagSTATUS_SOURCE_S gs_astStatusSource[] = {
     {"AfVersion", osdStatusFromHost, OSD_MENU_GET_AF_VERSION, nullptr},
     {"AiVersion", osdStatusFromHost, OSD_MENU_GET_AI_VERSION, nullptr},
     {"VideoFormat", osdStatusFromHost, OSD_MENU_GET_VIDEO_FORMAT, nullptr},
-    {OSD_KEY_IP_ADDR, osdStatusFromConfig, NO_EVENT, "NetCard0"},
-    {"NetMask", osdStatusFromConfig, NO_EVENT, "NetCard0"},
-    {"GateWay", osdStatusFromConfig, NO_EVENT, "NetCard0"},
-    {"Dns1", osdStatusFromConfig, NO_EVENT, "NetCard0"},
-    {"Dns2", osdStatusFromConfig, NO_EVENT, "NetCard0"},
-    {"IrisLevel", osdStatusFromConfig, NO_EVENT, "Panorama"},
+    {OSD_KEY_IP_ADDR, osdStatusFromConfig, gs_enNoEvent, "NetCard0"},
+    {"NetMask", osdStatusFromConfig, gs_enNoEvent, "NetCard0"},
+    {"GateWay", osdStatusFromConfig, gs_enNoEvent, "NetCard0"},
+    {"Dns1", osdStatusFromConfig, gs_enNoEvent, "NetCard0"},
+    {"Dns2", osdStatusFromConfig, gs_enNoEvent, "NetCard0"},
+    {"IrisLevel", osdStatusFromConfig, gs_enNoEvent, "Panorama"},
     {"DeviceName", osdStatusFromHost, OSD_MENU_GET_DEVICE_NAME, nullptr},
-    {"DeviceType", osdStatusFromDevice, NO_EVENT, nullptr},
+    {"DeviceType", osdStatusFromDevice, gs_enNoEvent, nullptr},
     {"SN", osdStatusFromHost, OSD_MENU_GET_SN, nullptr},
     {"Mac", osdStatusFromHost, OSD_MENU_GET_MAC, nullptr},
     {"NdiVersion", osdStatusFromHost, OSD_MENU_GET_NDI_VERSION, nullptr},

@@ -5,16 +5,17 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "comm/log.h"
+#include "comm/arith.h"
 #include "comm/text.h"
 #include "menu/core/flat_list.h"
 #include "menu/core/page.h"
+#include "menu/nav/stack.h"
 
-static constexpr int ADDRESS_GROUPS = 4;
-static constexpr size_t ADDRESS_SIZE = 31; // with the end, in a field of 32
+static constexpr int gs_s32AddressGroups = 4;
+static constexpr size_t gs_u32AddressSize = 31; // with the end, in a field of 32
 
 // Decimal numbers with dots between them; the reading ends where the text is something else.
-static void osdAddressRead(const char* pcData, int (&as32Group)[ADDRESS_GROUPS])
+static void osdAddressRead(const char* pcData, int (&as32Group)[gs_s32AddressGroups])
 {
     for (int& s32Group : as32Group) {
         char* pcEnd = nullptr;
@@ -32,10 +33,10 @@ static void osdAddressRead(const char* pcData, int (&as32Group)[ADDRESS_GROUPS])
 
 static void osdAddressRewrite(char* pcData, int s32Digits)
 {
-    int as32Group[ADDRESS_GROUPS] = {};
+    int as32Group[gs_s32AddressGroups] = {};
     osdAddressRead(pcData, as32Group);
     char acText[OSD_TEXT_LEN] = {};
-    (void)snprintf(acText, ADDRESS_SIZE, "%0*d.%0*d.%0*d.%0*d", s32Digits, as32Group[0], s32Digits, as32Group[1],
+    (void)snprintf(acText, gs_u32AddressSize, "%0*d.%0*d.%0*d.%0*d", s32Digits, as32Group[0], s32Digits, as32Group[1],
                    s32Digits, as32Group[2], s32Digits, as32Group[3]); // numbers beyond an address are cut
     memcpy(pcData, acText, strlen(acText) + 1);
 }
@@ -64,39 +65,26 @@ void osdAddressToggle(tagITEM_NODE_S* pstItem)
     }
 }
 
-// The selected item of the top page, or null with a line in the log.
-static tagITEM_NODE_S* osdAddressItem(tagPAGE_NODE_S* pstPage)
-{
-    tagITEM_NODE_S* pstItem = osdMenuGetSelectedItem(pstPage);
-    if (pstItem == nullptr) {
-        osdTrace("%s don't find selected item\n", __func__);
-    }
-    return pstItem;
-}
-
 OSD_BOOL osdMenuIsItemEditing()
 {
     tagPAGE_NODE_S* pstPage = osdXmlGetCurPage();
-    const tagITEM_NODE_S* pstItem = pstPage != nullptr ? osdAddressItem(pstPage) : nullptr;
+    const tagITEM_NODE_S* pstItem = pstPage != nullptr ? osdStackSelected(pstPage) : nullptr;
     return pstItem != nullptr && pstItem->bActive == 1 && pstItem->enAttr == EDITABLE && pstItem->bEditing == 1 ? 1 : 0;
 }
 
-// The edit cursor one place on, past a dot and from one end to the other. A page that gives no length, or one beyond
-// the text, gets the length of the text.
-static int32_t osdAddressStep(const char* pcText, const tagITEM_NODE_S* pstItem, int32_t s32Step)
+// The edit cursor one place on, past a dot and from one end to the other.
+static int32_t osdAddressStep(const char* pcText, const tagITEM_NODE_S* pstItem, tagOSD_MENU_KEY_E enKey)
 {
-    const auto s32TextLen = static_cast<int32_t>(strlen(pcText)); // 15 at least, as the text is expanded
-    const int32_t s32Declared = pstItem->s32NumOfChar;
-    const int32_t s32Len = s32Declared >= 1 && s32Declared <= s32TextLen ? s32Declared : s32TextLen;
-    const int32_t s32From = std::clamp<int32_t>(pstItem->s32EditCursor, 0, s32Len - 1);
-    int32_t s32To = s32From + s32Step;
-    if (s32To >= 0 && s32To < s32Len && pcText[s32To] == '.') {
-        s32To += s32Step;
+    const auto s32Last = static_cast<int32_t>(strlen(pcText)) - 1; // 14 at least, as the text is expanded
+    const int32_t s32LastDeclared = osdClampS32(int64_t{pstItem->s32NumOfChar} - 1);
+    const int32_t s32From = std::clamp<int32_t>(pstItem->s32EditCursor, 0, s32Last);
+    int32_t s32To = 0;
+    if (enKey == OSD_MENU_KEY_LEFT) {
+        s32To = s32From == 0 ? s32LastDeclared : s32From - (pcText[s32From - 1] == '.' ? 2 : 1);
+    } else if (s32From < s32LastDeclared) {
+        s32To = s32From + (pcText[s32From + 1] == '.' ? 2 : 1);
     }
-    if (s32To < 0) {
-        return s32Len - 1;
-    }
-    return s32To < s32Len ? s32To : 0;
+    return std::clamp<int32_t>(s32To, 0, s32Last); // a page may declare no length, or one beyond the text
 }
 
 // A digit turns within itself; nothing else does.
@@ -118,17 +106,15 @@ static void osdAddressTurnAt(char (&acText)[OSD_TEXT_LEN], int32_t s32Cursor, in
 int osdMenuEditableItemKeyEvent(tagOSD_MENU_KEY_E enKey)
 {
     tagPAGE_NODE_S* pstPage = osdXmlGetCurPage();
-    tagITEM_NODE_S* pstItem = pstPage != nullptr ? osdAddressItem(pstPage) : nullptr;
+    tagITEM_NODE_S* pstItem = pstPage != nullptr ? osdStackSelected(pstPage) : nullptr;
     if (pstItem == nullptr) {
         return -1;
     }
     (void)osdMenuExpandNetworkData(pstItem->acValue[1]); // always 0
     switch (enKey) {
     case OSD_MENU_KEY_LEFT:
-        pstItem->s32EditCursor = osdAddressStep(pstItem->acValue[1], pstItem, -1);
-        break;
     case OSD_MENU_KEY_RIGHT:
-        pstItem->s32EditCursor = osdAddressStep(pstItem->acValue[1], pstItem, 1);
+        pstItem->s32EditCursor = osdAddressStep(pstItem->acValue[1], pstItem, enKey);
         break;
     case OSD_MENU_KEY_UP:
         osdAddressTurnAt(pstItem->acValue[1], pstItem->s32EditCursor, 1);
@@ -142,9 +128,8 @@ int osdMenuEditableItemKeyEvent(tagOSD_MENU_KEY_E enKey)
 
 OSD_BOOL osdMenuExitEditableStatus(tagPAGE_MGR_S* pstMgr)
 {
-    const int32_t s32Cnt = pstMgr->s32PageCnt;
-    const bool bOpen = s32Cnt >= 1 && s32Cnt <= OSD_PAGE_MAX;
-    tagITEM_NODE_S* pstItem = bOpen ? osdMenuGetSelectedItem(&pstMgr->astPage[s32Cnt - 1]) : nullptr;
+    tagPAGE_NODE_S* pstPage = osdPageTop(pstMgr);
+    tagITEM_NODE_S* pstItem = pstPage != nullptr ? osdMenuGetSelectedItem(pstPage) : nullptr;
     if (pstItem == nullptr || pstItem->bEditing != 1) {
         return 0;
     }

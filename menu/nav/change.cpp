@@ -1,11 +1,12 @@
 #include "menu/nav/change.h"
 
-#include "comm/log.h"
 #include "comm/text.h"
 #include "menu/core/flat_list.h"
 #include "menu/core/language.h"
 #include "menu/core/value_bind.h"
 #include "menu/core/words.h"
+#include "menu/nav/cursor.h"
+#include "menu/nav/stack.h"
 #include "platform/config_call.h"
 
 OSD_BOOL osdMenuParamChange(tagITEM_NODE_S* pstItemNode)
@@ -37,22 +38,23 @@ void osdItemRollBack(tagITEM_NODE_S* pstItem)
     }
 }
 
-bool osdItemApply(const tagPAGE_MARK_S& stMark, tagITEM_NODE_S* pstItem)
+void osdItemApply(tagITEM_NODE_S* pstItem)
 {
     if (gstMenuMgr.pfnBusinessFunc != nullptr) {
         (void)gstMenuMgr.pfnBusinessFunc(pstItem); // a value that the host refuses stays until the host refreshes it
     }
+}
+
+bool osdItemSurvives(const tagPAGE_MARK_S& stMark, tagITEM_NODE_S* pstItem)
+{
+    osdItemApply(pstItem);
     return osdPageHolds(stMark);
 }
 
 int osdMenuUpdateParam(list_head* pstList, OSD_BOOL bUpdate)
 {
-    tagITEM_NODE_S* pstItem = osdFlatActive(pstList);
-    if (pstItem == nullptr) {
-        osdTrace("No active item found, weird\n");
-        return -1;
-    }
-    return osdMenuInvokeBusinessFuncIfNeed(pstItem, bUpdate);
+    tagITEM_NODE_S* pstItem = osdCursorActive(pstList);
+    return pstItem != nullptr ? osdMenuInvokeBusinessFuncIfNeed(pstItem, bUpdate) : -1;
 }
 
 // Whether the top page lets a change of this item through at once.
@@ -68,7 +70,7 @@ static void osdChangeCommit(const tagPAGE_NODE_S* pstPage, tagITEM_NODE_S* pstIt
 {
     osdItemCommit(pstItem);
     const bool bLanguage = osdTextEqual(pstItem->acItemIndex, OSD_KEY_LANGUAGE);
-    const bool bAlive = bUpdate == 0 || osdItemApply(osdPageMark(pstPage), pstItem);
+    const bool bAlive = bUpdate == 0 || osdItemSurvives(osdPageMark(pstPage), pstItem);
     if (bLanguage) {
         (void)osdMenuReparseParamByLang(); // without a language the old texts stay
     }
@@ -97,7 +99,7 @@ int osdMenuInvokeBusinessFunc(tagITEM_NODE_S* pstItemNode)
     const bool bDns = osdTextEqual(pstItemNode->acItemIndex, OSD_KEY_DNS_MODE);
     const bool bWaits = pstItemNode->enAttr == KEY_WITH_MSG || (pstItemNode->enAttr == MSG_WITH_SUBITEM && !bDns);
     if (!bWaits && osdXmlIsStaticOfNetMode(pstItemNode) == 0) {
-        (void)osdItemApply(osdPageMark(osdXmlGetCurPage()), pstItemNode); // the item isn't touched any more
+        osdItemApply(pstItemNode);
     }
     return 0;
 }
@@ -118,12 +120,8 @@ int OSD_MENU_HandleSetParam()
     if (pstPage == nullptr || !osdPageAppliesItems(pstPage)) {
         return 0;
     }
-    tagITEM_NODE_S* pstItem = osdMenuGetSelectedItem(pstPage);
-    if (pstItem == nullptr) {
-        osdTrace("%s don't find selected item\n", __func__);
-        return 0;
-    }
-    if (pstItem->bActive == 1) {
+    tagITEM_NODE_S* pstItem = osdStackSelected(pstPage);
+    if (pstItem != nullptr && pstItem->bActive == 1) {
         (void)osdMenuInvokeBusinessFunc(pstItem); // always 0
         (void)OSD_MENU_RenderCanvas();            // reports its own failures
     }

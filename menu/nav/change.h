@@ -14,9 +14,13 @@ inline bool osdItemWaits(const tagITEM_NODE_S* pstItem)
     return pstItem->enAttr == KEY_WITH_MSG || pstItem->enAttr == MSG_WITH_SUBITEM;
 }
 
-// Hands an item of the marked page to the host's function. Returns false when the host closed the page or built it anew
-// meanwhile: the item is gone then and must not be touched.
-bool osdItemApply(const tagPAGE_MARK_S& stMark, tagITEM_NODE_S* pstItem);
+// Hands an item to the host's function, which may close pages and build them anew: the item must not be touched behind
+// this call.
+void osdItemApply(tagITEM_NODE_S* pstItem);
+
+// The same for an item of the marked page; false when it is gone. A page that only lies above the item's counts as well,
+// as then nothing is lost but a refresh.
+bool osdItemSurvives(const tagPAGE_MARK_S& stMark, tagITEM_NODE_S* pstItem);
 
 extern "C" {
 // 1 when the item has a pending change.
@@ -36,6 +40,7 @@ OSD_API int osdMenuInvokeBusinessFunc(tagITEM_NODE_S* pstItemNode);
 // the change yet, computes it from the selected item. Returns 0.
 OSD_API int osdMenuUpdateStatusWithCustomColor(tagPAGE_NODE_S* pstPage, list_head* pstList, OSD_BOOL bUpdate);
 
-// 1 when the item is a DNS mode behind a committed static address mode.
+// 1 when the item is a DNS mode and right behind a committed static address mode in the most recent flattened list. Both
+// must be items of an open page.
 OSD_API OSD_BOOL osdXmlIsStaticOfNetMode(tagITEM_NODE_S* pstItemNode);
 }

@@ -10,7 +10,7 @@
 #include "menu/nav/stack.h"
 #include "platform/config_call.h"
 
-static constexpr unsigned CONFIRM_HOLD_S = 1; // so long the person sees what the button says
+static constexpr unsigned gs_u32ConfirmSeconds = 1; // so long the person sees what the button says
 
 // Parent items whose button says "Finish" while the host works.
 static constexpr const char* gs_apcFinishKey[] = {OSD_KEY_FACTORY_RESTORE, OSD_KEY_RESTART, OSD_KEY_LENS_CORRECTION};
@@ -26,21 +26,11 @@ static tagCONFIRM_PARENT_S osdConfirmParent(tagPAGE_NODE_S* pstPage)
     return {pstParent != nullptr ? osdMenuGetSelectedItem(pstParent) : nullptr, osdPageMark(pstParent)};
 }
 
-static bool osdConfirmFinishes(const tagITEM_NODE_S* pstItem)
-{
-    for (const char* pcKey : gs_apcFinishKey) {
-        if (osdTextEqual(pstItem->acItemIndex, pcKey)) {
-            return true;
-        }
-    }
-    return false;
-}
-
 // Hands the parent item on and holds the key for a second; the item gets the text that its button shows then.
 static void osdConfirmRun(const tagCONFIRM_PARENT_S& stParent, const char (&acText)[OSD_TEXT_LEN])
 {
-    const bool bAlive = stParent.pstItem != nullptr && osdItemApply(stParent.stMark, stParent.pstItem);
-    (void)sleep(CONFIRM_HOLD_S); // a signal may shorten it
+    const bool bAlive = stParent.pstItem != nullptr && osdItemSurvives(stParent.stMark, stParent.pstItem);
+    (void)sleep(gs_u32ConfirmSeconds); // a signal may shorten it
     if (bAlive) {
         osdButtonSet(stParent.pstItem, acText);
     }
@@ -56,7 +46,7 @@ static void osdConfirmDrop(const tagCONFIRM_PARENT_S& stParent, const char (&acT
 int OSD_MENU_FactoryRestoreHandleHomeKey(tagITEM_NODE_S* pstItemNode, tagPAGE_NODE_S* pstPage)
 {
     const tagCONFIRM_PARENT_S stParent = osdConfirmParent(pstPage);
-    if (stParent.pstItem == nullptr || !osdConfirmFinishes(stParent.pstItem)) {
+    if (stParent.pstItem == nullptr || !osdTextAmong(gs_apcFinishKey, stParent.pstItem->acItemIndex)) {
         return 1;
     }
     char acLanguage[OSD_TEXT_LEN];

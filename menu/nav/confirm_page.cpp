@@ -18,7 +18,7 @@ static void osdConfirmIndex(tagITEM_NODE_S* pstItem) { pstItem->s32SavedIdx = ps
 static bool osdConfirmApply(const tagPAGE_MARK_S& stMark, tagITEM_NODE_S* pstItem)
 {
     osdConfirmIndex(pstItem);
-    return osdItemApply(stMark, pstItem);
+    return osdItemSurvives(stMark, pstItem);
 }
 
 // The key of the committed option, or null.
@@ -38,10 +38,10 @@ static void osdConfirmStore(tagITEM_NODE_S* pstItem)
     }
 }
 
-// The sub-items that show; a list without a head where there are none.
+// The sub-items that show.
 static tagITEM_WALK_S osdConfirmSubItems(tagITEM_NODE_S* pstItem)
 {
-    static list_head stNone;
+    static list_head stNone; // an empty list
     list_head* pstList = osdMenuHasSubItem(pstItem) == 1 ? osdItemSubList(pstItem, pstItem->s32SavedIdx) : nullptr;
     return osdItems(pstList != nullptr ? pstList : &stNone);
 }
@@ -57,7 +57,7 @@ static bool osdNetworkExec(const tagPAGE_MARK_S& stMark, tagITEM_NODE_S* pstItem
 {
     for (tagITEM_NODE_S* pstSub : osdConfirmSubItems(pstItem)) {
         osdConfirmAddress(pstSub);
-        if (!osdItemApply(stMark, pstSub)) {
+        if (!osdItemSurvives(stMark, pstSub)) {
             return false;
         }
     }
@@ -114,32 +114,32 @@ static bool osdFormatVisit(const tagPAGE_MARK_S& stMark, tagITEM_NODE_S* pstItem
 
 // The item "Confirm" goes to the host under another key, which it keeps until the page is read again.
 template <size_t N>
-static bool osdConfirmLast(const tagPAGE_MARK_S& stMark, tagITEM_NODE_S* pstItem, const char (&acKey)[N])
+static bool osdConfirmLast(tagITEM_NODE_S* pstItem, const char (&acKey)[N])
 {
     osdTextPatch(pstItem->acItemIndex, acKey);
-    (void)osdItemApply(stMark, pstItem); // the walk ends here anyway
+    osdItemApply(pstItem);
     return false;
 }
 
 static bool osdRotateVisit(const tagPAGE_MARK_S& stMark, tagITEM_NODE_S* pstItem)
 {
     osdConfirmIndex(pstItem);
-    return osdIsConfirm(pstItem) ? osdConfirmLast(stMark, pstItem, OSD_KEY_RESTART) : osdItemApply(stMark, pstItem);
+    return osdIsConfirm(pstItem) ? osdConfirmLast(pstItem, OSD_KEY_RESTART) : osdItemSurvives(stMark, pstItem);
 }
 
-static bool osdPipVisit(const tagPAGE_MARK_S& stMark, tagITEM_NODE_S* pstItem)
+static bool osdPipVisit(const tagPAGE_MARK_S& /*stMark*/, tagITEM_NODE_S* pstItem)
 {
     osdConfirmStore(pstItem);
-    return osdIsConfirm(pstItem) ? osdConfirmLast(stMark, pstItem, OSD_KEY_PIP) : true;
+    return osdIsConfirm(pstItem) ? osdConfirmLast(pstItem, OSD_KEY_PIP) : true;
 }
 
-static bool osdVideoVisit(const tagPAGE_MARK_S& stMark, tagITEM_NODE_S* pstItem)
+static bool osdVideoVisit(const tagPAGE_MARK_S& /*stMark*/, tagITEM_NODE_S* pstItem)
 {
     osdConfirmStore(pstItem);
     for (tagITEM_NODE_S* pstSub : osdConfirmSubItems(pstItem)) {
         osdConfirmStore(pstSub);
     }
-    return osdIsConfirm(pstItem) ? osdConfirmLast(stMark, pstItem, OSD_KEY_HDMI_CFG) : true;
+    return osdIsConfirm(pstItem) ? osdConfirmLast(pstItem, OSD_KEY_HDMI_CFG) : true;
 }
 
 static void osdConfirmWalk(tagPAGE_NODE_S* pstParent, OSD_CONFIRM_VISIT pfnVisit)

@@ -102,7 +102,7 @@ int osdMenuUpdateVerticalItemCursor(list_head* pstList, tagOSD_MENU_KEY_E enKey)
     if (enKey == OSD_MENU_KEY_UP || enKey == OSD_MENU_KEY_DOWN) {
         osdCursorMove(pstItem, osdCursorNext(pstList, pstItem, enKey == OSD_MENU_KEY_DOWN));
         osdWaitingDrop(pstItem);
-    } else {
+    } else if (enKey == OSD_MENU_KEY_LEFT || enKey == OSD_MENU_KEY_RIGHT) {
         osdValueStep(pstItem, enKey);
         osdMessageUpdate(pstItem);
     }
@@ -142,8 +142,11 @@ void osdMessageUpdate(tagITEM_NODE_S* pstItem)
 void osdWaitingDrop(tagITEM_NODE_S* pstItem)
 {
     tagPAGE_NODE_S* pstPage = osdXmlGetCurPage();
-    if (pstPage != nullptr && osdItemWaits(pstItem) && osdMenuParamChange(pstItem) == 1) {
-        osdItemRollBack(pstItem);
+    if (!osdItemWaits(pstItem) || osdMenuParamChange(pstItem) != 1) {
+        return;
+    }
+    osdItemRollBack(pstItem);
+    if (pstPage != nullptr) {
         pstPage->bKeyMsg = 0;
     }
 }

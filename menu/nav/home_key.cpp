@@ -6,20 +6,15 @@
 #include "menu/nav/address.h"
 #include "menu/nav/change.h"
 #include "menu/nav/confirm.h"
+#include "menu/nav/keys.h"
 #include "menu/nav/stack.h"
 #include "platform/config_call.h"
 
 struct tagHOME_S {
-    tagITEM_NODE_S* pstItem; // the selected item
-    tagPAGE_NODE_S* pstPage; // of the top page
+    tagITEM_NODE_S* pstItem; // selected on the top page
+    tagPAGE_NODE_S* pstPage; // the top page
     const char (&acBusy)[OSD_TEXT_LEN];
 };
-
-static int osdHomeRender()
-{
-    (void)OSD_MENU_RenderCanvas(); // reports its own failures
-    return 0;
-}
 
 static int osdHomeSubPage(const tagHOME_S& stHome)
 {
@@ -27,7 +22,7 @@ static int osdHomeSubPage(const tagHOME_S& stHome)
         return -1;
     }
     osdTrace("%s %d, pstActiveItem->acSubPage = %s\n", OSD_PLACE, stHome.pstItem->acSubPage);
-    return osdStackPush(stHome.pstItem->acSubPage) == 0 ? osdHomeRender() : -1;
+    return osdStackPush(stHome.pstItem->acSubPage) == 0 ? osdKeyRender() : -1;
 }
 
 static int osdHomeConfirmPage(const tagHOME_S& stHome)
@@ -38,35 +33,24 @@ static int osdHomeConfirmPage(const tagHOME_S& stHome)
     if (stHome.pstItem->enAttr == CONFIRM_POP) {
         osdButtonSet(stHome.pstItem, stHome.acBusy);
     }
-    (void)osdHomeRender(); // the button is busy while the page is read
+    (void)osdKeyRender(); // the button is busy while the page is read
     osdTrace("%s %d, pstActiveItem->acConfirmPage = %s\n", OSD_PLACE, stHome.pstItem->acConfirmPage);
-    return osdStackPush(stHome.pstItem->acConfirmPage) == 0 ? osdHomeRender() : -1;
+    return osdStackPush(stHome.pstItem->acConfirmPage) == 0 ? osdKeyRender() : -1;
 }
 
-struct tagANSWER_S {
-    const char* pcParentPage;
-    int (*pfnAnswer)(tagITEM_NODE_S*, tagPAGE_NODE_S*);
-};
+// In this order; each answers 1 where the parent page or item is not its own.
+static constexpr int (*gs_apfnAnswer[])(tagITEM_NODE_S*, tagPAGE_NODE_S*) = {
+    OSD_MENU_FactoryRestoreHandleHomeKey, OSD_MENU_NetworkHandleHomeKey, OSD_MENU_FormatHandleHomeKey,
+    OSD_MENU_PipHandleHomeKey, OSD_MENU_VideoHandleHomeKey};
 
-static constexpr tagANSWER_S gs_astAnswer[] = {{OSD_PAGE_NETWORK, OSD_MENU_NetworkHandleHomeKey},
-                                               {OSD_PAGE_FORMAT, OSD_MENU_FormatHandleHomeKey},
-                                               {OSD_PAGE_PIP, OSD_MENU_PipHandleHomeKey},
-                                               {OSD_PAGE_VIDEO, OSD_MENU_VideoHandleHomeKey}};
-
-// The results of the handlers are dropped: the key has done its work.
 static int osdHomeAnswer(const tagHOME_S& stHome)
 {
-    if (OSD_MENU_FactoryRestoreHandleHomeKey(stHome.pstItem, stHome.pstPage) != 1) {
-        return 0;
-    }
-    const tagPAGE_NODE_S* pstParent = osdMenuGetPrevPage(stHome.pstPage);
-    for (const tagANSWER_S& stAnswer : gs_astAnswer) {
-        if (pstParent != nullptr && osdTextEqual(pstParent->acPageName, stAnswer.pcParentPage)) {
-            (void)stAnswer.pfnAnswer(stHome.pstItem, stHome.pstPage);
+    for (const auto pfnAnswer : gs_apfnAnswer) {
+        if (pfnAnswer(stHome.pstItem, stHome.pstPage) != 1) {
             return 0;
         }
     }
-    (void)OSD_MENU_IspHandleHomeKey(stHome.pstItem, stHome.pstPage);
+    (void)OSD_MENU_IspHandleHomeKey(stHome.pstItem, stHome.pstPage); // reports its own failure
     return 0;
 }
 
@@ -79,9 +63,8 @@ static int osdHomeRestart(const tagHOME_S& stHome)
 static int osdHomeButton(const tagHOME_S& stHome)
 {
     tagITEM_NODE_S* pstItem = stHome.pstItem;
-    const tagPAGE_MARK_S stMark = osdPageMark(stHome.pstPage);
     if (pstItem->enPicType == MAINTYPE || osdTextEqual(pstItem->acItemIndex, OSD_KEY_BACK)) {
-        (void)osdItemApply(stMark, pstItem); // nothing is touched behind it
+        osdItemApply(pstItem);
         return 0;
     }
     char acOwn[OSD_TEXT_LEN] = {};
@@ -90,11 +73,11 @@ static int osdHomeButton(const tagHOME_S& stHome)
         osdTextSetField(acOwn, *pacText);
     }
     osdButtonSet(pstItem, stHome.acBusy);
-    (void)osdHomeRender();
-    if (osdItemApply(stMark, pstItem)) {
+    (void)osdKeyRender();
+    if (osdItemSurvives(osdPageMark(stHome.pstPage), pstItem)) {
         osdButtonSet(pstItem, acOwn);
     }
-    return osdHomeRender();
+    return osdKeyRender();
 }
 
 static int osdHomeWaiting(const tagHOME_S& stHome)
@@ -104,17 +87,17 @@ static int osdHomeWaiting(const tagHOME_S& stHome)
     }
     osdItemCommit(stHome.pstItem);
     stHome.pstPage->bKeyMsg = 0;
-    (void)osdItemApply(osdPageMark(stHome.pstPage), stHome.pstItem); // nothing is touched behind it
-    return osdHomeRender();
+    osdItemApply(stHome.pstItem);
+    return osdKeyRender();
 }
 
 static int osdHomeAddress(const tagHOME_S& stHome)
 {
     osdAddressToggle(stHome.pstItem);
-    return osdHomeRender();
+    return osdKeyRender();
 }
 
-static int osdHomeNothing(const tagHOME_S& /*stHome*/) { return osdHomeRender(); }
+static int osdHomeNothing(const tagHOME_S& /*stHome*/) { return osdKeyRender(); }
 
 template <tagITEM_ATTR_E... aenAttr>
 static bool osdHomeIs(const tagHOME_S& stHome)

@@ -10,7 +10,7 @@
 #include "menu/nav/keys.h"
 #include "menu/nav/stack.h"
 
-static int osdKeyRender()
+int osdKeyRender()
 {
     (void)OSD_MENU_RenderCanvas();
     return 0;

@@ -42,22 +42,29 @@ int osdMenuNextPage(char* pcPageName)
 
 int osdMenuPrevPage() { return gstPageMgr.s32PageCnt < 1 ? -1 : osdMenuReleaseSinglePage(); }
 
-static tagPAGE_NODE_S* osdStackBelow(tagPAGE_MGR_S* pstMgr, const tagPAGE_NODE_S* pstPage)
+tagPAGE_NODE_S* osdMenuGetPrevPage(tagPAGE_NODE_S* pstPage)
 {
-    for (int32_t i = 1; i < pstMgr->s32PageCnt && i < OSD_PAGE_MAX; i++) {
-        if (pstPage == &pstMgr->astPage[i]) {
-            return &pstMgr->astPage[i - 1];
+    for (int32_t i = 1; i < osdPageCnt(&gstPageMgr); i++) {
+        if (pstPage == &gstPageMgr.astPage[i]) {
+            return &gstPageMgr.astPage[i - 1];
         }
     }
     return nullptr;
 }
 
-tagPAGE_NODE_S* osdMenuGetPrevPage(tagPAGE_NODE_S* pstPage) { return osdStackBelow(&gstPageMgr, pstPage); }
-
 tagITEM_NODE_S* osdStackParentItem(tagPAGE_MGR_S* pstMgr)
 {
-    const int32_t s32Cnt = pstMgr->s32PageCnt;
-    return s32Cnt >= 2 && s32Cnt <= OSD_PAGE_MAX ? osdMenuGetSelectedItem(&pstMgr->astPage[s32Cnt - 2]) : nullptr;
+    const int32_t s32Cnt = osdPageCnt(pstMgr);
+    return s32Cnt >= 2 ? osdMenuGetSelectedItem(&pstMgr->astPage[s32Cnt - 2]) : nullptr;
+}
+
+tagITEM_NODE_S* osdStackSelected(tagPAGE_NODE_S* pstPage)
+{
+    tagITEM_NODE_S* pstItem = osdMenuGetSelectedItem(pstPage);
+    if (pstItem == nullptr) {
+        osdTrace("%s don't find selected item\n", __func__);
+    }
+    return pstItem;
 }
 
 char (*osdButtonText(tagITEM_NODE_S* pstItem))[OSD_TEXT_LEN]
@@ -86,16 +93,6 @@ int OSD_MENU_FactoryRestoreHandleMenuKey(tagPAGE_MGR_S* pstMgr)
     return 0;
 }
 
-static bool osdStackRestoresText(const tagITEM_NODE_S* pstItem)
-{
-    for (const char* pcKey : gs_apcRestoredKey) {
-        if (osdTextEqual(pstItem->acItemIndex, pcKey)) {
-            return true;
-        }
-    }
-    return false;
-}
-
 int OSD_MENU_RestartHandleMenuKey(tagPAGE_MGR_S* pstMgr)
 {
     tagITEM_NODE_S* pstItem = osdStackParentItem(pstMgr);
@@ -104,7 +101,7 @@ int OSD_MENU_RestartHandleMenuKey(tagPAGE_MGR_S* pstMgr)
         OSD_TRACE_FAILED();
         return -1;
     }
-    if (pstItem != nullptr && osdStackRestoresText(pstItem)) {
+    if (pstItem != nullptr && osdTextAmong(gs_apcRestoredKey, pstItem->acItemIndex)) {
         char acConfirm[OSD_TEXT_LEN] = {};
         (void)osdCfgTranslate(acLanguage, OSD_WORD_CONFIRM, acConfirm); // without a translation the button is empty
         osdButtonSet(pstItem, acConfirm);

@@ -13,6 +13,9 @@ int osdStackPush(const char* pcPageName);
 // The selected item of the page below the top page, or null.
 tagITEM_NODE_S* osdStackParentItem(tagPAGE_MGR_S* pstMgr);
 
+// The selected item of a page, or null with a line in the log.
+tagITEM_NODE_S* osdStackSelected(tagPAGE_NODE_S* pstPage);
+
 // The text on a button; null where the item's option is none.
 char (*osdButtonText(tagITEM_NODE_S* pstItem))[OSD_TEXT_LEN];
 

@@ -14,6 +14,7 @@
 #include "comm/text.h"
 #include "menu/core/flat_list.h"
 #include "menu/core/words.h"
+#include "menu/render/row.h"
 #include "osd_comm.h"
 #include "osd_menu.h"
 #include "platform/config_call.h"
@@ -99,7 +100,7 @@ static tagICON_S osdIconPlace(const tagITEM_NODE_S* pstItem)
     tagICON_S stIcon = {};
     stIcon.stPicture = {stCell.x, stCell.y, stCell.w, osdTrunc(f32H * gs_f32PictureH)};
     SDL_Rect& stCaption = stIcon.stCaption;
-    (void)TTF_SizeUTF8(gstMenuMgr.pstFont, pstItem->acItemName, &stCaption.w, &stCaption.h); // 0 by 0 on failure
+    stCaption = osdRowMeasure(pstItem);
     stCaption.x = osdClampS32(stCell.x + (int64_t{stCell.w} - stCaption.w) / 2);
     const int s32Foot = osdClampS32(int64_t{stCell.y} + stIcon.stPicture.h);
     stCaption.y = osdTrunc(f32H * gs_f32CaptionGap + osdF32(s32Foot));
@@ -136,9 +137,5 @@ static int osdIconDraw(tagITEM_NODE_S* pstItem, const tagICON_S& stIcon, int s32
 int OSD_MENU_RenderIconText(tagITEM_NODE_S* pstItemNode, OSD_BOOL bSelected)
 {
     const int s32Size = osdIconSize();
-    if (TTF_SetFontSize(gstMenuMgr.pstFont, s32Size) != 0) {
-        osdTrace("%s %d\n", OSD_PLACE);
-        return -1;
-    }
-    return osdIconDraw(pstItemNode, osdIconPlace(pstItemNode), s32Size, bSelected);
+    return osdRowSetSize(s32Size) == 0 ? osdIconDraw(pstItemNode, osdIconPlace(pstItemNode), s32Size, bSelected) : -1;
 }

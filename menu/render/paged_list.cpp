@@ -9,7 +9,6 @@
 //     ------------------------------------------------         separator of an item with bLine
 //     |[picture] Button                               |
 //     |Message line                                   |  [turn] foot at 0.88 H; arrows in the corner
-#include <array>
 #include <cstdio>
 
 #include "comm/arith.h"
@@ -25,8 +24,11 @@
 #include "osd_menu.h"
 
 static constexpr tagROW_GEOM_S gs_stPagedGeom = {
-    /* f32Left */ 0.045f,   /* f32Indent */ 0.025f,    /* f32FirstGap */ 0.14f,  /* f32NextGap */ 0.01f,
-    /* f32MsgFoot */ 0.88f, /* f32ValueFrame */ 0.84f, /* s32EmptyAboveBtn */ 0,
+    /* f32Left */ 0.045f,     /* f32Indent */ 0.025f,
+    /* f32FirstGap */ 0.14f,  /* f32NextGap */ 0.01f,
+    /* f32MsgFoot */ 0.88f,   /* f32ValueFrame */ 0.84f,
+    /* f32CaretPart */ 2.0f,  /* s32DotCursor */ OSD_TEXT_LEN,
+    /* s32EmptyAboveBtn */ 0,
 };
 static constexpr float gs_f32PagedSize = 28.0f; // pixels on the base 1920 by 1080
 static constexpr float gs_f32RightShare = 0.8f; // of what a label placed right leaves of W
@@ -39,9 +41,6 @@ static constexpr float gs_f32TitleRuleH = 0.01f; // of H
 static constexpr double gs_f64LineX = 0.07;  // of W, in double precision, as the two below
 static constexpr double gs_f64LineY = 0.02;  // of H
 static constexpr double gs_f64LineH = 0.005; // of H
-
-static constexpr float gs_f32CaretGap = 0.01f;  // of H
-static constexpr float gs_f32CaretShare = 0.5f; // of the gap
 
 struct tagBUTTON_PIC_S {
     const char* pcKey;
@@ -64,15 +63,6 @@ static tagBUTTON_PIC_S osdPagedButton(const char* pcKey)
 }
 
 static int osdPagedSize() { return osdTrunc(gstMenuMgr.f32Scale * gs_f32PagedSize); }
-
-static int osdPagedSetSize(int s32Size)
-{
-    if (TTF_SetFontSize(gstMenuMgr.pstFont, s32Size) != 0) {
-        osdTrace("%s %d\n", OSD_PLACE);
-        return -1;
-    }
-    return 0;
-}
 
 static OSD_BOOL osdPagedBright(tagITEM_NODE_S* pstItem, OSD_BOOL bSelected)
 {
@@ -109,13 +99,12 @@ int OSD_MENU_RenderTxt(tagITEM_NODE_S* pstItemNode, SDL_Rect stRect, int s32Font
 int OSD_MENU_RenderTitleKETHItem(tagITEM_NODE_S* pstItemNode, SDL_Rect* pstLayoutCursor, OSD_BOOL /*bSelected*/)
 {
     const int s32Size = osdPagedSize();
-    if (osdPagedSetSize(s32Size) != 0) {
+    if (osdRowSetSize(s32Size) != 0) {
         return -1;
     }
     const float f32MenuW = osdF32(gstMenuMgr.stCanvas.stMenuRect.w);
     const float f32MenuH = osdF32(gstMenuMgr.stCanvas.stMenuRect.h);
-    SDL_Rect stTitle = {};
-    (void)TTF_SizeUTF8(gstMenuMgr.pstFont, pstItemNode->acItemName, &stTitle.w, &stTitle.h); // 0 by 0 on failure
+    SDL_Rect stTitle = osdRowMeasure(pstItemNode);
     stTitle.x = osdTrunc(f32MenuW * gs_f32TitleX);
     stTitle.y = osdTrunc(osdF32(pstLayoutCursor->y) + osdF32(pstLayoutCursor->h) + f32MenuH * gs_f32TitleY);
     SDL_Surface* pstTitle = nullptr;
@@ -151,7 +140,7 @@ int OSD_MENU_DrawItemName(tagITEM_NODE_S* pstItemNode, SDL_Rect* pstLayoutCursor
     if (pstItemNode->bLine != 0) {
         osdPagedSeparator(pstLayoutCursor);
     }
-    if (osdPagedSetSize(s32FontSize) != 0) {
+    if (osdRowSetSize(s32FontSize) != 0) {
         return -1;
     }
     const SDL_Rect& stMenu = gstMenuMgr.stCanvas.stMenuRect;
@@ -186,27 +175,6 @@ static OSD_SURFACE_PTR osdPagedValueSurface(const tagROW_S& stRow, tagROW_VALUE_
     return OSD_SURFACE_PTR(pstValue);
 }
 
-static void osdPagedCaret(SDL_Rect stCaret, const SDL_Rect& stColumn)
-{
-    const float f32Gap = osdF32(gstMenuMgr.stCanvas.stMenuRect.h) * gs_f32CaretGap;
-    stCaret.y = osdTrunc(osdF32(osdClampS32(int64_t{stColumn.y} + stColumn.h)) + f32Gap / 3.0f);
-    stCaret.h = osdTrunc(f32Gap * gs_f32CaretShare);
-    (void)OSD_COMM_DrawLine(gstMenuMgr.pstSurface, stCaret); // a row without caret is still a row
-}
-
-static void osdPagedValue(const tagROW_S& stRow)
-{
-    const SDL_Rect stColumn = osdRowColumn(gs_stPagedGeom, stRow.stLabel);
-    const tagROW_VALUE_S stValue = osdRowValue(stRow.pstItem);
-    const OSD_SURFACE_PTR pstValue = osdPagedValueSurface(stRow, stValue, stColumn);
-    if (stRow.pstItem->enCtx == NAME_IP_VAL && stRow.pstItem->bEditing == 1) {
-        osdPagedCaret(osdRowCaret(stRow.pstItem, stValue, stColumn), stColumn);
-    }
-    if (pstValue != nullptr) {
-        (void)OSD_MENU_FillData2Canvas(pstValue.get(), stColumn); // always 0
-    }
-}
-
 int OSD_MENU_RenderVerticalKETHItem(tagITEM_NODE_S* pstItemNode, SDL_Rect* pstLayoutCursor, OSD_BOOL bSelected)
 {
     tagROW_S stRow = {pstItemNode, gstMenuMgr.pstFont, osdPagedSize(), osdPagedBright(pstItemNode, bSelected), {}};
@@ -218,7 +186,7 @@ int OSD_MENU_RenderVerticalKETHItem(tagITEM_NODE_S* pstItemNode, SDL_Rect* pstLa
     }
     const OSD_SURFACE_PTR pstOwner(pstLabel);
     if (osdContextHasValue(pstItemNode->enCtx)) {
-        osdPagedValue(stRow);
+        osdRowDrawValue(gs_stPagedGeom, stRow, osdPagedValueSurface);
     }
     osdRowEnd(stRow.stLabel, pstLayoutCursor);
     osdRowSubItems(pstItemNode, pstLayoutCursor, OSD_MENU_RenderVerticalKETHItem);

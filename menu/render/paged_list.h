@@ -12,7 +12,7 @@ OSD_API int osdMenuDrawTurnArrow(tagPAGE_TURN_S* pstTurn);
 OSD_API int OSD_MENU_RenderTitleKETHItem(tagITEM_NODE_S* pstItemNode, SDL_Rect* pstLayoutCursor, OSD_BOOL bSelected);
 
 // Places and draws the label of a row, with its separator line and its arrow. Gives the place and the surface, which is
-// the caller's. Returns 0, or -1 without a surface.
+// the caller's. A separator takes pstLayoutCursor with it, on failure too. Returns 0, or -1 without a surface.
 OSD_API int OSD_MENU_DrawItemName(tagITEM_NODE_S* pstItemNode, SDL_Rect* pstLayoutCursor, int s32FontSize,
                                   OSD_BOOL bBright, SDL_Rect* pstNameRect, SDL_Surface** ppstSurface);
 

@@ -22,22 +22,16 @@ struct tagPOPUP_S {
     const SDL_Rect& stRect;
     float f32Size;                            // pixels on the base 1920 by 1080
     float f32LineGap;                         // of R.h, above a line of several items
-    tagITEM_LEVEL_E enMsgLevel;               // an item alone on its line and of this level is the message
+    bool bMsg;                                // has a message line
     TTF_Font* (*pfnFont)(OSD_BOOL bSelected); // that draws; the regular font measures
 };
 
-static constexpr tagITEM_LEVEL_E LEVEL_MSG = static_cast<tagITEM_LEVEL_E>(2); // no item of a page stands so deep
-static constexpr tagITEM_LEVEL_E LEVEL_NONE = static_cast<tagITEM_LEVEL_E>(-1);
-
-static TTF_Font* osdPopupSkinFont(OSD_BOOL bSelected)
-{
-    return enMenuStyle == 1 && bSelected != 0 ? gstMenuMgr.pstSelectFont : gstMenuMgr.pstFont;
-}
+static constexpr tagITEM_LEVEL_E gs_enMsgLevel = static_cast<tagITEM_LEVEL_E>(2); // no top-level item stands so deep
 
 static TTF_Font* osdPopupPlainFont(OSD_BOOL /*bSelected*/) { return gstMenuMgr.pstFont; }
 
-static const tagPOPUP_S gs_stPopup = {gstMenuMgr.stPopRect, 32.0f, 0.2f, LEVEL_NONE, osdPopupSkinFont};
-static const tagPOPUP_S gs_stMsgPopup = {gstMenuMgr.stPopMsgRect, 28.0f, 0.1f, LEVEL_MSG, osdPopupPlainFont};
+static const tagPOPUP_S gs_stPopup = {gstMenuMgr.stPopRect, 32.0f, 0.2f, false, osdRowSkinFont};
+static const tagPOPUP_S gs_stMsgPopup = {gstMenuMgr.stPopMsgRect, 28.0f, 0.1f, true, osdPopupPlainFont};
 
 static int osdPopupLeft(const tagPOPUP_S& stPopup, const tagITEM_NODE_S* pstItem, int s32TxtW)
 {
@@ -55,8 +49,9 @@ static int osdPopupTop(const tagPOPUP_S& stPopup, const tagITEM_NODE_S* pstItem,
     const float f32H = osdF32(stPopup.stRect.h);
     const float f32Foot = osdF32(osdClampS32(int64_t{stAbove.y} + stAbove.h));
     if (pstItem->s32ItemCnt == 1) {
-        return pstItem->enLevel == stPopup.enMsgLevel ? osdTrunc(f32H * gs_f32MsgGap + f32Foot)
-                                                      : osdTrunc(f32H * gs_f32AloneY + osdF32(stPopup.stRect.y));
+        const bool bMsg = stPopup.bMsg && pstItem->enLevel == gs_enMsgLevel;
+        return bMsg ? osdTrunc(f32H * gs_f32MsgGap + f32Foot)
+                    : osdTrunc(f32H * gs_f32AloneY + osdF32(stPopup.stRect.y));
     }
     return pstItem->s32ItemIndexOnLine == 0 ? osdTrunc(f32H * stPopup.f32LineGap + f32Foot) : stAbove.y;
 }
@@ -65,12 +60,10 @@ static int osdPopupItem(const tagPOPUP_S& stPopup, tagITEM_NODE_S* pstItem, SDL_
                         OSD_BOOL bSelected)
 {
     const int s32Size = osdTrunc(stPopup.f32Size * gstMenuMgr.f32Scale);
-    if (TTF_SetFontSize(gstMenuMgr.pstFont, s32Size) != 0) {
-        osdTrace("%s %d\n", OSD_PLACE);
+    if (osdRowSetSize(s32Size) != 0) {
         return -1;
     }
-    SDL_Rect stTxt = {};
-    (void)TTF_SizeUTF8(gstMenuMgr.pstFont, pstItem->acItemName, &stTxt.w, &stTxt.h); // 0 by 0 on failure
+    SDL_Rect stTxt = osdRowMeasure(pstItem);
     stTxt.x = osdPopupLeft(stPopup, pstItem, stTxt.w);
     stTxt.y = osdPopupTop(stPopup, pstItem, *pstLayoutCursor);
     SDL_Surface* pstTxt = nullptr;
@@ -132,7 +125,7 @@ int OSD_MENU_RenderHorizontalCanvasWithKETH(tagPAGE_NODE_S* pstPage)
     SDL_Rect stCursor = {};
     osdPopupTitle(gs_stMsgPopup, pstPage, &stCursor);
     if (pstPage->acPageMsg[0] != '\0') {
-        osdPopupText(gs_stMsgPopup, pstPage->acPageMsg, LEVEL_MSG, &stCursor);
+        osdPopupText(gs_stMsgPopup, pstPage->acPageMsg, gs_enMsgLevel, &stCursor);
     }
     osdPopupItems(gs_stMsgPopup, pstPage, &stCursor);
     return 0;

@@ -31,14 +31,33 @@ OSD_BOOL osdRowBright(tagITEM_NODE_S* pstItem, OSD_BOOL bSelected)
     return bSelected == 1 && osdMenuIsSubItemSelected(pstItem) == 0 ? 1 : 0;
 }
 
-int osdRowSetSize(int s32Size)
+TTF_Font* osdRowSkinFont(OSD_BOOL bSelected)
 {
-    (void)TTF_SetFontSize(gstMenuMgr.pstFont, s32Size); // the bold font's answer counts for both
-    if (TTF_SetFontSize(gstMenuMgr.pstSelectFont, s32Size) != 0) {
+    return enMenuStyle == 1 && bSelected != 0 ? gstMenuMgr.pstSelectFont : gstMenuMgr.pstFont;
+}
+
+static int osdRowSetFont(TTF_Font* pstFont, int s32Size)
+{
+    if (TTF_SetFontSize(pstFont, s32Size) != 0) {
         osdTrace("%s %d\n", OSD_PLACE);
         return -1;
     }
     return 0;
+}
+
+int osdRowSetSize(int s32Size) { return osdRowSetFont(gstMenuMgr.pstFont, s32Size); }
+
+int osdRowSetBothSizes(int s32Size)
+{
+    (void)TTF_SetFontSize(gstMenuMgr.pstFont, s32Size); // the bold font's answer counts for both
+    return osdRowSetFont(gstMenuMgr.pstSelectFont, s32Size);
+}
+
+SDL_Rect osdRowMeasure(const tagITEM_NODE_S* pstItem)
+{
+    SDL_Rect stSize = {};
+    (void)TTF_SizeUTF8(gstMenuMgr.pstFont, pstItem->acItemName, &stSize.w, &stSize.h); // 0 by 0 on failure
+    return stSize;
 }
 
 static int osdRowLeft(const tagROW_GEOM_S& stGeom, const tagITEM_NODE_S* pstItem, int s32TxtW)
@@ -69,26 +88,18 @@ static int osdRowTop(const tagROW_GEOM_S& stGeom, const tagITEM_NODE_S* pstItem,
 
 SDL_Rect osdRowLabel(const tagROW_GEOM_S& stGeom, const tagITEM_NODE_S* pstItem, const SDL_Rect& stAbove)
 {
-    SDL_Rect stLabel = {};
-    (void)TTF_SizeUTF8(gstMenuMgr.pstFont, pstItem->acItemName, &stLabel.w, &stLabel.h); // 0 by 0 on failure
+    SDL_Rect stLabel = osdRowMeasure(pstItem);
     stLabel.x = osdRowLeft(stGeom, pstItem, stLabel.w);
     stLabel.y = osdRowTop(stGeom, pstItem, stAbove, stLabel.h);
     return stLabel;
 }
 
-SDL_Rect osdRowColumn(const tagROW_GEOM_S& stGeom, const SDL_Rect& stLabel)
+// The value column on the row of the label.
+static SDL_Rect osdRowColumn(const tagROW_GEOM_S& stGeom, const SDL_Rect& stLabel)
 {
     const float f32MenuW = osdF32(gstMenuMgr.stCanvas.stMenuRect.w);
     const int s32W = osdTrunc(f32MenuW * stGeom.f32ValueFrame * gs_f32ValueShare);
     return {osdTrunc(f32MenuW * gs_f32ValueRight - osdF32(s32W)), stLabel.y, s32W, stLabel.h};
-}
-
-tagROW_VALUE_S osdRowValue(tagITEM_NODE_S* pstItem)
-{
-    tagROW_VALUE_S stValue = {};
-    stValue.s32Cnt = 1; // a text has no place on a bar: the block stands at the left end
-    (void)osdMenuGetItemValInfo(pstItem, stValue.acText, &stValue.s32Pos, &stValue.s32Cnt); // empty on failure
-    return stValue;
 }
 
 OSD_SURFACE_PTR osdRowValueSurface(const tagROW_S& stRow, tagROW_VALUE_S stValue, const SDL_Rect& stColumn)
@@ -103,33 +114,51 @@ OSD_SURFACE_PTR osdRowValueSurface(const tagROW_S& stRow, tagROW_VALUE_S stValue
     return OSD_SURFACE_PTR(pstValue);
 }
 
-int osdRowTextWidth(const char* pcText)
+static int osdRowTextWidth(const char* pcText)
 {
     int s32W = 0;
-    (void)TTF_SizeUTF8(gstMenuMgr.pstFont, pcText, &s32W, nullptr);
+    (void)TTF_SizeUTF8(gstMenuMgr.pstFont, pcText, &s32W, nullptr); // 0 on failure
     return s32W;
 }
 
-SDL_Rect osdRowCaret(const tagITEM_NODE_S* pstItem, const tagROW_VALUE_S& stValue, const SDL_Rect& stColumn)
+// Left edge and width of the caret, under the character that is being edited.
+static SDL_Rect osdRowCaret(const tagROW_GEOM_S& stGeom, int32_t s32Cursor, const tagROW_VALUE_S& stValue, int s32Left)
 {
-    const int32_t s32At = std::clamp<int32_t>(pstItem->s32EditCursor, 0, OSD_TEXT_LEN - 1);
+    const int32_t s32At = std::clamp<int32_t>(s32Cursor, 0, OSD_TEXT_LEN - 1);
     const char acDigit[2] = {stValue.acText[s32At], '\0'};
-    SDL_Rect stCaret = {stColumn.x, 0, osdRowTextWidth(acDigit), 0};
+    SDL_Rect stCaret = {s32Left, 0, osdRowTextWidth(acDigit), 0};
     if (s32At > 0) {
         char acBefore[OSD_TEXT_LEN];
         memcpy(acBefore, stValue.acText, sizeof(acBefore));
         acBefore[s32At] = '\0';
         stCaret.x += osdRowTextWidth(acBefore);
     }
+    stCaret.x += s32Cursor > stGeom.s32DotCursor ? osdRowTextWidth(".") : 0;
     return stCaret;
 }
 
-void osdRowCaretDraw(SDL_Rect stCaret, const SDL_Rect& stColumn, float f32NextGap)
+static void osdRowCaretDraw(const tagROW_GEOM_S& stGeom, SDL_Rect stCaret, const SDL_Rect& stColumn)
 {
-    const float f32Gap = osdF32(gstMenuMgr.stCanvas.stMenuRect.h) * f32NextGap / 3.0f;
-    stCaret.y = osdTrunc(osdF32(osdClampS32(int64_t{stColumn.y} + stColumn.h)) + f32Gap);
-    stCaret.h = osdTrunc(f32Gap);
+    const float f32Gap = osdF32(gstMenuMgr.stCanvas.stMenuRect.h) * stGeom.f32NextGap;
+    stCaret.y = osdTrunc(osdF32(osdClampS32(int64_t{stColumn.y} + stColumn.h)) + f32Gap / 3.0f);
+    stCaret.h = osdTrunc(f32Gap / stGeom.f32CaretPart);
     (void)OSD_COMM_DrawLine(gstMenuMgr.pstSurface, stCaret); // a row without caret is still a row
+}
+
+void osdRowDrawValue(const tagROW_GEOM_S& stGeom, const tagROW_S& stRow, OSD_VALUE_FUNC pfnSurface)
+{
+    tagITEM_NODE_S* pstItem = stRow.pstItem;
+    const SDL_Rect stColumn = osdRowColumn(stGeom, stRow.stLabel);
+    tagROW_VALUE_S stValue = {};
+    stValue.s32Cnt = 1; // a text has no place on a bar: the block stands at the left end
+    (void)osdMenuGetItemValInfo(pstItem, stValue.acText, &stValue.s32Pos, &stValue.s32Cnt); // empty on failure
+    const OSD_SURFACE_PTR pstValue = pfnSurface(stRow, stValue, stColumn);
+    if (pstItem->enCtx == NAME_IP_VAL && pstItem->bEditing == 1) {
+        osdRowCaretDraw(stGeom, osdRowCaret(stGeom, pstItem->s32EditCursor, stValue, stColumn.x), stColumn);
+    }
+    if (pstValue != nullptr) {
+        (void)OSD_MENU_FillData2Canvas(pstValue.get(), stColumn); // always 0
+    }
 }
 
 void osdRowEnd(const SDL_Rect& stLabel, SDL_Rect* pstLayoutCursor)

@@ -1,4 +1,4 @@
-// What the three lists share. Each list has its own fractions; what stands here is the same formula in all that use it.
+// What lists and popups share. Each has its own fractions; what stands here is the same formula in all that use it.
 #pragma once
 
 #include <SDL_ttf.h>
@@ -14,6 +14,8 @@ struct tagROW_GEOM_S {
     float f32NextGap;     // of H, above every other row
     float f32MsgFoot;     // of H, where the message line ends
     float f32ValueFrame;  // of W, the value column has half of it
+    float f32CaretPart;   // the caret of an edited address is this part of the gap between rows thick
+    int s32DotCursor;     // an edit cursor behind this place stands one dot further right
     int s32EmptyAboveBtn; // rows that a CONFIRM_POP_BTN item leaves empty above itself
 };
 
@@ -41,28 +43,28 @@ tagITEM_NODE_S osdRowOfText(const char (&acText)[OSD_TEXT_LEN], tagITEM_LEVEL_E 
 // Whether a selected item is bright: not while one of its sub-items holds the cursor.
 OSD_BOOL osdRowBright(tagITEM_NODE_S* pstItem, OSD_BOOL bSelected);
 
-// Sets both fonts of the menu to the size. Returns 0, or -1 when the bold font refuses.
+// The font of a text that the skin may set off: bold for a selected one in style 1.
+TTF_Font* osdRowSkinFont(OSD_BOOL bSelected);
+
+// Sets the regular font to the size, or both fonts of the menu. Returns 0, or -1 with a line in the log; for both the
+// bold one's answer counts.
 int osdRowSetSize(int s32Size);
+int osdRowSetBothSizes(int s32Size);
+
+// The size of the item's label in the regular font, at 0, 0; empty where it can't be measured.
+SDL_Rect osdRowMeasure(const tagITEM_NODE_S* pstItem);
 
 // Places the label under the row above; the font stands at the row's size.
 SDL_Rect osdRowLabel(const tagROW_GEOM_S& stGeom, const tagITEM_NODE_S* pstItem, const SDL_Rect& stAbove);
 
-// The value column on the row of the label.
-SDL_Rect osdRowColumn(const tagROW_GEOM_S& stGeom, const SDL_Rect& stLabel);
+// Makes the surface of a value for its column; null when it is empty.
+using OSD_VALUE_FUNC = OSD_SURFACE_PTR (*)(const tagROW_S& stRow, tagROW_VALUE_S stValue, const SDL_Rect& stColumn);
 
-tagROW_VALUE_S osdRowValue(tagITEM_NODE_S* pstItem);
-
-// The value as a bar or a text; null when it is empty.
+// The value as a bar or a text.
 OSD_SURFACE_PTR osdRowValueSurface(const tagROW_S& stRow, tagROW_VALUE_S stValue, const SDL_Rect& stColumn);
 
-// Left edge and width of the bar under the character that is being edited; y and h are the list's.
-SDL_Rect osdRowCaret(const tagITEM_NODE_S* pstItem, const tagROW_VALUE_S& stValue, const SDL_Rect& stColumn);
-
-// The caret of the two older lists: a third of the gap between rows, as far below the row.
-void osdRowCaretDraw(SDL_Rect stCaret, const SDL_Rect& stColumn, float f32NextGap);
-
-// The width of a text in the regular font; 0 where it can't be measured.
-int osdRowTextWidth(const char* pcText);
+// Draws the value column of the row, with the caret of an edited address.
+void osdRowDrawValue(const tagROW_GEOM_S& stGeom, const tagROW_S& stRow, OSD_VALUE_FUNC pfnSurface);
 
 // Moves the cursor of the draw to the row.
 void osdRowEnd(const SDL_Rect& stLabel, SDL_Rect* pstLayoutCursor);

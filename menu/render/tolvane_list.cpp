@@ -14,6 +14,7 @@
 
 #include "comm/arith.h"
 #include "comm/arrow.h"
+#include "comm/color.h"
 #include "comm/image.h"
 #include "comm/log.h"
 #include "comm/text.h"
@@ -27,8 +28,11 @@
 #include "platform/config_call.h"
 
 static constexpr tagROW_GEOM_S gs_stTolvaneGeom = {
-    /* f32Left */ 0.05f,    /* f32Indent */ 0.01f,    /* f32FirstGap */ 0.01f,  /* f32NextGap */ 0.02f,
-    /* f32MsgFoot */ 0.88f, /* f32ValueFrame */ 0.7f, /* s32EmptyAboveBtn */ 1,
+    /* f32Left */ 0.05f,      /* f32Indent */ 0.01f,
+    /* f32FirstGap */ 0.01f,  /* f32NextGap */ 0.02f,
+    /* f32MsgFoot */ 0.88f,   /* f32ValueFrame */ 0.7f,
+    /* f32CaretPart */ 3.0f,  /* s32DotCursor */ OSD_TEXT_LEN,
+    /* s32EmptyAboveBtn */ 1,
 };
 static constexpr float gs_f32TextSize = 0.03f; // of H
 
@@ -82,7 +86,7 @@ static int osdTolvaneMeasure(tagITEM_NODE_S* pstItem, const SDL_Rect& stAbove, O
     pstRow->pstItem = pstItem;
     pstRow->bBright = osdRowBright(pstItem, bSelected);
     pstRow->s32Size = osdTrunc(osdF32(s32Base) * gstMenuMgr.f32Scale);
-    if (osdRowSetSize(pstRow->s32Size) != 0) {
+    if (osdRowSetBothSizes(pstRow->s32Size) != 0) {
         return -1;
     }
     pstRow->stLabel = osdRowLabel(gs_stTolvaneGeom, pstItem, stAbove);
@@ -112,19 +116,6 @@ static OSD_SURFACE_PTR osdTolvaneLabel(const tagROW_S& stRow)
     return OSD_SURFACE_PTR(pstLabel);
 }
 
-static void osdTolvaneValue(const tagROW_S& stRow)
-{
-    const SDL_Rect stColumn = osdRowColumn(gs_stTolvaneGeom, stRow.stLabel);
-    const tagROW_VALUE_S stValue = osdRowValue(stRow.pstItem);
-    const OSD_SURFACE_PTR pstValue = osdRowValueSurface(stRow, stValue, stColumn);
-    if (stRow.pstItem->enCtx == NAME_IP_VAL && stRow.pstItem->bEditing == 1) {
-        osdRowCaretDraw(osdRowCaret(stRow.pstItem, stValue, stColumn), stColumn, gs_stTolvaneGeom.f32NextGap);
-    }
-    if (pstValue != nullptr) {
-        (void)OSD_MENU_FillData2Canvas(pstValue.get(), stColumn); // always 0
-    }
-}
-
 static int osdTolvaneDrawRow(const tagROW_S& stRow, OSD_BOOL bSelected)
 {
     tagITEM_NODE_S* pstItem = stRow.pstItem;
@@ -138,7 +129,7 @@ static int osdTolvaneDrawRow(const tagROW_S& stRow, OSD_BOOL bSelected)
     }
     (void)OSD_MENU_FillData2Canvas(pstLabel.get(), stRow.stLabel); // always 0
     if (osdContextHasValue(pstItem->enCtx)) {
-        osdTolvaneValue(stRow);
+        osdRowDrawValue(gs_stTolvaneGeom, stRow, osdRowValueSurface);
     }
     return 0;
 }
@@ -175,7 +166,8 @@ static void osdTolvaneRule()
         osdRectInRange({osdTrunc(osdF32(stMenu.w) * gs_f32RuleX + osdF32(stMenu.x)),
                         osdTrunc(osdF32(stMenu.h) * gs_f32RuleY + osdF32(stMenu.y)),
                         osdTrunc(osdF32(stMenu.w) * gs_f32RuleW), osdTrunc(osdF32(stMenu.h) * gs_f32RuleH)});
-    const Uint32 u32Amber = SDL_MapRGBA(gstMenuMgr.pstSurface->format, 255, 205, 37, 255);
+    const Uint32 u32Amber = SDL_MapRGBA(gstMenuMgr.pstSurface->format, OSD_COLOR_AMBER.r, OSD_COLOR_AMBER.g,
+                                        OSD_COLOR_AMBER.b, OSD_COLOR_AMBER.a);
     (void)SDL_FillRect(gstMenuMgr.pstSurface, &stRule, u32Amber); // a page without rule is still a page
 }
 

@@ -17,17 +17,12 @@
 #include "osd_menu.h"
 
 static constexpr tagROW_GEOM_S gs_stVerticalGeom = {
-    /* f32Left */ 0.01f,    /* f32Indent */ 0.01f,     /* f32FirstGap */ 0.01f,  /* f32NextGap */ 0.02f,
-    /* f32MsgFoot */ 0.95f, /* f32ValueFrame */ 0.89f, /* s32EmptyAboveBtn */ 1,
+    /* f32Left */ 0.01f,      /* f32Indent */ 0.01f,     /* f32FirstGap */ 0.01f, /* f32NextGap */ 0.02f,
+    /* f32MsgFoot */ 0.95f,   /* f32ValueFrame */ 0.89f, /* f32CaretPart */ 3.0f, /* s32DotCursor */ 5,
+    /* s32EmptyAboveBtn */ 1,
 };
-static constexpr int gs_s32PlainSize = 25;    // pixels on the base 1920 by 1080, styles other than 0
-static constexpr int gs_s32LevelSize = 4;     // style 0: this times (8 - level)
-static constexpr int32_t gs_s32DotCursor = 5; // an edit cursor behind this place stands one dot further right
-
-static TTF_Font* osdVerticalFont(OSD_BOOL bSelected)
-{
-    return enMenuStyle == 1 && bSelected != 0 ? gstMenuMgr.pstSelectFont : gstMenuMgr.pstFont;
-}
+static constexpr int gs_s32PlainSize = 25; // pixels on the base 1920 by 1080, styles other than 0
+static constexpr int gs_s32LevelSize = 4;  // style 0: this times (8 - level)
 
 static int osdVerticalSize(tagITEM_LEVEL_E enLevel)
 {
@@ -39,34 +34,13 @@ static int osdVerticalMeasure(tagITEM_NODE_S* pstItem, const SDL_Rect& stAbove, 
 {
     pstRow->pstItem = pstItem;
     pstRow->bBright = osdRowBright(pstItem, bSelected);
-    pstRow->pstFont = osdVerticalFont(bSelected);
+    pstRow->pstFont = osdRowSkinFont(bSelected);
     pstRow->s32Size = osdVerticalSize(pstItem->enLevel);
-    if (osdRowSetSize(pstRow->s32Size) != 0) {
+    if (osdRowSetBothSizes(pstRow->s32Size) != 0) {
         return -1;
     }
     pstRow->stLabel = osdRowLabel(gs_stVerticalGeom, pstItem, stAbove);
     return 0;
-}
-
-static void osdVerticalCaret(const tagITEM_NODE_S* pstItem, const tagROW_VALUE_S& stValue, const SDL_Rect& stColumn)
-{
-    SDL_Rect stCaret = osdRowCaret(pstItem, stValue, stColumn);
-    const int s32DotW = osdRowTextWidth(".");
-    stCaret.x += pstItem->s32EditCursor > gs_s32DotCursor ? s32DotW : 0;
-    osdRowCaretDraw(stCaret, stColumn, gs_stVerticalGeom.f32NextGap);
-}
-
-static void osdVerticalValue(const tagROW_S& stRow)
-{
-    const SDL_Rect stColumn = osdRowColumn(gs_stVerticalGeom, stRow.stLabel);
-    const tagROW_VALUE_S stValue = osdRowValue(stRow.pstItem);
-    const OSD_SURFACE_PTR pstValue = osdRowValueSurface(stRow, stValue, stColumn);
-    if (stRow.pstItem->enCtx == NAME_IP_VAL && stRow.pstItem->bEditing == 1) {
-        osdVerticalCaret(stRow.pstItem, stValue, stColumn);
-    }
-    if (pstValue != nullptr) {
-        (void)OSD_MENU_FillData2Canvas(pstValue.get(), stColumn); // always 0
-    }
 }
 
 static int osdVerticalDrawRow(const tagROW_S& stRow)
@@ -81,7 +55,7 @@ static int osdVerticalDrawRow(const tagROW_S& stRow)
     const OSD_SURFACE_PTR pstOwner(pstLabel);
     (void)OSD_MENU_FillData2Canvas(pstLabel, stRow.stLabel); // always 0
     if (osdContextHasValue(pstItem->enCtx)) {
-        osdVerticalValue(stRow);
+        osdRowDrawValue(gs_stVerticalGeom, stRow, osdRowValueSurface);
     }
     return 0;
 }
