@@ -2,6 +2,9 @@
 
 #include <SDL2_rotozoom.h>
 #include <SDL_image.h>
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include "platform/media_service.h"
@@ -9,119 +12,126 @@
 namespace bench {
 namespace {
 
-constexpr SDL_Color white = {255, 255, 255, 255};
-constexpr SDL_Color grey = {191, 191, 191, 255};
+constexpr Uint8 dim_alpha = 191;
+constexpr Uint32 white_pixel = 0xFFFFFFFF;
+constexpr int first_font_size = 32; // of a font that is just open, until it is sized
 
-int part(int length, float fraction) { return static_cast<int>(static_cast<float>(length) * fraction); }
-
-SDL_Surface* make_text(TTF_Font* font, const std::string& text, int size, SDL_Color color)
+void put(SDL_Surface* from, SDL_Surface* onto, SDL_Rect place)
 {
-    TTF_SetFontSize(font, size);
-    return TTF_RenderUTF8_Blended(font, text.c_str(), color);
+    SDL_UpperBlit(from, nullptr, onto, &place);
+    SDL_FreeSurface(from);
 }
 
-void put(SDL_Surface* from, SDL_Surface* onto, SDL_Rect place) { SDL_UpperBlit(from, nullptr, onto, &place); }
-
-SDL_Surface* make_picture(const std::string& path, int width, int height)
+int unmap_font(SDL_RWops* file)
 {
-    if (access(path.c_str(), F_OK) != 0) {
-        return nullptr;
+    munmap(file->hidden.mem.base, static_cast<size_t>(file->hidden.mem.stop - file->hidden.mem.base));
+    SDL_FreeRW(file);
+    return 0;
+}
+
+TTF_Font* open_font(const std::string& path)
+{
+    struct stat about = {};
+    const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    fstat(file, &about);
+    const auto size = static_cast<size_t>(about.st_size);
+    void* bytes = mmap(nullptr, size, PROT_READ, MAP_PRIVATE, file, 0);
+    close(file);
+    SDL_RWops* mapped = SDL_RWFromConstMem(bytes, static_cast<int>(size));
+    mapped->close = unmap_font;
+    return TTF_OpenFontRW(mapped, 1, first_font_size);
+}
+
+void draw(const Step& step, SDL_Surface* onto);
+
+void draw(const SizeFont& step, SDL_Surface* /*onto*/) { TTF_SetFontSize(step.font, step.size); }
+
+void draw(const Measure& step, SDL_Surface* /*onto*/)
+{
+    int width = 0;
+    int height = 0;
+    TTF_SizeUTF8(step.font, step.text.c_str(), &width, &height);
+}
+
+void draw(const Text& step, SDL_Surface* onto)
+{
+    TTF_SetFontSize(step.font, step.size);
+    put(TTF_RenderUTF8_Blended(step.font, step.text.c_str(), step.color), onto, step.place);
+}
+
+void draw(const LoneText& step, SDL_Surface* onto)
+{
+    TTF_Font* font = open_font(step.font_path);
+    TTF_SetFontSize(font, step.size);
+    SDL_Surface* text = TTF_RenderUTF8_Blended(font, step.text.c_str(), step.color);
+    TTF_CloseFont(font);
+    put(text, onto, step.place);
+}
+
+void draw(const Picture& step, SDL_Surface* onto)
+{
+    if (access(step.path.c_str(), F_OK) != 0) {
+        return;
     }
-    SDL_Surface* raw = IMG_Load(path.c_str());
-    SDL_Surface* scaled = rotozoomSurfaceXY(raw, 0.0, static_cast<double>(width) / raw->w,
-                                            static_cast<double>(height) / raw->h, SMOOTHING_ON);
+    SDL_Surface* raw = IMG_Load(step.path.c_str());
+    SDL_Surface* scaled = rotozoomSurfaceXY(raw, 0.0, static_cast<double>(step.place.w) / raw->w,
+                                            static_cast<double>(step.place.h) / raw->h, SMOOTHING_ON);
     SDL_Surface* picture = SDL_ConvertSurfaceFormat(scaled, SDL_PIXELFORMAT_ARGB4444, 0);
     SDL_FreeSurface(raw);
     SDL_FreeSurface(scaled);
-    return picture;
+    if (step.is_dim) {
+        SDL_SetSurfaceAlphaMod(picture, dim_alpha);
+    }
+    put(picture, onto, step.place);
+}
+
+void draw(const Fill& step, SDL_Surface* onto)
+{
+    Uint32 pixel = white_pixel;
+    if (step.color) {
+        pixel = SDL_MapRGBA(onto->format, step.color->r, step.color->g, step.color->b, step.color->a);
+    }
+    for (const SDL_Rect& place : step.places) {
+        SDL_FillRect(onto, &place, pixel);
+    }
+}
+
+void draw(const Widget& step, SDL_Surface* onto)
+{
+    SDL_Surface* widget = SDL_CreateRGBSurfaceWithFormat(0, step.place.w, step.place.h, 16, SDL_PIXELFORMAT_ARGB4444);
+    for (const Step& part : step.parts) {
+        draw(part, widget);
+    }
+    if (step.is_dim) {
+        SDL_SetSurfaceAlphaMod(widget, dim_alpha);
+    }
+    put(widget, onto, step.place);
+}
+
+void draw(const FileTest& step, SDL_Surface* /*onto*/)
+{
+    (void)access(step.path.c_str(), F_OK); // the cost counts, not the answer
+}
+
+void draw(const Step& step, SDL_Surface* onto)
+{
+    std::visit([onto](const auto& what) { draw(what, onto); }, step.what);
 }
 
 } // namespace
 
-BareRedraw::BareRedraw(const std::vector<Row>& rows)
-    : bar_path_(OSD_RESOURCE_DIR "/pic/bar.bmp"), block_path_(OSD_RESOURCE_DIR "/pic/block.bmp")
+void draw_bare(const Plan& plan)
 {
-    plan_line({title, NAME, ""}, 32, 0, false);
-    for (const Row& row : rows) {
-        plan_line(row, 28, 1, lines_.size() == 1); // the first row is the selected one
+    if (plan.lock != nullptr) {
+        pthread_mutex_lock(plan.lock);
     }
-}
-
-void BareRedraw::plan_line(const Row& row, int base_size, int level, bool is_bright)
-{
-    const SDL_Rect& menu = gstMenuMgr.stCanvas.stMenuRect;
-    const auto height = static_cast<float>(menu.h);
-    Line line = {row, part(base_size, gstMenuMgr.f32Scale), is_bright ? white : grey, {}, {}};
-    TTF_SetFontSize(gstMenuMgr.pstFont, line.size);
-    TTF_SizeUTF8(gstMenuMgr.pstFont, row.label.c_str(), &line.label.w, &line.label.h);
-    line.label.x = part(menu.w, static_cast<float>(level) * 0.01f + 0.01f);
-    if (lines_.empty()) {
-        line.label.y = part(menu.h, 0.01f);
-    } else {
-        const SDL_Rect& above = lines_.back().label;
-        line.label.y = static_cast<int>(static_cast<float>(above.y + above.h) + height * 0.02f);
+    for (const Step& step : plan.steps) {
+        draw(step, plan.surface);
     }
-    const int column = static_cast<int>(static_cast<float>(menu.w) * 0.89f * 0.5f);
-    const int left = static_cast<int>(static_cast<float>(menu.w) * 0.95f - static_cast<float>(column));
-    line.value = {left, line.label.y, column, line.label.h};
-    lines_.push_back(line);
-}
-
-void BareRedraw::draw() const
-{
-    SDL_Surface* canvas = gstMenuMgr.pstSurface;
-    pthread_mutex_lock(&g_stMutex);
-    const Uint32 background = SDL_MapRGBA(canvas->format, 10, 10, 10, 128);
-    SDL_FillRect(canvas, &gstMenuMgr.stCanvas.stMenuRect, background);
-    for (const Line& line : lines_) {
-        draw_line(line);
+    MPP_MENU_UpdateCanvasToAllChns(1, plan.canvas);
+    if (plan.lock != nullptr) {
+        pthread_mutex_unlock(plan.lock);
     }
-    MPP_MENU_UpdateCanvasToAllChns(1, &gstMenuMgr.stCanvas);
-    pthread_mutex_unlock(&g_stMutex);
-}
-
-void BareRedraw::draw_line(const Line& line) const
-{
-    int width = 0;
-    int height = 0;
-    TTF_SetFontSize(gstMenuMgr.pstFont, line.size);
-    TTF_SetFontSize(gstMenuMgr.pstSelectFont, line.size);
-    TTF_SizeUTF8(gstMenuMgr.pstFont, line.row.label.c_str(), &width, &height);
-    TTF_Font* font = line.row.context == NAME ? gstMenuMgr.pstSelectFont : gstMenuMgr.pstFont;
-    SDL_Surface* label = make_text(font, line.row.label, line.size, line.color);
-    put(label, gstMenuMgr.pstSurface, line.label);
-    if (line.row.context != NAME) {
-        draw_value(line);
-    }
-    SDL_FreeSurface(label);
-}
-
-void BareRedraw::draw_value(const Line& line) const
-{
-    SDL_Surface* value = line.row.context == NAME_BAR_VAL
-                             ? make_bar(line)
-                             : make_text(gstMenuMgr.pstFont, line.row.value, line.size, line.color);
-    put(value, gstMenuMgr.pstSurface, line.value);
-    SDL_FreeSurface(value);
-}
-
-SDL_Surface* BareRedraw::make_bar(const Line& line) const
-{
-    const int width = line.value.w;
-    const int height = line.value.h;
-    const int bar_width = part(width, 0.7f);
-    const int block_width = bar_width / 20;
-    SDL_Surface* widget = SDL_CreateRGBSurfaceWithFormat(0, width, height, 16, SDL_PIXELFORMAT_ARGB4444);
-    SDL_Surface* bar = make_picture(bar_path_, bar_width, height / 2);
-    put(bar, widget, {0, height / 4, bar_width, height / 2});
-    SDL_Surface* block = make_picture(block_path_, block_width, height);
-    put(block, widget, {(bar_width - block_width) * bar_position / (bar_steps - 1), 0, block_width, height});
-    SDL_Surface* text = make_text(gstMenuMgr.pstFont, line.row.value, line.size, line.color);
-    put(text, widget, {part(width, 0.75f), 0, 0, 0});
-    SDL_FreeSurface(text);
-    SDL_FreeSurface(block);
-    SDL_FreeSurface(bar);
-    return widget;
 }
 
 } // namespace bench

@@ -74,6 +74,20 @@ SDL_Surface* TTF_RenderUTF8_Blended(TTF_Font* font, const char* text, SDL_Color 
     return pass_on<&TTF_RenderUTF8_Blended>("TTF_RenderUTF8_Blended", font, text, color);
 }
 
+TTF_Font* TTF_OpenFontRW(SDL_RWops* file, int close_file, int size)
+{
+    return pass_on<&TTF_OpenFontRW>("TTF_OpenFontRW", file, close_file, size);
+}
+
+void TTF_CloseFont(TTF_Font* font) { pass_on<&TTF_CloseFont>("TTF_CloseFont", font); }
+
+SDL_RWops* SDL_RWFromConstMem(const void* bytes, int size)
+{
+    return pass_on<&SDL_RWFromConstMem>("SDL_RWFromConstMem", bytes, size);
+}
+
+void SDL_FreeRW(SDL_RWops* file) { pass_on<&SDL_FreeRW>("SDL_FreeRW", file); }
+
 SDL_Surface* IMG_Load(const char* file) { return pass_on<&IMG_Load>("IMG_Load", file); }
 
 SDL_Surface* rotozoomSurfaceXY(SDL_Surface* source, double angle, double zoom_x, double zoom_y, int smooth)

@@ -26,7 +26,7 @@ int apply_nothing(tagITEM_NODE_S* /*item*/) { return 0; }
 
 void answer_version(void* /*user*/, tagOSD_MENU_GET_EVENT_E /*event*/, tagOSD_MENU_CONTROL_PARAM_S* answer)
 {
-    std::strcpy(answer->acText, "1.2.3.4");
+    std::strcpy(answer->acText, status_value);
 }
 
 } // namespace
@@ -41,10 +41,11 @@ PageFolder::PageFolder()
     }
     folder_ = pattern;
     page_files[file_of(camera_page)] = OSD_RESOURCE_DIR "/menu/" + file_of(camera_page);
-    for (const int rows : row_counts) {
-        const std::string path = folder_ / file_of(rows_page(rows));
-        std::ofstream(path) << page_xml(make_rows(rows));
-        page_files[file_of(rows_page(rows))] = path;
+    for (const Page& page : pages()) {
+        const std::string file = file_of(std::string(page.name));
+        const std::string path = folder_ / file;
+        std::ofstream(path) << page_xml(page);
+        page_files[file] = path;
     }
 }
 
@@ -61,8 +62,6 @@ int start_library(bool is_4k, uint32_t pixel_format)
     Osd_GetVersionCallback(answer_version, nullptr);
     return result;
 }
-
-std::string rows_page(int rows) { return "rows" + std::to_string(rows); }
 
 void open_page(const std::string& name)
 {
@@ -102,7 +101,7 @@ int CFG_COM_GetTxtParams(char* key, tagCFG_VALUE_TXT_S* value)
 {
     const bool is_address = key[0] == 'A'; // "Address 3"
     std::strcpy(value->acList, "Automatic:Manual:Off");
-    std::strcpy(value->acValue, is_address ? "192.168.100.120" : "Automatic");
+    std::strcpy(value->acValue, is_address ? bench::address_value : bench::option_value);
     return 0;
 }
 

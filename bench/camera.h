@@ -13,7 +13,7 @@
 
 namespace bench {
 
-// Holds the page files of 5, 10 and 20 rows in a folder of its own, as long as it lives.
+// Holds the page files of pages() in a folder of its own, as long as it lives.
 class PageFolder {
 public:
     PageFolder();
@@ -25,11 +25,12 @@ private:
     std::filesystem::path folder_;
 };
 
-inline constexpr int row_counts[] = {5, 10, 20};
-
-// A page of the camera's own, with ten items; the pages of rows are called "rows5" and so on.
+// A page of the camera's own, with ten items.
 inline constexpr char camera_page[] = "image";
-std::string rows_page(int rows);
+
+// Pixel formats by the library's number. The benchmark measures one of each size of a pixel.
+inline constexpr const char* format_names[] = {"argb1555", "argb4444", "argb8888"};
+inline constexpr uint32_t measured_formats[] = {1, 2};
 
 // Initialises the library for a canvas of this kind; the result of OSD_MENU_InitSdkRes.
 int start_library(bool is_4k, uint32_t pixel_format);

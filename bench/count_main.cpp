@@ -1,11 +1,12 @@
-// Counts what a redraw and the opening of a page cost, one "name value" a line; for run_bench.py.
+// Counts what each redraw and the opening of a page cost, one line each; for run_bench.py.
 #include <cstdio>
 #include <cstring>
 #include <string>
 
-#include "bench/bare_redraw.h"
 #include "bench/call_count.h"
 #include "bench/camera.h"
+#include "bench/cases.h"
+#include "osd_prompt.h"
 
 namespace {
 
@@ -13,19 +14,20 @@ using bench::Counts;
 
 std::FILE* own = nullptr;
 
-// Calls by name that the library makes and the bare program doesn't.
-int count_surplus(const Counts& library, const Counts& bare)
+// Calls by name that one side makes and the other doesn't. More by the library is waste; more by the bare calls would
+// make the yardstick too easy.
+int count_more(const std::string& prefix, const Counts& one, const Counts& other)
 {
-    int surplus = 0;
-    for (const auto& [name, count] : library.calls) {
-        const auto found = bare.calls.find(name);
-        const int needed = found != bare.calls.end() ? found->second : 0;
-        if (count > needed) {
-            std::fprintf(own, "more %s %d %d\n", name.c_str(), count, needed);
-            surplus += count - needed;
+    int more = 0;
+    for (const auto& [name, count] : one.calls) {
+        const auto found = other.calls.find(name);
+        const int others = found != other.calls.end() ? found->second : 0;
+        if (count > others) {
+            std::fprintf(own, "more %s %s %d %d\n", prefix.c_str(), name.c_str(), count, others);
+            more += count - others;
         }
     }
-    return surplus;
+    return more;
 }
 
 int total(const Counts& counts)
@@ -37,19 +39,49 @@ int total(const Counts& counts)
     return sum;
 }
 
-void count_redraw(int rows)
+// Nothing of a first time is counted: the pictures are compared before.
+bool count_case(const bench::Case& measured, const char* size, const char* format)
 {
-    bench::open_page(bench::rows_page(rows));
-    OSD_MENU_RenderCanvas(); // once before, so that nothing of a first time is counted
-    const bench::BareRedraw bare(bench::make_rows(rows));
+    if (!bench::is_same_picture(measured)) {
+        std::fprintf(own, "fault %s: the bare calls draw another picture\n", measured.name.c_str());
+        return false;
+    }
     bench::start_counting();
-    OSD_MENU_RenderCanvas();
+    measured.by_library();
     const Counts library_counts = bench::stop_counting();
     bench::start_counting();
-    bare.draw();
+    bench::draw_bare(measured.bare);
     const Counts bare_counts = bench::stop_counting();
-    std::fprintf(own, "redraw %d calls %d bare %d surplus %d allocations %d\n", rows, total(library_counts),
-                 total(bare_counts), count_surplus(library_counts, bare_counts), library_counts.allocations);
+    const int surplus = count_more(measured.name + " library", library_counts, bare_counts);
+    const int spare = count_more(measured.name + " bare", bare_counts, library_counts);
+    std::fprintf(own, "redraw %s %s %s %d %d %d %d %d\n", measured.name.c_str(), size, format, total(library_counts),
+                 total(bare_counts), surplus, spare, library_counts.allocations);
+    return true;
+}
+
+bool count_pages(bool is_4k, uint32_t format)
+{
+    if (bench::start_library(is_4k, format) != 0) {
+        return false;
+    }
+    bool is_fine = true;
+    for (const bench::Page& page : bench::pages()) {
+        is_fine = count_case(bench::page_case(page), is_4k ? "4k" : "1080p", bench::format_names[format]) && is_fine;
+    }
+    return is_fine;
+}
+
+bool count_all()
+{
+    bool is_fine = true;
+    for (const bool is_4k : {false, true}) {
+        for (const uint32_t format : bench::measured_formats) {
+            is_fine = count_pages(is_4k, format) && is_fine;
+        }
+    }
+    is_fine = count_case(bench::zoom_case(), "4k", "argb4444") && is_fine;
+    OSD_PROMPT_HideZoomRatio();
+    return is_fine;
 }
 
 int count_below(const tagITEM_NODE_S* item);
@@ -86,7 +118,7 @@ void count_open()
 
 } // namespace
 
-// With "instructions" a few redraws of ten rows alone, for callgrind to look at.
+// With "instructions" the redraw of ten rows alone, for callgrind to look at.
 int main(int argc, char** argv)
 {
     own = bench::split_output();
@@ -96,14 +128,12 @@ int main(int argc, char** argv)
         return 1;
     }
     if (argc > 1 && std::strcmp(argv[1], "instructions") == 0) {
-        bench::open_page(bench::rows_page(10));
+        bench::open_page(bench::counted_page);
         OSD_MENU_RenderCanvas();
         return 0;
     }
-    for (const int rows : bench::row_counts) {
-        count_redraw(rows);
-    }
+    const bool is_fine = count_all();
     count_open();
     bench::close_page();
-    return 0;
+    return is_fine ? 0 : 1;
 }

@@ -1,15 +1,17 @@
-// Times a redraw of the library against the bare calls, and the opening of a page against tinyxml2 alone. Both run in
-// turn in one process, in swapped order; what counts is the median of the ratios of neighbours. One line a
+// Times each redraw of the library against the bare calls, and the opening of a page against tinyxml2 alone. Both run
+// in turn in one process, in swapped order; what counts is the median of the ratios of neighbours. One line a
 // configuration; for run_bench.py.
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
+#include <ctime>
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
-#include "bench/bare_redraw.h"
 #include "bench/camera.h"
+#include "bench/cases.h"
+#include "osd_prompt.h"
 
 namespace {
 
@@ -21,8 +23,6 @@ struct Pairing {
     double ratio;     // median of first / second, pair by pair
 };
 
-constexpr const char* format_names[] = {"argb1555", "argb4444", "argb8888"};
-
 double median(std::vector<double> values)
 {
     const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
@@ -30,17 +30,40 @@ double median(std::vector<double> values)
     return *middle;
 }
 
+// Processor time of this thread: others may use the machine too, and neither side waits for anything.
+double now_us()
+{
+    timespec now = {};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) * 1e6 + static_cast<double>(now.tv_nsec) / 1e3;
+}
+
+// What asking the clock twice adds to a sample: much, against the opening of a page.
+double clock_us()
+{
+    static const double cost = [] {
+        std::vector<double> costs;
+        for (int i = 0; i < 1000; i++) {
+            const double start = now_us();
+            costs.push_back(now_us() - start);
+        }
+        return median(costs);
+    }();
+    return cost;
+}
+
 // The work alone; what puts things back runs outside of the clock.
 double time_us(const Work& work, const Work& put_back, int repeats)
 {
-    std::chrono::duration<double, std::micro> took(0);
+    const double clock = clock_us(); // not within the sample: it measures, the first time
+    double took = 0.0;
     for (int i = 0; i < repeats; i++) {
-        const auto start = std::chrono::steady_clock::now();
+        const double start = now_us();
         work();
-        took += std::chrono::steady_clock::now() - start;
+        took += now_us() - start - clock;
         put_back();
     }
-    return took.count() / repeats;
+    return took / repeats;
 }
 
 Pairing compare(const Work& first, const Work& second, const Work& put_back, int pairs, int repeats)
@@ -67,73 +90,96 @@ Pairing compare(const Work& first, const Work& second, const Work& put_back, int
     return {median(first_us), median(second_us), median(ratios)};
 }
 
-std::vector<unsigned char> canvas_pixels()
+// Short samples are closer neighbours, but must be long against the clock's own cost.
+constexpr double sample_us = 1000.0;
+constexpr double budget_us = 4e6; // for one case, as far as the fewest pairs allow
+constexpr double fewest_pairs = 100.0;
+constexpr double most_pairs = 600.0;
+
+Pairing compare_redraw(const bench::Case& measured)
 {
-    const SDL_Surface* surface = gstMenuMgr.pstSurface;
-    const auto* begin = static_cast<const unsigned char*>(surface->pixels);
-    return {begin, begin + static_cast<std::ptrdiff_t>(surface->pitch) * surface->h};
+    const Work by_bare_calls = [&] { bench::draw_bare(measured.bare); };
+    const double once_us = time_us(
+        by_bare_calls, [] {}, 1);
+    const int repeats = std::max(1, static_cast<int>(sample_us / once_us));
+    const double pairs = std::clamp(budget_us / (2.0 * once_us * repeats), fewest_pairs, most_pairs);
+    return compare(
+        measured.by_library, by_bare_calls, [] {}, static_cast<int>(pairs), repeats);
 }
 
-// The yardstick is one only if it draws the same picture.
-bool is_same_picture(const bench::BareRedraw& bare)
+std::FILE* own = nullptr;
+std::string only; // the one thing to measure; empty for all
+
+bool is_wanted(std::string_view name) { return only.empty() || only == name; }
+
+bool time_case(const bench::Case& measured, const char* size, const char* format)
 {
-    OSD_MENU_RenderCanvas();
-    const auto by_library = canvas_pixels();
-    SDL_memset(gstMenuMgr.pstSurface->pixels, 0, by_library.size());
-    bare.draw();
-    return canvas_pixels() == by_library;
+    if (!bench::is_same_picture(measured)) {
+        std::fprintf(own, "fault %s: the bare calls draw another picture\n", measured.name.c_str());
+        return false;
+    }
+    const Pairing result = compare_redraw(measured);
+    std::fprintf(own, "redraw %s %s %s %.1f %.1f %.4f\n", measured.name.c_str(), size, format, result.first_us,
+                 result.second_us, result.ratio);
+    std::fflush(own);
+    return true;
 }
 
-bool time_redraw(std::FILE* out, bool is_4k, uint32_t format, int rows, int pairs)
+bool time_pages(bool is_4k, uint32_t format)
 {
     if (bench::start_library(is_4k, format) != 0) {
         return false;
     }
-    bench::open_page(bench::rows_page(rows));
-    const bench::BareRedraw bare(bench::make_rows(rows));
-    if (!is_same_picture(bare)) {
-        std::fprintf(out, "the bare calls draw another picture\n");
-        return false;
+    bool is_fine = true;
+    for (const bench::Page& page : bench::pages()) {
+        if (is_wanted(page.name)) {
+            const bench::Case measured = bench::page_case(page);
+            is_fine = time_case(measured, is_4k ? "4k" : "1080p", bench::format_names[format]) && is_fine;
+        }
     }
-    const Pairing result = compare([] { OSD_MENU_RenderCanvas(); }, [&] { bare.draw(); }, [] {}, pairs, 1);
-    std::fprintf(out, "redraw %d %s %s %.1f %.1f %.4f\n", rows, is_4k ? "4k" : "1080p", format_names[format],
-                 result.first_us, result.second_us, result.ratio);
-    std::fflush(out);
     bench::close_page();
-    return true;
+    return is_fine;
 }
 
-void time_open(std::FILE* out, int pairs)
+bool time_zoom()
 {
+    const bool is_fine = time_case(bench::zoom_case(), "4k", "argb4444");
+    OSD_PROMPT_HideZoomRatio();
+    return is_fine;
+}
+
+void time_open()
+{
+    constexpr int pairs = 1000;
     const std::string page = bench::camera_page;
     const std::string file = bench::file_of(page);
     const Work open = [&] { bench::open_page(page); };
     const Work load = [&] { bench::load_document(file).reset(); };
     const Pairing result = compare(open, load, bench::close_page, pairs, 20);
-    std::fprintf(out, "open %s %.2f %.2f %.4f\n", bench::camera_page, result.first_us, result.second_us, result.ratio);
+    std::fprintf(own, "open %s %.2f %.2f %.4f\n", bench::camera_page, result.first_us, result.second_us, result.ratio);
 }
 
 } // namespace
 
-int main()
+// With the name of a page, "zoom" or "open" this alone.
+int main(int argc, char** argv)
 {
-    std::FILE* out = bench::split_output();
+    own = bench::split_output();
+    only = argc > 1 ? argv[1] : "";
     const bench::PageFolder folder;
     if (OSD_MENU_InitOpensourceRes() != 0) {
-        std::fprintf(out, "the library does not start\n");
+        std::fprintf(own, "the library does not start\n");
         return 1;
     }
-    constexpr int redraw_pairs = 100;
-    constexpr int open_pairs = 1000;
+    bool is_fine = true;
     for (const bool is_4k : {false, true}) {
-        for (const uint32_t format : {0U, 1U, 2U}) {
-            for (const int rows : bench::row_counts) {
-                if (!time_redraw(out, is_4k, format, rows, redraw_pairs)) {
-                    return 1;
-                }
-            }
+        for (const uint32_t format : bench::measured_formats) {
+            is_fine = time_pages(is_4k, format) && is_fine;
         }
     }
-    time_open(out, open_pairs);
-    return 0;
+    is_fine = (!is_wanted("zoom") || time_zoom()) && is_fine;
+    if (is_wanted("open")) {
+        time_open();
+    }
+    return is_fine ? 0 : 1;
 }
