@@ -3,11 +3,12 @@
 
 Every text that a page or a setting asks for must be there in all languages, and every item that shows a value must
 have a setting or a device fact behind it. Every page must have a file, be reached by keys, and never be the sixth that
-is open. Errors go to standard error, each with its file and line or key.
+is open, and it must keep the rules of its layout. Errors go to standard error, each with its file and line or key.
 """
 import argparse
 import json
 import sys
+import unicodedata
 import xml.parsers.expat
 from pathlib import Path
 
@@ -20,6 +21,21 @@ OPENING_ATTRIBUTES = {"SUBPAGE": "SubPage", "CONFIRM_POP": "ConfirmPage", "CONFI
 VALUE_CONTEXTS = ("NAME_BAR_VAL", "NAME_VAL", "NAME_IP_VAL")
 TRANSLATED_ATTRIBUTES = ("Title", "ItemIndex", "Msg", "Value", "ModeIndex")
 WORDS_OF_THE_MENU = ("StaticIp", "DhcpIp", "AutoMode", "Confirm", "Finish", "Loading")
+
+# Room for texts on the smallest menu, half of a picture of 1920 by 1080, and the sizes of the texts, all in pixels.
+MENU_WIDTH = 960
+CAPTION_SIZE = {"English": 28}
+CAPTION_SIZE_OF_OTHERS = 32
+POPUPS = {"horizontal_align": (230, 32), "horizontal_align_keth": (630, 28)} # width inside the frame, size
+PAGED = "vertical_align_keth"
+LAYOUTS = ("icon", "vertical_align", "vertical_tolvane_align", PAGED, *POPUPS)
+PAGED_ATTRIBUTES = ("CurPagesNum", "NextPage", "PrevPage", "Line")
+ICON_ATTRIBUTES = ("Pic", "SelectPic")
+
+# Widths of letters in the menu's font as parts of the text size; close enough to tell a text that is a word too long.
+LETTER_WIDTHS = (("iljI.,:;'!| ()", 0.28), ("ftr-/", 0.37), ("mwMW%@", 0.88))
+CAPITAL_WIDTH = 0.65
+OTHER_WIDTH = 0.56
 
 FIXED_PARENT = {"IpAddr": "NetCard0", "NetMask": "NetCard0", "GateWay": "NetCard0", "Dns1": "NetCard0",
                 "Dns2": "NetCard0", "IrisLevel": "Panorama", "LedCustomColor": ""}
@@ -70,6 +86,13 @@ def read_json(path):
     return json.loads(path.read_text(encoding="utf-8"), object_pairs_hook=unique)
 
 
+def width_of(letter):
+    if unicodedata.east_asian_width(letter) in "WF":
+        return 1.0
+    return next((width for letters, width in LETTER_WIDTHS if letter in letters),
+                CAPITAL_WIDTH if letter.isupper() else OTHER_WIDTH)
+
+
 class Checker:
     def __init__(self, folder):
         self.errors = []
@@ -80,6 +103,8 @@ class Checker:
         self.settings = {(s.get("parent", ""), s.get("key")): s for s in definitions.get("settings", [])}
         self.languages = {path: self.read(read_json, path) or {} for path in sorted(folder.glob("lang/*.json"))}
         self.pages = {path: self.read(read_page, path) for path in sorted(folder.glob("pages/*" + PAGE_ENDING))}
+        self.by_name = {path.name.removesuffix(PAGE_ENDING): page for path, page in self.pages.items() if page}
+        self.pictures = {path.stem for path in folder.glob("pic/*.svg")}
 
     def error(self, place, text):
         self.errors.append(f"{place}: {text}")
@@ -100,8 +125,9 @@ class Checker:
         for word in WORDS_OF_THE_MENU:
             self.need_text("the menu itself", word)
         self.need_text(f"{self.settings_file}: fact 'NdiStatus'", self.facts.get("NdiStatus", ""))
-        for page in filter(None, self.pages.values()):
+        for name, page in self.by_name.items():
             self.check_texts(page)
+            self.check_layout(name, page)
             for element in page.descendants():
                 self.check_texts(element)
                 self.check_value(element)
@@ -131,7 +157,7 @@ class Checker:
 
     def links_of(self, page):
         """Names of the pages that a page opens, each with the place that says so; pages without a file are errors."""
-        named = [(page.place, "NextPage", page["NextPage"])] if page["NextPage"] else []
+        named = [(page.place, turn, page[turn]) for turn in ("NextPage", "PrevPage") if page[turn]]
         for item in page.descendants():
             opening = OPENING_ATTRIBUTES.get(item["Attr"])
             if opening:
@@ -139,15 +165,15 @@ class Checker:
         links = []
         names = [path.name for path in self.pages]
         for place, attribute, target in named:
-            if target + PAGE_ENDING in names:
-                links.append((place, target))
-            else:
+            if target + PAGE_ENDING not in names:
                 self.error(place, f"{attribute} '{target}': there is no file {target}{PAGE_ENDING}")
+            elif attribute != "PrevPage": # turning back closes a page and opens none
+                links.append((place, target))
         return links
 
     def check_page_stack(self):
         """Walks from the root pages as keys do, one open page more at each step."""
-        pages = {path.name.removesuffix(PAGE_ENDING): page for path, page in self.pages.items() if page}
+        pages = self.by_name
         links = {name: self.links_of(page) for name, page in pages.items()}
         reached = set()
         stacks = {name: [name] for name in ROOT_PAGES if name in pages} # by top page: the open pages, bottom first
@@ -165,6 +191,68 @@ class Checker:
         for name in sorted(pages.keys() - reached):
             self.error(pages[name].place, f"page '{name}' is reached from nowhere, expected an item of a page that "
                                           f"{' or '.join(ROOT_PAGES)} leads to")
+
+    def check_layout(self, name, page):
+        layout = page["Layout"]
+        if layout == "icon":
+            self.check_icons(page)
+        elif layout in POPUPS:
+            self.check_popup(page, *POPUPS[layout])
+        elif layout == PAGED:
+            self.check_paged(name, page)
+        elif layout not in LAYOUTS:
+            self.error(page.place, f"Layout '{layout}', expected one of {', '.join(LAYOUTS)}")
+        if layout != PAGED:
+            for element in (page, *page.descendants()):
+                for attribute in sorted(element.attributes.keys() & PAGED_ATTRIBUTES):
+                    self.error(element.place, f"{attribute} does nothing in layout '{layout}', only in '{PAGED}'")
+
+    def check_icons(self, page):
+        if not page["CountPerLine"].isdecimal() or int(page["CountPerLine"]) == 0:
+            self.error(page.place, f"CountPerLine '{page['CountPerLine']}', expected 1 or more")
+            return
+        count = int(page["CountPerLine"])
+        gap = MENU_WIDTH / 10
+        column = (MENU_WIDTH - gap * count) / count + gap # as far as the icon's middle is from the next one's
+        for item in page.children:
+            for attribute in ICON_ATTRIBUTES:
+                if item[attribute] not in self.pictures:
+                    self.error(item.place, f"{attribute} '{item[attribute]}': there is no such picture in pic/")
+            self.need_room(item, "ItemIndex", column,
+                           lambda language: CAPTION_SIZE.get(language, CAPTION_SIZE_OF_OTHERS))
+
+    def check_popup(self, page, width, size):
+        self.need_room(page, "Title", width, lambda _language: size)
+        self.need_room(page, "Msg", width, lambda _language: size)
+        if "Msg" in page.attributes and page["Layout"] != "horizontal_align_keth":
+            self.error(page.place, f"Msg does nothing in layout '{page['Layout']}'")
+        count = len(page.children)
+        for index, item in enumerate(page.children):
+            if (item["ItemCnt"], item["ItemIndexOnLine"]) != (str(count), str(index)):
+                self.error(item.place, f"item '{item['ItemIndex']}': expected ItemCnt {count} and ItemIndexOnLine "
+                                       f"{index}, the items of a popup stand side by side")
+            self.need_room(item, "ItemIndex", width / count, lambda _language: size)
+
+    def check_paged(self, name, page):
+        if page.children and page.children[0]["Attr"] == "STATUS":
+            self.error(page.children[0].place, "a STATUS item comes first, the cursor would not be seen on it")
+        for there, back in (("NextPage", "PrevPage"), ("PrevPage", "NextPage")):
+            if there not in page.attributes:
+                continue
+            if "CurPagesNum" not in page.attributes:
+                self.error(page.place, f"{there} does nothing without CurPagesNum")
+            other = self.by_name.get(page[there])
+            if other and other[back] != name:
+                self.error(page.place, f"{there} '{page[there]}': that page has {back} '{other[back]}', "
+                                       f"expected '{name}'")
+
+    def need_room(self, element, attribute, room, size_in):
+        for path, texts in self.languages.items():
+            text = texts.get(element[attribute], "")
+            width = sum(width_of(letter) for letter in text) * size_in(path.stem)
+            if width > room:
+                self.error(f"{element.place}: {attribute}", f"'{text}' of {path.name} is about {width:.0f} pixels "
+                                                            f"wide, {room:.0f} fit")
 
     def check_value(self, item):
         if "ShowValue" in item.attributes:

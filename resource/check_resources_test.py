@@ -13,7 +13,7 @@ MENU_WORDS = ["StaticIp", "DhcpIp", "AutoMode", "Confirm", "Finish", "Loading"]
 
 def good_resources():
     """Files of a folder without a fault: path to text of a page, or to content of a JSON file."""
-    words = MENU_WORDS + ["image", "Gain", "Mode", "On", "Off", "FwVersion", "Active"]
+    words = MENU_WORDS + ["image", "Gain", "Mode", "On", "Off", "FwVersion", "Active", "No"]
     return {
         "lang/English.json": {word: word.lower() for word in words},
         "lang/German.json": {word: word.upper() for word in words},
@@ -23,10 +23,23 @@ def good_resources():
             "settings": [{"key": "Gain", "parent": "ImageParam", "kind": "integer"},
                          {"key": "Mode", "kind": "option", "options": ["Off", "On"]}]},
         "pages/main_page.xml":
-            '<Page>\n  <Item ItemIndex="image" Ctx="NAME" Attr="SUBPAGE" SubPage="image"/>\n</Page>\n',
-        "pages/confirm_page.xml": '<Page/>\n',
+            '<Page Layout="icon" CountPerLine="4">\n'
+            '  <Item ItemIndex="image" Ctx="ICON_TXT" Pic="sun" SelectPic="moon" Attr="SUBPAGE" SubPage="image"/>\n'
+            '</Page>\n',
+        "pages/confirm_page.xml":
+            '<Page Layout="horizontal_align">\n'
+            '  <Item ItemCnt="2" ItemIndexOnLine="0" ItemIndex="No" Ctx="NAME" Attr="CONFIRM"/>\n'
+            '  <Item ItemCnt="2" ItemIndexOnLine="1" ItemIndex="On" Ctx="NAME" Attr="CONFIRM"/>\n'
+            '</Page>\n',
+        "pages/second_page.xml":
+            '<Page Layout="vertical_align_keth" CurPagesNum="2/2" PrevPage="image">\n'
+            '  <Item ItemIndex="Mode" Ctx="NAME_VAL" Attr="COMMON"/>\n'
+            '  <Item ItemIndex="FwVersion" Ctx="NAME_VAL" Attr="STATUS"/>\n'
+            '</Page>\n',
+        "pic/sun.svg": "<svg/>",
+        "pic/moon.svg": "<svg/>",
         "pages/image_page.xml":
-            '<Page Title="image">\n'
+            '<Page Layout="vertical_align_keth" CurPagesNum="1/2" NextPage="second" Title="image">\n'
             '  <Item ItemIndex="Mode" Ctx="NAME_VAL" Attr="SUBITEM">\n'
             '    <Option ModeIndex="Off"/>\n'
             '    <Option ModeIndex="On">\n'
@@ -38,10 +51,11 @@ def good_resources():
             '</Page>\n'}
 
 
-def edit_page(old, new):
+def edit_page(old, new, page="image"):
     def change(files):
-        assert old in files["pages/image_page.xml"]
-        files["pages/image_page.xml"] = files["pages/image_page.xml"].replace(old, new)
+        path = f"pages/{page}_page.xml"
+        assert old in files[path]
+        files[path] = files[path].replace(old, new)
     return change
 
 
@@ -74,11 +88,37 @@ FAULTS = {
     "a sub-page is missing": (
         lambda files: files.pop("pages/image_page.xml"), ["main_page.xml:2: SubPage 'image': there is no file"]),
     "a next page is missing": (
-        edit_page('<Page ', '<Page NextPage="sound" '), ["image_page.xml:1: NextPage 'sound': there is no file"]),
+        edit_page('"second"', '"sound"'), ["image_page.xml:1: NextPage 'sound': there is no file"]),
     "pages open each other without end": (
         lambda files: files.update({"pages/confirm_page.xml": '<Page NextPage="image"/>\n'}),
         ["confirm_page.xml:1: page 'image' would be number 6 above main > image > confirm > image > confirm, "
          "expected at most 5 open pages"]),
+    "a layout is unknown": (
+        edit_page('"icon"', '"grid"', "main"), ["main_page.xml:1: Layout 'grid', expected one of icon, vertical"]),
+    "icons have no grid": (
+        edit_page('"4"', '"0"', "main"), ["main_page.xml:1: CountPerLine '0', expected 1 or more"]),
+    "an icon has no picture": (
+        lambda files: files.pop("pic/moon.svg"), ["main_page.xml:2: SelectPic 'moon': there is no such picture"]),
+    "a caption is wider than its column": (
+        lambda files: files["lang/German.json"].update(image="图像图像图像图像"),
+        ["main_page.xml:2: ItemIndex: '图像图像图像图像' of German.json is about 256 pixels wide, 240 fit"]),
+    "a popup is too small for a button": (
+        lambda files: files["lang/English.json"].update(No="不要取消"),
+        ["confirm_page.xml:2: ItemIndex: '不要取消' of English.json is about 128 pixels wide, 115 fit"]),
+    "buttons of a popup cover each other": (
+        edit_page('ItemIndexOnLine="1"', "", "confirm"),
+        ["confirm_page.xml:3: item 'On': expected ItemCnt 2 and ItemIndexOnLine 1"]),
+    "a page turns back to another": (
+        edit_page('PrevPage="image"', 'PrevPage="main"', "second"),
+        ["image_page.xml:1: NextPage 'second': that page has PrevPage 'main', expected 'image'",
+         "second_page.xml:1: PrevPage 'main': that page has NextPage '', expected 'second'"]),
+    "a page turns without a number": (
+        edit_page('CurPagesNum="1/2"', ""), ["image_page.xml:1: NextPage does nothing without CurPagesNum"]),
+    "a page turns in a layout that doesn't": (
+        edit_page("vertical_align_keth", "vertical_align"),
+        ["image_page.xml:1: NextPage does nothing in layout 'vertical_align'"]),
+    "the cursor begins where it isn't seen": (
+        edit_page("COMMON", "STATUS", "second"), ["second_page.xml:2: a STATUS item comes first"]),
     "a page is no XML": (edit_page("</Page>", "</Pag>"), ["image_page.xml:10: mismatched tag"]),
 }
 

@@ -14,6 +14,9 @@
 namespace sim {
 namespace {
 
+/// Marks the canvas of the menu, which lies below all prompts.
+constexpr std::uint8_t menu_canvas = 128;
+
 constexpr Size full_hd{1920, 1080};
 constexpr Size ultra_hd{3840, 2160};
 
@@ -129,7 +132,7 @@ bool Camera::push_canvas(bool show, const tagOSD_MENU_CANVAS_S& canvas, std::opt
     const auto layer = show ? std::make_shared<const Layer>(copy_canvas(canvas)) : nullptr;
     for (int i = channel.value_or(0); i < channel.value_or(channel_count - 1) + 1; ++i) {
         if (show) {
-            channels_.show(i, &canvas, layer);
+            channels_.show(i, &canvas, layer, canvas.u8CanvasAttr == menu_canvas);
         } else {
             channels_.hide(i, &canvas);
         }

@@ -48,6 +48,8 @@ struct Words {
     std::string format = "argb8888";
     std::string language;
     std::string data;
+    std::string prompt;
+    std::string contact_sheet;
 };
 
 std::string key_help()
@@ -57,8 +59,7 @@ std::string key_help()
         const std::string keyboard = key.keyboard == SDLK_UNKNOWN ? "" : SDL_GetKeyName(key.keyboard);
         std::string name = key.name;
         name.resize(std::max<std::size_t>(name.size(), 12), ' ');
-        text += "  " + name + key.help + (keyboard.empty() ? "" : " (" + keyboard + ")") +
-                (key.function == nullptr ? "; no function yet" : "") + "\n";
+        text += "  " + name + key.help + (keyboard.empty() ? "" : " (" + keyboard + ")") + "\n";
     }
     return text + "Escape is the menu key while the menu is open.\n";
 }
@@ -104,6 +105,12 @@ void declare(CLI::App& app, Options& options, Words& words)
     app.add_flag("--reset", options.reset, "Set all settings back to their defaults first");
     app.add_flag("--still", options.still, "The scene stands at time 0, so that pictures repeat exactly");
     app.add_flag("--window", options.window, "Open a window");
+    app.add_option("--prompt", words.prompt, "Show this text over the picture from the start")->type_name("TEXT");
+    app.add_flag("--reloading", options.reloading,
+                 "The media service counts as reloading (/tmp/.mpp_reloading): no zoom ratio shows");
+    app.add_option("--contact-sheet", words.contact_sheet,
+                   "Write all pages side by side; a folder gets a sheet for each language and style")
+        ->type_name("FILE.png|DIR");
     app.add_option("--scenario", words.scenario, "Play a scenario and compare; stands alone")->type_name("DIR");
     app.add_option("--update-scenario", words.update_scenario,
                    "Play a scenario and write its calls.txt and frame.png anew; stands alone")
@@ -125,7 +132,10 @@ void check_page(const std::string& page)
 
 void check_combinations(const CLI::App& app)
 {
-    constexpr std::pair<const char*, const char*> enemies[] = {{"--window", "--snapshot"}, {"--keys", "--keys-file"}};
+    constexpr std::pair<const char*, const char*> enemies[] = {{"--window", "--snapshot"},
+                                                               {"--keys", "--keys-file"},
+                                                               {"--contact-sheet", "--window"},
+                                                               {"--contact-sheet", "--snapshot"}};
     for (const auto& [one, other] : enemies) {
         if (app.count(one) > 0 && app.count(other) > 0) {
             throw BadInput(std::string(one) + " and " + other + " can't be used together");
@@ -162,6 +172,12 @@ void take_over(const CLI::App& app, const Words& words, Options& options)
 {
     take_scenario(app, words, options);
     take_keys(app, words, options);
+    if (app.count("--prompt") > 0) {
+        options.prompt = words.prompt;
+    }
+    if (app.count("--contact-sheet") > 0) {
+        options.contact_sheet = words.contact_sheet;
+    }
     if (app.count("--snapshot") > 0) {
         options.snapshot = words.snapshot;
         check_snapshot_path(*options.snapshot);

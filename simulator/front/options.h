@@ -25,6 +25,9 @@ struct Options {
     bool reset = false;
     bool still = false;
     bool window = false;
+    std::optional<std::string> prompt;
+    bool reloading = false;
+    std::optional<std::filesystem::path> contact_sheet;
     std::optional<std::filesystem::path> scenario; ///< stands alone
     bool update_scenario = false;
 };

@@ -4,6 +4,7 @@
 #include <iostream>
 
 #include "simulator/core/errors.h"
+#include "simulator/front/contact_sheet.h"
 #include "simulator/front/scenario.h"
 #include "simulator/front/window.h"
 #include "simulator/video/snapshot.h"
@@ -12,6 +13,7 @@ namespace sim {
 namespace {
 
 const char* const default_snapshot = "camera.png";
+const char* const default_prompt = "Camera-01";
 
 bool environment_names_display()
 {
@@ -58,6 +60,10 @@ void run_camera(const Options& options)
     if (plain) {
         check_snapshot_path(default_snapshot); // it may be needed
     }
+    std::optional<ReloadingMarker> marker;
+    if (options.reloading) {
+        marker.emplace();
+    }
     std::optional<KeyRecorder> recorder;
     if (options.record) {
         recorder.emplace(*options.record);
@@ -66,7 +72,11 @@ void run_camera(const Options& options)
     if (recorder) {
         recorder->follow(camera);
     }
-    MenuHost host(camera, {options.pixel_format, options.style, options.uhd, options.page});
+    MenuHost host(camera, {options.pixel_format, options.style, options.uhd, options.page,
+                           options.prompt.value_or(default_prompt)});
+    if (options.prompt) {
+        host.overlays().show_prompt(*options.prompt);
+    }
     plain ? run_plain(host, options) : run_asked(host, options);
 }
 
@@ -76,6 +86,8 @@ void run(const Options& options)
 {
     if (options.scenario) {
         play_scenario(*options.scenario, options.update_scenario);
+    } else if (options.contact_sheet) {
+        write_contact_sheets(*options.contact_sheet, options);
     } else {
         run_camera(options);
     }

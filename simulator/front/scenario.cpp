@@ -85,7 +85,7 @@ Outcome play(const std::filesystem::path& folder)
     Outcome outcome;
     Camera camera({OSD_RESOURCE_DIR, data.path(), false, false, true, options.language, folder / "pages"});
     set_up(camera, options.settings);
-    MenuHost host(camera, {2, options.style, false, options.page});
+    MenuHost host(camera, {2, options.style, false, options.page, "Prompt"});
     camera.events().listen([&outcome](const Event& event) { outcome.calls.push_back(to_line(event)); });
     KeyPlayer(keys, host).press_all_now();
     outcome.frame = camera.look_at(0);

@@ -115,6 +115,7 @@ bool show_window(MenuHost& host, KeyPlayer& keys, int channel)
         return false;
     }
     while (handle_events(host)) {
+        host.overlays().hide_what_is_over();
         with_mistakes_told([&] { keys.press_due(); });
         const Uint32 began = SDL_GetTicks();
         screen.show(camera.look_at(channel));

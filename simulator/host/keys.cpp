@@ -18,6 +18,27 @@ void press_menu(MenuHost& host)
     }
 }
 
+/// One step of the zoom; the menu shows it where it shows the zoom, and the ratio stands over the picture.
+void step_zoom(MenuHost& host, int direction)
+{
+    char zoom_key[] = "Zoom";
+    Camera& camera = host.camera();
+    const Setting* zoom = camera.settings().find_key(zoom_key);
+    if (zoom == nullptr) {
+        throw BadInput("the settings definitions have no 'Zoom'");
+    }
+    const int wanted = camera.settings().number(zoom->id) + direction * zoom->step;
+    const int percent = std::clamp(wanted, zoom->min, zoom->max);
+    camera.change(zoom->id, text_of(*zoom, percent));
+    OSD_MENU_RefreshItem(zoom_key);
+    host.overlays().show_zoom(percent / 100.0);
+}
+
+void zoom_in(MenuHost& host) { step_zoom(host, 1); }
+void zoom_out(MenuHost& host) { step_zoom(host, -1); }
+void show_prompt(MenuHost& host) { host.overlays().show_prompt(host.config().prompt); }
+void toggle_recording(MenuHost& host) { host.overlays().toggle_recording_mark(); }
+
 template <int (*Function)()>
 void call(MenuHost& host)
 {
@@ -45,9 +66,10 @@ const std::vector<Key>& all_keys()
         {"left-keep", SDLK_UNKNOWN, call<OSD_MENU_HandleKeyLeftUpdateItem>, "left, but the camera isn't told yet"},
         {"right-keep", SDLK_UNKNOWN, call<OSD_MENU_HandleKeyRightUpdateItem>, "right, but the camera isn't told yet"},
         {"apply", SDLK_SPACE, call<OSD_MENU_HandleSetParam>, "tells the camera the value of the selected item"},
-        {"zoom+", SDLK_PLUS, nullptr, "zooms in"},
-        {"zoom-", SDLK_MINUS, nullptr, "zooms out"},
-        {"prompt", SDLK_p, nullptr, "shows a prompt over the picture"},
+        {"zoom+", SDLK_PLUS, zoom_in, "zooms in and shows the ratio for two seconds"},
+        {"zoom-", SDLK_MINUS, zoom_out, "zooms out and shows the ratio for two seconds"},
+        {"prompt", SDLK_p, show_prompt, "shows the text of --prompt over the picture for three seconds"},
+        {"rec", SDLK_r, toggle_recording, "puts the mark of a recording over the picture, or takes it away"},
     };
     return keys;
 }
@@ -68,9 +90,6 @@ const Key& find_key(const std::string& name)
     if (found == all_keys().end()) {
         throw BadInput("unknown key '" + name + "', expected one of: " + key_names());
     }
-    if (found->function == nullptr) {
-        throw BadInput("key '" + name + "' has no function yet");
-    }
     return *found;
 }
 
@@ -87,6 +106,7 @@ const Key* find_keyboard_key(SDL_Keycode code, bool menu_is_open)
 void press(const Key& key, MenuHost& host)
 {
     host.camera().events().tell({"key", key.name});
+    host.overlays().hide_what_is_over();
     key.function(host);
 }
 

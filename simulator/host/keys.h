@@ -10,9 +10,9 @@
 namespace sim {
 
 struct Key {
-    const char* name;                 ///< as scripts write it
-    SDL_Keycode keyboard;             ///< key of the window's keyboard, SDLK_UNKNOWN for none
-    void (*function)(MenuHost& host); ///< null while the key has none
+    const char* name;     ///< as scripts write it
+    SDL_Keycode keyboard; ///< key of the window's keyboard, SDLK_UNKNOWN for none
+    void (*function)(MenuHost& host);
     const char* help;
 };
 
@@ -22,14 +22,13 @@ const std::vector<Key>& all_keys();
 /// The names of all keys, separated by spaces.
 std::string key_names();
 
-/// The key of this name. Throws BadInput for an unknown name, which lists the known ones, and for a key without
-/// function.
+/// The key of this name. Throws BadInput for an unknown name, which lists the known ones.
 const Key& find_key(const std::string& name);
 
 /// The key of a keyboard key; null when there is none. Escape is the menu key while the menu is open.
 const Key* find_keyboard_key(SDL_Keycode code, bool menu_is_open);
 
-/// Presses a key that has a function. Throws BadInput when a page that it opens by name can't be read.
+/// Presses a key. Throws BadInput when a page that it opens by name can't be read.
 void press(const Key& key, MenuHost& host);
 
 } // namespace sim

@@ -18,6 +18,19 @@ namespace {
 /// place and would lose at the right and at the bottom what it is moved by.
 constexpr tagOSD_MENU_RECT_S menu_place = {0.0F, 0.0F, 0.5F, 1.0F};
 
+/// Puts a page on the stack, with the same steps as the library: a page that can't be read counts as well, because its
+/// record can hold the items that stood before the mistake. False for such a page.
+bool push_page(const std::string& name)
+{
+    std::array<char, OSD_TEXT_LEN> text{};
+    std::snprintf(text.data(), text.size(), "%s", name.c_str());
+    tagPAGE_NODE_S* record = &gstPageMgr.astPage[gstPageMgr.s32PageCnt];
+    const bool complete = OSD_MENU_ParseXml(text.data(), record) == 0;
+    gstPageMgr.s32PageCnt++;
+    OSD_MENU_RenderCanvas();
+    return complete;
+}
+
 } // namespace
 
 MenuHost::MenuHost(Camera& camera, MenuConfig config) : camera_(camera), config_(std::move(config))
@@ -37,6 +50,7 @@ MenuHost::MenuHost(Camera& camera, MenuConfig config) : camera_(camera), config_
 
 MenuHost::~MenuHost()
 {
+    overlays_.hide_all();
     Osd_GetVersionCallback(nullptr, nullptr);
     for (const auto& [name, use] : camera_.memory().in_use()) {
         const std::size_t expected = memory_at_start_[name].blocks;
@@ -71,17 +85,19 @@ void MenuHost::open()
     }
 }
 
-/// The same steps with which the library opens its root page: a page that can't be read counts as well, because its
-/// record can hold the items that stood before the mistake.
 void MenuHost::open_page(const std::string& name)
 {
-    std::array<char, OSD_TEXT_LEN> text{};
-    std::snprintf(text.data(), text.size(), "%s", name.c_str());
-    const bool complete = OSD_MENU_ParseXml(text.data(), &gstPageMgr.astPage[0]) == 0;
-    gstPageMgr.s32PageCnt = 1;
-    OSD_MENU_RenderCanvas();
-    if (!complete) {
+    if (!push_page(name)) {
         throw BadInput("page '" + name + "' is shown as far as it can be read, see the lines above");
+    }
+}
+
+void MenuHost::show_over_main(const std::string& name)
+{
+    OSD_MENU_CloseMenu();
+    OSD_MENU_OpenMenu();
+    if (name != "main") {
+        (void)push_page(name); // the log tells of a mistake
     }
 }
 

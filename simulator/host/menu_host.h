@@ -7,6 +7,7 @@
 #include <string>
 
 #include "simulator/core/camera.h"
+#include "simulator/host/overlays.h"
 
 namespace sim {
 
@@ -15,6 +16,7 @@ struct MenuConfig {
     std::uint32_t style = 0;        ///< skin, 0 to 2
     bool uhd = false;               ///< canvas for 3840 by 2160
     std::string page;               ///< page that opens instead of "main", empty for "main"
+    std::string prompt;             ///< what the key "prompt" shows
 };
 
 /// Runs the menu of one camera. One at a time in a process, as the library keeps its state in globals and has no end;
@@ -36,11 +38,19 @@ public:
     /// configuration names can't be read to its end; the menu is open then with what was read.
     void open();
 
+    /// Opens the menu anew with one page above "main", or "main" alone. A page that can't be read is shown as far as it
+    /// goes.
+    void show_over_main(const std::string& name);
+
+    Overlays& overlays() { return overlays_; }
+    const MenuConfig& config() const { return config_; }
+
 private:
     void open_page(const std::string& name);
 
     Camera& camera_;
     MenuConfig config_;
+    Overlays overlays_{camera_};
     std::map<std::string, MemoryUse> memory_at_start_;
 };
 

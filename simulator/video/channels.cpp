@@ -12,14 +12,14 @@ Channels::Channels(Size main_size)
     channels_ = {{{main_size, {}}, {sub_size, {}}, {preview_size, {}}}};
 }
 
-void Channels::show(int channel, const void* canvas, std::shared_ptr<const Layer> layer)
+void Channels::show(int channel, const void* canvas, std::shared_ptr<const Layer> layer, bool below)
 {
     const std::lock_guard<std::mutex> lock(mutex_);
     std::vector<Shown>& pile = channels_.at(static_cast<std::size_t>(channel)).pile;
     const auto same = [canvas](const Shown& shown) { return shown.canvas == canvas; };
     const auto found = std::find_if(pile.begin(), pile.end(), same);
     if (found == pile.end()) {
-        pile.push_back({canvas, std::move(layer), std::nullopt});
+        pile.insert(below ? pile.begin() : pile.end(), {canvas, std::move(layer), std::nullopt});
     } else {
         *found = {canvas, std::move(layer), std::nullopt};
     }

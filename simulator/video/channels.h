@@ -22,7 +22,8 @@ public:
 
     Size size(int channel) const { return channels_.at(static_cast<std::size_t>(channel)).size; }
 
-    void show(int channel, const void* canvas, std::shared_ptr<const Layer> layer);
+    /// A new canvas lies on top of the others, or below them.
+    void show(int channel, const void* canvas, std::shared_ptr<const Layer> layer, bool below = false);
     void hide(int channel, const void* canvas);
 
     /// Lays all canvases of a channel over a picture of the channel's size.

@@ -146,7 +146,7 @@ TEST_F(Services, ReadKeysFilesAndRecordAtOnce)
 
 TEST_F(Services, KeepAPageThatCantBeReadOpen)
 {
-    MenuHost host(camera, {2, 0, false, "nowhere"});
+    MenuHost host(camera, {2, 0, false, "nowhere", ""});
     EXPECT_THAT([&] { host.open(); }, ThrowsMessage<BadInput>(HasSubstr("'nowhere' is shown as far")));
     EXPECT_TRUE(host.is_open());
 }
