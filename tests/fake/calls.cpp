@@ -68,8 +68,9 @@ std::string printed(const std::function<void()>& function)
     testing::internal::CaptureStdout();
     function();
     (void)fflush(stdout);
-    static const std::regex place(R"((\w+)([ :])\d+)");
-    return std::regex_replace(testing::internal::GetCapturedStdout(), place, "F$2L");
+    static const std::regex place(R"((\w+)([ :-])\d+)");
+    static const std::regex name(R"(\w+( don't find ))");
+    return std::regex_replace(std::regex_replace(testing::internal::GetCapturedStdout(), place, "F$2L"), name, "F$1");
 }
 
 } // namespace fake

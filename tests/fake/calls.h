@@ -16,7 +16,8 @@ struct Calls {
     std::map<std::string, int> counts;                  // calls by name
     std::map<std::string, std::pair<int, int>> failing; // first and last call of a name that fail
     std::set<std::string> missingFiles;                 // base names that can't be opened
-    bool fakeFonts = true;                              // 20 pixels a byte, 30 high, instead of SDL_ttf
+    bool fakeFonts = true;                              // of one size, instead of SDL_ttf
+    int byteWidth = 20, lineHeight = 30;                // of the fake fonts
     bool fakePictures = true;                           // plain 100 by 100 pictures instead of files
     std::string lastFile;                               // base name of the font file opened last
     std::map<const void*, std::string> surfaces;        // alive, with their descriptions

@@ -16,7 +16,11 @@ using fake::calls;
 using fake::format;
 using fake::record;
 
-#define REAL(Name) reinterpret_cast<decltype(&Name)>(dlsym(RTLD_NEXT, #Name))
+#define REAL(Name) \
+    [] { \
+        static const auto real = reinterpret_cast<decltype(&Name)>(dlsym(RTLD_NEXT, #Name)); \
+        return real; \
+    }()
 #define INTERCEPT(Name, line, ...) intercept(#Name, line, -1, [&] { return REAL(Name)(__VA_ARGS__); })
 #define CREATE(Name, line, description, ...) create(#Name, line, description, [&] { return REAL(Name)(__VA_ARGS__); })
 
@@ -88,9 +92,7 @@ SDL_Surface* filled(int w, int h, SDL_Color c)
     return surface;
 }
 
-constexpr int LINE_HEIGHT = 30;
-
-int widthOf(const char* text) { return 20 * static_cast<int>(strlen(text)); }
+int widthOf(const char* text) { return calls().byteWidth * static_cast<int>(strlen(text)); }
 
 bool isMissing(const char* path) { return calls().missingFiles.count(fake::baseName(path)) != 0; }
 
@@ -186,7 +188,7 @@ int TTF_SizeUTF8(TTF_Font* font, const char* text, int* w, int* h)
         }
         *w = widthOf(text);
         if (h != nullptr) {
-            *h = LINE_HEIGHT;
+            *h = calls().lineHeight;
         }
         return 0;
     });
@@ -199,7 +201,7 @@ SDL_Surface* TTF_RenderUTF8_Blended(TTF_Font* font, const char* text, SDL_Color 
         if (!calls().fakeFonts) {
             return REAL(TTF_RenderUTF8_Blended)(font, text, colour);
         }
-        return *text != '\0' ? filled(widthOf(text), LINE_HEIGHT, colour) : nullptr;
+        return *text != '\0' ? filled(widthOf(text), calls().lineHeight, colour) : nullptr;
     });
 }
 
@@ -249,7 +251,8 @@ int SDL_FillRect(SDL_Surface* target, const SDL_Rect* rect, Uint32 pixel)
 {
     SDL_Color c;
     SDL_GetRGBA(pixel, target->format, &c.r, &c.g, &c.b, &c.a);
-    const std::string place = format("fill %d,%d %dx%d ", rect->x, rect->y, rect->w, rect->h);
+    const std::string place =
+        rect != nullptr ? format("fill %d,%d %dx%d ", rect->x, rect->y, rect->w, rect->h) : "fill all ";
     return INTERCEPT(SDL_FillRect, place + nameOf(c) + onto(target), target, rect, pixel);
 }
 

@@ -13,17 +13,22 @@ void __libc_free(void*);
 }
 
 static void* g_items[4096];
+static int g_used = 0; // entries that have ever been taken
 static int g_live = 0;
 
 static bool swapEntry(void* from, void* to)
 {
-    for (void*& entry : g_items) {
-        if (entry == from) {
-            entry = to;
+    for (int i = 0; i < g_used; i++) {
+        if (g_items[i] == from) {
+            g_items[i] = to;
             return true;
         }
     }
-    return false;
+    if (from != nullptr || g_used == sizeof g_items / sizeof g_items[0]) {
+        return false;
+    }
+    g_items[g_used++] = to;
+    return true;
 }
 
 int fake::liveItems() { return g_live; }

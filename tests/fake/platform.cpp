@@ -69,7 +69,8 @@ int push(const char* call, OSD_BOOL show, const void* attach, const tagOSD_MENU_
     if (!locked) {
         (void)pthread_mutex_unlock(&g_stMutex);
     }
-    const std::vector<unsigned char>& bytes = platform().blocks.at(canvas->stMem.pvVirAddr).second;
+    const auto it = platform().blocks.find(canvas->stMem.pvVirAddr);
+    const auto bytes = it != platform().blocks.end() ? it->second.second : std::vector<unsigned char>(GUARD);
     platform().pushes.push_back({locked, canvas, attach, {bytes.begin(), bytes.end() - GUARD}});
     return fails(call) ? -1 : 0;
 }
@@ -99,6 +100,9 @@ void setNumber(const std::string& key, int min, int max, int step, int cur)
 int business(tagITEM_NODE_S* item)
 {
     record(std::string("business ") + item->acItemIndex);
+    if (platform().host) {
+        platform().host(item);
+    }
     return -1; // not read by anybody
 }
 
@@ -137,16 +141,17 @@ int CFG_COM_SetTxtParams(char* key, char* value, OSD_BOOL save)
 
 int CFG_SYSTEM_GetLanguage(char* out)
 {
-    copyText(out, OSD_TEXT_LEN, "English");
+    record("language");
+    copyText(out, OSD_TEXT_LEN, platform().language);
     return fails("language") ? -1 : 0;
 }
 
-int CFG_LANG_GetString(char* /*language*/, char* key, char* out)
+int CFG_LANG_GetString(char* language, char* key, char* out)
 {
     if (fails("translate") || platform().untranslated.count(key) != 0) {
         return -1;
     }
-    copyText(out, OSD_TEXT_LEN, std::string("t.") + key);
+    copyText(out, OSD_TEXT_LEN, (strcmp(language, "German") == 0 ? "d." : platform().translated) + key);
     return 0;
 }
 
@@ -229,12 +234,23 @@ int MPP_MENU_SetMenuCb(int (*update)(OSD_BOOL, OSD_ATTACH_INFO_S*))
 
 int MPP_MENU_UpdateCanvasToAllChns(OSD_BOOL show, tagOSD_MENU_CANVAS_S* canvas)
 {
-    return push("push", show, nullptr, canvas);
+    const int result = push("push", show, nullptr, canvas);
+    if (platform().pushed) {
+        platform().pushed(show);
+    }
+    return result;
 }
 
 int MPP_MENU_UpdateCanvasToOneChn(OSD_BOOL show, OSD_ATTACH_INFO_S* attach, tagOSD_MENU_CANVAS_S* canvas)
 {
     return push("push one", show, attach, canvas);
+}
+
+// The library's holds cost nothing here.
+unsigned sleep(unsigned seconds)
+{
+    record(format("sleep %u", seconds));
+    return 0;
 }
 
 } // extern "C"

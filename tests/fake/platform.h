@@ -29,10 +29,14 @@ struct Platform {
     std::map<std::string, tagCFG_VALUE_INT_S> numbers; // the same
     std::map<std::string, std::string> pages;          // page name to document text
     std::function<void(tinyxml2::XMLDocument&)> build; // builds any document, when set
-    std::set<std::string> untranslated;                // any other key answers "t." and the key
+    std::set<std::string> untranslated;                // any other key answers this and the key
+    std::string translated = "t.";
+    std::string language = "English"; // in "German" the answer is "d." and the key
     std::string deviceType;
     std::map<int, std::string> answers;                    // of the get-callback, by event
     std::map<std::string, std::string> parents;            // of data zones
+    std::function<void(tagITEM_NODE_S*)> host;             // runs inside the business function
+    std::function<void(OSD_BOOL)> pushed;                  // runs inside each push to all channels
     bool garbage = false;                                  // unterminated texts and wild numbers everywhere
     int (*update)(OSD_BOOL, OSD_ATTACH_INFO_S*) = nullptr; // what MPP_MENU_SetMenuCb got
     tagOSD_MENU_CANVAS_S canvasAtCreate = {};

@@ -3,6 +3,7 @@
 
 #include "menu/core/flat_list.h"
 #include "menu/core/page.h"
+#include "tests/fake/keys.h"
 #include "tests/fake/menu_test.h"
 
 using namespace fake;
@@ -133,6 +134,40 @@ TEST_F(FaultTest, GarbageFromTheServicesStaysInBounds)
         EXPECT_LE(item->s32ValCnt, 32);
         for (int option = 0; item->enValType != NUMERICAL && option < item->s32ValCnt; option++) {
             EXPECT_LT(strnlen(item->acValue[option], OSD_TEXT_LEN), 32u) << item->acItemIndex;
+        }
+    }
+}
+
+TEST_F(FaultTest, Keys)
+{
+    const std::string head = "<P Layout='vertical_align'><I ItemIndex='";
+    setText("Language", "English:German", "English");
+    platform().pages["confirm"] = head + "Yes' Ctx='NAME' Attr='CONFIRM'/></P>";
+    platform().pages["more"] = head + "Language' Ctx='NAME_VAL' Attr='COMMON'/></P>";
+    openMenu();
+    const std::vector<unsigned char> undisturbed = redraw();
+    (void)osdMenuReleaseSinglePage();
+    const auto walk = [] {
+        (void)printed([] {
+            press("open up home home up home right left menu up home right up home set"); // confirm, language, address
+            press("down down down right right right home home menu advanced close");
+        });
+    };
+    const auto check = [&] {
+        EXPECT_EQ(liveItems(), 0);
+        EXPECT_EQ(calls().surfaces.size(), 1u);
+        openMenu();
+        EXPECT_TRUE(redraw() == undisturbed);
+        (void)printed([] { press("close"); });
+    };
+    failEach({"language", "document", "push"}, walk, check);
+    for (const char* page : {"confirm", "more", "main"}) {
+        const std::string whole = platform().pages.at(page);
+        for (const char* broken : {"", "<", "<P/>", "<P Layout='vertical_align'><I/></P>"}) {
+            platform().pages[page] = broken;
+            walk();
+            platform().pages[page] = whole;
+            check();
         }
     }
 }

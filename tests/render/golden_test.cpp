@@ -1,34 +1,102 @@
-// Reference pictures of the vertical list, with the staged fonts and pictures.
+// Reference pictures of each layout, with the staged fonts and pictures.
+#include <cstdlib>
+
 #include "tests/fake/golden.h"
 #include "tests/fake/menu_test.h"
 
 using namespace fake;
 
-class GoldenTest : public MenuTest, public testing::WithParamInterface<std::pair<uint32_t, OSD_BOOL>> {};
+namespace {
 
-TEST_P(GoldenTest, VerticalList)
+const char LIST[] = R"(
+    <I ItemIndex="Exposure" Ctx="NAME_VAL" Attr="SUBITEM" PicType="IPTYPE"><O ModeIndex="Manual">
+        <I ItemIndex="Gain" Ctx="NAME_BAR_VAL" Attr="COMMON" ValType="NUMERICAL"/></O><O ModeIndex="Auto"/></I>
+    <I ItemIndex="Address" Ctx="NAME_IP_VAL" Attr="EDITABLE" ValType="EDITTXT" NumOfChar="15"/>
+    <I ItemIndex="曝光模式" Ctx="NAME_VAL" Attr="STATUS"/>
+    <I ItemIndex="高级 / Über" Ctx="NAME" Attr="SUBPAGE" SubPage="more"/>
+    <I ItemIndex="Restart" Ctx="NAME" Attr="CONFIRM_POP_BTN" Line="1" ItemPos="Center" ConfirmPage="ask"/></P>)";
+
+const char POPUP[] = R"(
+    <I ItemIndex="Yes" Ctx="NAME" Attr="CONFIRM" ItemCnt="2"/>
+    <I ItemIndex="No" Ctx="NAME" Attr="CONFIRM" ItemCnt="2" ItemIndexOnLine="1"/></P>)";
+
+const char GRID[] = R"(
+    <I ItemIndex="Image" Ctx="ICON_TXT" Pic="arrow_left" SelectPic="arrow_all" Attr="SUBPAGE" SubPage="image"/>
+    <I ItemIndex="Network" Ctx="ICON_TXT" Pic="arrow_right" SelectPic="arrow_all" Attr="SUBPAGE" SubPage="network"/>
+    <I ItemIndex="Video" Ctx="ICON_TXT" Pic="arrow_top" Attr="SUBPAGE" SubPage="video"/>
+    <I ItemIndex="System" Ctx="ICON_TXT" Pic="nav_arrow" Attr="SUBPAGE" SubPage="system"/></P>)";
+
+struct Picture {
+    const char *name, *head, *items;
+    float w, h; // of the menu
+};
+
+constexpr Picture TOLVANE = {"tolvane", R"(<P Layout="vertical_tolvane_align" Title="Image" TitlePos="Left">)", LIST,
+                             0.35f, 0.5f};
+constexpr Picture PICTURES[] = {
+    {"vertical", R"(<P Layout="vertical_align" Title="Image" TitlePos="Left">)", LIST, 0.35f, 0.5f},
+    TOLVANE,
+    {"paged", R"(<P Layout="vertical_align_keth" Title="Image" TitlePos="Left" CurPagesNum="1/2" NextPage="n">)", LIST,
+     0.35f, 0.5f},
+    {"popup", R"(<P Layout="horizontal_align" Title="Restart?" TitlePos="Center">)", POPUP, 0.5f, 0.8f},
+    {"popup_message",
+     R"(<P Layout="horizontal_align_keth" Title="Restart?" TitlePos="Center" Msg="The picture goes dark">)", POPUP,
+     0.5f, 0.8f},
+    {"icons", R"(<P Layout="icon" CountPerLine="3">)", GRID, 0.5f, 0.8f}};
+
+} // namespace
+
+class GoldenTest : public MenuTest {
+protected:
+    void draw(const Picture& picture, uint32_t style, uint32_t pixels, OSD_BOOL big)
+    {
+        calls().fakeFonts = calls().fakePictures = false;
+        platform().translated = "";
+        setText("Exposure", "", "Manual");
+        setText("Address", "", "192.168.1.20");
+        setNumber("Gain", 0, 100, 1, 60);
+        start({style, pixels, big, {0.0f, 0.0f, picture.w, picture.h}, false});
+        tagPAGE_NODE_S* page = open("page", std::string(picture.head) + picture.items);
+        page->s32SelIdx = 1;
+        page->bKeyMsg = 1;
+        setField(page->acKeyMsg, "Press Home to apply");
+        itemAt(page->stItemList, 1)->bEditing = 1;
+        itemAt(page->stItemList, 1)->s32EditCursor = 8;
+        ASSERT_EQ(OSD_MENU_RenderCanvas(), 0);
+    }
+};
+
+TEST_F(GoldenTest, EveryLayoutInTwoSkinsAndSizes)
 {
-    const auto [style, big] = GetParam();
-    calls().fakeFonts = false;
-    calls().fakePictures = false;
-    start({style, 2, big, {0.0f, 0.0f, 0.35f, 0.5f}, false});
-    tagPAGE_NODE_S* page = addPage(PAGE_LAYOUT_VERTICAL, "Image");
-    addItem(page, "Exposure", NAME_VAL, COMMON, "Automatic")->bActive = 1;
-    setRange(addItem(page, "Brightness", NAME_BAR_VAL, COMMON), 0, 100, 1, 60);
-    tagITEM_NODE_S* mode = addItem(page, "Address", NAME_VAL, SUBITEM);
-    setOptions(mode, {"Dynamic", "Static"}, 1);
-    tagITEM_NODE_S* address = addSubItem(mode, 1, "IP address", NAME_IP_VAL, EDITABLE);
-    address->enValType = EDITTXT;
-    address->bEditing = 1;
-    address->s32EditCursor = 8;
-    setField(address->acValue[1], "192.168.001.020");
-    addItem(page, u8"\u9ad8\u7ea7 / \u00dcber", NAME, SUBPAGE);
-    addItem(page, "Apply", NAME, CONFIRM_POP_BTN)->enItemPos = ITEM_POS_CENTER;
-    page->bKeyMsg = 1;
-    setField(page->acKeyMsg, "Press Home to apply");
-    ASSERT_EQ(OSD_MENU_RenderCanvas(), 0);
-    EXPECT_TRUE(matchesGolden(gstMenuMgr.pstSurface, format("vertical_skin%u_%d", style, big == 1 ? 2160 : 1080)));
+    for (const Picture& picture : PICTURES) {
+        for (const auto& [style, big] : {std::pair(0u, 0), {0u, 1}, {1u, 0}, {1u, 1}}) {
+            draw(picture, style, 2, big);
+            const std::string name = format("%s_skin%u_%d", picture.name, style, big == 1 ? 2160 : 1080);
+            EXPECT_TRUE(matchesGolden(gstMenuMgr.pstSurface, name));
+            stop();
+        }
+    }
+    platform().language = "TraditionalChinese";
+    draw(TOLVANE, 0, 2, 0);
+    EXPECT_TRUE(matchesGolden(gstMenuMgr.pstSurface, "tolvane_chinese_skin0_1080"));
 }
 
-INSTANTIATE_TEST_SUITE_P(Skins, GoldenTest,
-                         testing::Values(std::pair(0u, 0), std::pair(0u, 1), std::pair(1u, 0), std::pair(1u, 1)));
+TEST_F(GoldenTest, FormatsAgreeInTheirPrecision)
+{
+    std::vector<uint32_t> exact;
+    for (const auto& [pixels, step] : {std::pair(2u, 0), {0u, 9}, {1u, 17}}) {
+        draw(TOLVANE, 0, pixels, 0);
+        SDL_Surface* canvas = gstMenuMgr.pstSurface;
+        int worst = 0;
+        for (int at = 0; at < canvas->w * canvas->h; at++) {
+            const uint32_t pixel = pixelAt(canvas, at % canvas->w, at / canvas->w);
+            exact.push_back(pixel); // the first round's stay in front
+            for (const int shift : {0, 8, 16}) {
+                const auto channel = [=](uint32_t of) { return static_cast<int>(of >> shift & 0xFF); };
+                worst = std::max(worst, std::abs(channel(pixel) - channel(exact[static_cast<size_t>(at)])));
+            }
+        }
+        EXPECT_LE(worst, 2 * step) << "in format " << pixels; // the ground's step and the text's on it
+        stop();
+    }
+}
