@@ -34,8 +34,8 @@ typedef struct tagOSD_MENU_CFG_S {
     uint32_t enMenuStyle;          /* skin, 0 to 2 */
 } tagOSD_MENU_CFG_S;
 
-/* Applies an item's value. Called on the key's thread with no lock held; the result is not read. May call every function of
- * the library, keys and refreshes too; the item is gone when its page is closed or built anew. */
+/* Applies an item's value. Called on the key's thread with no lock held; the result is not read. May call every
+ * function of the library, keys and refreshes too; the item is gone when its page is closed or built anew. */
 typedef int (*OSD_BUSINESS_FUNC)(tagITEM_NODE_S*);
 
 /* Maps a data zone to the parent key of a lookup; null looks the key up without a parent. Must not call the library. */
@@ -174,7 +174,7 @@ OSD_API int OSD_MENU_ReturnMenu(void);
 OSD_API int OSD_MENU_CloseMenu(void);
 
 /* Directions, by what they meet; a diagonal makes both moves and draws once. Nothing happens while the menu is closed.
- *   list               up and down move the cursor, left and right step the value, which then goes to the business function
+ *   list               up and down move the cursor, left and right step the value, which goes to the business function
  *   paged list         the same; at the ends of the list up and down turn the page, and right enters a sub-page
  *   popup              left and right move the cursor
  *   icon page          all four move through the grid
@@ -192,15 +192,15 @@ OSD_API int OSD_MENU_HandleKeyDown_Right(void);
 OSD_API int OSD_MENU_HandleKeyLeftUpdateItem(void);
 OSD_API int OSD_MENU_HandleKeyRightUpdateItem(void);
 
-/* Hands the selected item of a list to the business function, changed or not, and draws. A value that waits for the home
- * key, and a DNS mode that a static address mode holds, are only drawn. Nothing happens on icon and popup pages and on
- * pages that a confirm page applies, but "network". */
+/* Hands the selected item of a list to the business function, changed or not, and draws. A value that waits for the
+ * home key, and a DNS mode that a static address mode holds, are only drawn. Nothing happens on icon and popup pages
+ * and on pages that a confirm page applies, but "network". */
 OSD_API int OSD_MENU_HandleSetParam(void);
 
 /* The enter key: opens the sub-page or confirm page of the selected item, answers a confirm page, presses a button,
- * applies a waiting value, or starts and ends the editing of an address. "Yes" holds its caller for one second, unless it
- * applies the whole page below. Returns -1 when no item is selected (with no line in the log), when no language can be had,
- * and when the page to open can't be read or would be the sixth; 0 while the menu is closed. */
+ * applies a waiting value, or starts and ends the editing of an address. "Yes" holds its caller for one second, unless
+ * it applies the whole page below. Returns -1 when no item is selected (with no line in the log), when no language can
+ * be had, and when the page to open can't be read or would be the sixth; 0 while the menu is closed. */
 OSD_API int OSD_MENU_HandleKeyHome(void);
 
 /* 1 when the top page is "network". */
@@ -230,8 +230,8 @@ OSD_API int OSD_MENU_RenderHorizontalCanvasWithKETH(tagPAGE_NODE_S* pstPage); /*
 /* Draw one item with its visible sub-items in the vertical, the Tolvane and the paged list.
  * pstLayoutCursor  y and h of the row above, y 0 for none; stands on the last row drawn afterwards
  * bSelected        the item holds the cursor
- * On failure the row has no text and the cursor stays; what goes before a text stays too: the arrow of a Tolvane row, the
- * picture of a button, and a separator line, on which the cursor then stands. */
+ * On failure the row has no text and the cursor stays; what goes before a text stays too: the arrow of a Tolvane row,
+ * the picture of a button, and a separator line, on which the cursor then stands. */
 OSD_API int OSD_MENU_RenderVerticalItem(tagITEM_NODE_S* pstItemNode, SDL_Rect* pstLayoutCursor, OSD_BOOL bSelected);
 OSD_API int OSD_MENU_RenderVerticalTolvaneItem(tagITEM_NODE_S* pstItemNode, SDL_Rect* pstLayoutCursor,
                                                OSD_BOOL bSelected);

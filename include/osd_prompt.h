@@ -6,8 +6,8 @@
  *   - Calls on one handler come from one thread at a time. They may run beside the menu's functions: fonts and canvas
  *     are a prompt's own.
  *
- * Order of calls: create, then any number of updates, then destroy. Places are on a base of 3840 by 2160 pixels, whatever
- * the base of the menu. */
+ * Order of calls: create, then any number of updates, then destroy. Places are on a base of 3840 by 2160 pixels,
+ * whatever the base of the menu. */
 #pragma once
 
 #include <SDL.h>

@@ -18,8 +18,8 @@ inline bool osdItemWaits(const tagITEM_NODE_S* pstItem)
 // this call.
 void osdItemApply(tagITEM_NODE_S* pstItem);
 
-// The same for an item of the marked page; false when it is gone. A page that only lies above the item's counts as well,
-// as then nothing is lost but a refresh.
+// The same for an item of the marked page; false when it is gone. A page that only lies above the item's counts as
+// well, as then nothing is lost but a refresh.
 bool osdItemSurvives(const tagPAGE_MARK_S& stMark, tagITEM_NODE_S* pstItem);
 
 extern "C" {
@@ -40,7 +40,7 @@ OSD_API int osdMenuInvokeBusinessFunc(tagITEM_NODE_S* pstItemNode);
 // the change yet, computes it from the selected item. Returns 0.
 OSD_API int osdMenuUpdateStatusWithCustomColor(tagPAGE_NODE_S* pstPage, list_head* pstList, OSD_BOOL bUpdate);
 
-// 1 when the item is a DNS mode and right behind a committed static address mode in the most recent flattened list. Both
-// must be items of an open page.
+// 1 when the item is a DNS mode and right behind a committed static address mode in the most recent flattened list.
+// Both must be items of an open page.
 OSD_API OSD_BOOL osdXmlIsStaticOfNetMode(tagITEM_NODE_S* pstItemNode);
 }

@@ -1,8 +1,8 @@
 // Confirm pages: a page with the items "Yes" and "No" above the page that it asks about.
 //
-// The handlers carry out an answer. pstItemNode is the selected item of the confirm page, pstPage the confirm page, the top
-// page. They return 0, after "Yes" and "No" with the confirm page gone; 1 when the page below is not theirs and -1 when there
-// is no language, both with nothing done.
+// The handlers carry out an answer. pstItemNode is the selected item of the confirm page, pstPage the confirm page, the
+// top page. They return 0, after "Yes" and "No" with the confirm page gone; 1 when the page below is not theirs and -1
+// when there is no language, both with nothing done.
 #pragma once
 
 #include "osd_records.h"

@@ -1,4 +1,5 @@
-// The grid of layout "icon". Fractions of the menu's width W and height H, and of a cell; n cells in a row, room for n rows:
+// The grid of layout "icon". Fractions of the menu's width W and height H, and of a cell; n cells in a row, room for n
+// rows:
 //
 //       0.05 W    0.1 W between cells
 //       +--------+         +--------+      first row 0.02 H below the top, rows 0.05 H apart

@@ -7,8 +7,8 @@ extern "C" {
 // Draws the arrows that tell which way the page turns, or none. Returns 0.
 OSD_API int osdMenuDrawTurnArrow(tagPAGE_TURN_S* pstTurn);
 
-// Draws the title and the rule under it; pstLayoutCursor stands on the rule afterwards. bSelected isn't read. Returns 0,
-// or -1 with the cursor unchanged.
+// Draws the title and the rule under it; pstLayoutCursor stands on the rule afterwards. bSelected isn't read. Returns
+// 0, or -1 with the cursor unchanged.
 OSD_API int OSD_MENU_RenderTitleKETHItem(tagITEM_NODE_S* pstItemNode, SDL_Rect* pstLayoutCursor, OSD_BOOL bSelected);
 
 // Places and draws the label of a row, with its separator line and its arrow. Gives the place and the surface, which is

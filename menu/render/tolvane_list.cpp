@@ -1,5 +1,5 @@
-// The list of layout "vertical_tolvane_align". Fractions of the menu's width W and height H, from the canvas's corner; the
-// rule and the hints from the menu's:
+// The list of layout "vertical_tolvane_align". Fractions of the menu's width W and height H, from the canvas's corner;
+// the rule and the hints from the menu's:
 //
 //        0.05 W                    0.95 W - vw            0.95 W
 //        |                         |                      |

@@ -1,8 +1,6 @@
 // Page files as text, and what the library makes of them as text.
 #pragma once
 
-#include <regex>
-
 #include "tests/fake/menu_test.h"
 
 namespace fake {
@@ -15,8 +13,8 @@ inline std::string page(const std::string& children, const std::string& attribut
 // An item whose key, context and attribute may stand as plain words in front: "Gain NAME_VAL COMMON DataZone='Cam'".
 inline std::string item(const std::string& text, const std::string& options = "")
 {
-    static const std::regex words(R"(^(\w+) (\w+) (\w+)\b)");
-    return "<Item " + std::regex_replace(text, words, "ItemIndex='$1' Ctx='$2' Attr='$3'") + ">" + options + "</Item>";
+    return "<Item " + replaced(text, R"(^(\w+) (\w+) (\w+)\b)", "ItemIndex='$1' Ctx='$2' Attr='$3'") + ">" + options +
+           "</Item>";
 }
 
 class PageTest : public MenuTest {

@@ -63,14 +63,31 @@ std::vector<std::string> blits()
     return found;
 }
 
+static const std::regex& compiled(const std::string& pattern)
+{
+    static std::map<std::string, std::regex> all;
+    return all.try_emplace(pattern, pattern).first->second;
+}
+
+std::string replaced(const std::string& text, const std::string& pattern, const std::string& with)
+{
+    return std::regex_replace(text, compiled(pattern), with);
+}
+
+std::vector<std::string> matched(const std::string& text, const std::string& pattern)
+{
+    std::smatch match;
+    return std::regex_match(text, match, compiled(pattern)) ? std::vector<std::string>(match.begin() + 1, match.end())
+                                                            : std::vector<std::string>();
+}
+
 std::string printed(const std::function<void()>& function)
 {
     testing::internal::CaptureStdout();
     function();
     (void)fflush(stdout);
-    static const std::regex place(R"((\w+)([ :-])\d+)");
-    static const std::regex name(R"(\w+( don't find ))");
-    return std::regex_replace(std::regex_replace(testing::internal::GetCapturedStdout(), place, "F$2L"), name, "F$1");
+    const std::string lines = replaced(testing::internal::GetCapturedStdout(), R"((\w+)([ :-])\d+)", "F$2L");
+    return replaced(lines, R"(\w+( don't find ))", "F$1");
 }
 
 } // namespace fake

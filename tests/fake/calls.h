@@ -44,6 +44,11 @@ std::vector<std::string> linesOf(const std::vector<std::string>& words);
 // What was blitted onto the canvas, such as "plain 28 white 'Gain' at 20,60".
 std::vector<std::string> blits();
 
+// Regular expressions take long to compile, so they stand in one file. All matches replaced, "$1" for the first group;
+// and the groups of a match with the whole text, none without one.
+std::string replaced(const std::string& text, const std::string& pattern, const std::string& with);
+std::vector<std::string> matched(const std::string& text, const std::string& pattern);
+
 // What a function prints; function names and source lines read "F" and "L".
 std::string printed(const std::function<void()>& function);
 

@@ -10,7 +10,8 @@ using namespace fake;
 
 namespace {
 
-const char MAIN_PAGE[] = R"(<P Layout="vertical_align" Title="Setup" TitlePos="Left">
+// The page behind its layout.
+const char PAGE[] = R"( Title="Setup" TitlePos="Left">
     <I ItemIndex="Zoom" Ctx="NAME_BAR_VAL" Attr="COMMON" ValType="NUMERICAL"/>
     <I ItemIndex="Gain" Ctx="NAME_VAL" Attr="KEY_WITH_MSG" Msg="Confirm" DataZone="Cam"/>
     <I ItemIndex="Live" Ctx="NAME_VAL" Attr="CONST_TXT" ShowValue="1"/>
@@ -37,7 +38,7 @@ protected:
         setText("DnsMode", "", "Manual");
         setText("IpAddr", "", "10.0.0.7");
         platform().deviceType = "PTZ";
-        platform().pages["main"] = MAIN_PAGE;
+        platform().pages["main"] = std::string("<P Layout='vertical_align'") + PAGE;
         start({0, 1, 0, {0.0f, 0.0f, 0.3f, 0.6f}, false});
     }
 
@@ -85,18 +86,30 @@ protected:
 
 TEST_F(FaultTest, Redraw)
 {
-    openMenu();
-    const std::vector<unsigned char> undisturbed = redraw();
-    const size_t surfaces = calls().surfaces.size();
-    failEach(
-        {"TTF_SetFontSize", "TTF_SizeUTF8", "TTF_RenderUTF8_Blended", "SDL_CreateRGBSurfaceWithFormat",
-         "SDL_ConvertSurfaceFormat", "rotozoomSurfaceXY", "IMG_Load", "access", "SDL_FillRect", "SDL_UpperBlit", "text",
-         "translate", "language", "push"},
-        [] { (void)redraw(); },
-        [&] {
-            EXPECT_EQ(calls().surfaces.size(), surfaces);
-            EXPECT_TRUE(redraw() == undisturbed);
-        });
+    const std::vector<std::string> drawing = {"TTF_SetFontSize", "TTF_SizeUTF8",  "TTF_RenderUTF8_Blended",
+                                              "SDL_FillRect",    "SDL_UpperBlit", "push"};
+    const std::vector<std::string> pictures = {"SDL_ConvertSurfaceFormat", "rotozoomSurfaceXY", "IMG_Load", "access"};
+    const std::vector<std::string> values = {"SDL_CreateRGBSurfaceWithFormat", "text", "translate", "language"};
+    const std::pair<const char*, std::vector<std::vector<std::string>>> layouts[] = {
+        {"vertical_align", {drawing, pictures, values}},
+        {"vertical_tolvane_align", {drawing, pictures, values}},
+        {"vertical_align_keth' CurPagesNum='1' NextPage='x", {drawing, pictures, values}},
+        {"icon' CountPerLine='3", {drawing, pictures, {"language"}}}};
+    for (const auto& [layout, groups] : layouts) {
+        platform().pages["main"] = "<P Layout='" + std::string(layout) + "'" + PAGE;
+        openMenu();
+        const std::vector<unsigned char> undisturbed = redraw();
+        const size_t surfaces = calls().surfaces.size();
+        for (const std::vector<std::string>& names : groups) {
+            failEach(
+                names, [] { (void)redraw(); },
+                [&] {
+                    EXPECT_EQ(calls().surfaces.size(), surfaces) << layout;
+                    EXPECT_TRUE(redraw() == undisturbed) << layout;
+                });
+        }
+        (void)osdMenuReleaseSinglePage();
+    }
 }
 
 TEST_F(FaultTest, Open)

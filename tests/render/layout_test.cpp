@@ -1,6 +1,5 @@
 // The other layouts on recorded calls; the fake fonts are 20 pixels a byte wide and 30 high. A text reads
 // "p28w 'Gain' 20,60": plain, 28 pixels, white.
-#include <regex>
 
 #include "menu/core/flat_list.h"
 #include "tests/fake/menu_test.h"
@@ -24,12 +23,12 @@ protected:
     {
         calls().lines.clear();
         EXPECT_EQ(OSD_MENU_RenderCanvas(), 0);
-        static const std::regex text(R"((\w)\w* (\d+) (\w)\w* ('.*'))"), at(" at ");
         std::string rows;
         for (const std::string& line : linesOf({"blit ", "fill "})) {
             if (line.find(" on ") == std::string::npos && line.find("a0a0a") == std::string::npos) {
-                const std::string row = std::regex_replace(line.substr(line[0] == 'b' ? 5 : 0), text, "$1$2$3 $4");
-                rows += (rows.empty() ? "" : "; ") + std::regex_replace(row, at, " ");
+                const std::string row =
+                    replaced(line.substr(line[0] == 'b' ? 5 : 0), R"((\w)\w* (\d+) (\w)\w* ('.*'))", "$1$2$3 $4");
+                rows += (rows.empty() ? "" : "; ") + replaced(row, " at ", " ");
             }
         }
         return rows;
