@@ -97,6 +97,7 @@ TEST_F(FaultTest, Redraw)
         {"icon' CountPerLine='3", {drawing, pictures, {"language"}}}};
     for (const auto& [layout, groups] : layouts) {
         platform().pages["main"] = "<P Layout='" + std::string(layout) + "'" + PAGE;
+        SCOPED_TRACE(layout);
         openMenu();
         const std::vector<unsigned char> undisturbed = redraw();
         const size_t surfaces = calls().surfaces.size();
@@ -104,8 +105,8 @@ TEST_F(FaultTest, Redraw)
             failEach(
                 names, [] { (void)redraw(); },
                 [&] {
-                    EXPECT_EQ(calls().surfaces.size(), surfaces) << layout;
-                    EXPECT_TRUE(redraw() == undisturbed) << layout;
+                    EXPECT_EQ(calls().surfaces.size(), surfaces);
+                    EXPECT_TRUE(redraw() == undisturbed);
                 });
         }
         (void)osdMenuReleaseSinglePage();
