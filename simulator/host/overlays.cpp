@@ -15,10 +15,9 @@ constexpr double prompt_seconds = 3;
 constexpr OSD_PROMPT_COLOR_S white = {255, 255, 255, 255};
 constexpr OSD_PROMPT_COLOR_S red = {255, 230, 40, 30};
 constexpr OSD_PROMPT_COLOR_S half_black = {128, 0, 0, 0};
-constexpr OSD_PROMPT_COLOR_S clear = {0, 0, 0, 0};
 
 constexpr OSD_PROMPT_CFG_S prompt_look = {40, 0, white, half_black, 0.5, 0.9};
-constexpr OSD_PROMPT_CFG_S recording_look = {36, 0, red, clear, 0.97, 0.97};
+constexpr OSD_PROMPT_CFG_S recording_look = {36, 0, red, half_black, 0.97, 0.1};
 
 const char* const marker_file = "/tmp/.mpp_reloading"; // the library tests for it
 
