@@ -71,6 +71,11 @@ Camera::Camera(const CameraConfig& config)
     if (!forced_language_.empty()) {
         settings_.set_for_this_run(language_setting, forced_language_);
     }
+    settings_.listen([this](const SettingId& id, const std::string&) {
+        if (name_of(id) == name_of(language_setting)) {
+            events_.tell({"language", language()});
+        }
+    });
     set_current_camera(this);
 }
 
@@ -93,15 +98,6 @@ double Camera::seconds() const
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start_).count();
 }
 
-void Camera::change(const SettingId& id, const std::string& text)
-{
-    const std::string before = language();
-    settings_.set(id, text);
-    if (language() != before) {
-        events_.tell({"language", language()});
-    }
-}
-
 std::unique_ptr<tinyxml2::XMLDocument> Camera::open_page(const std::filesystem::path& path)
 {
     const std::filesystem::path own = pages_ / path.filename();
@@ -117,6 +113,7 @@ bool Camera::restart_if_asked()
     if (!std::exchange(restart_asked_, false)) {
         return false;
     }
+    const std::lock_guard<std::mutex> lock(look_mutex_);
     picture_start_ = seconds();
     mounting_ = look_of(settings_).mounting;
     return true;
@@ -143,7 +140,7 @@ bool Camera::push_canvas(bool show, const tagOSD_MENU_CANVAS_S& canvas, std::opt
     return true;
 }
 
-void Camera::start_channel(int channel)
+void Camera::attach(int channel)
 {
     if (menu_refresh_ != nullptr && started_channels_.insert(channel).second) {
         OSD_ATTACH_INFO_S which{channel};
@@ -151,14 +148,40 @@ void Camera::start_channel(int channel)
     }
 }
 
-Image Camera::look_at(int channel)
+Camera::Moment Camera::present_moment() const
 {
-    start_channel(channel);
-    Look look = look_of(settings_);
-    look.mounting = mounting_;
-    Image picture = draw_picture(channels_.size(channel), look, still_ ? 0.0 : seconds() - picture_start_);
+    const std::lock_guard<std::mutex> lock(look_mutex_);
+    Moment moment{look_of(settings_), still_ ? 0.0 : seconds() - picture_start_};
+    moment.look.mounting = mounting_;
+    return moment;
+}
+
+Image Camera::draw(int channel)
+{
+    const Moment moment = present_moment();
+    Image picture = draw_picture(channels_.size(channel), moment.look, moment.seconds);
     channels_.lay_canvases_over(channel, picture);
     return picture;
+}
+
+Image Camera::look_at(int channel)
+{
+    attach(channel);
+    return draw(channel);
+}
+
+void Camera::resize(bool uhd) { channels_.resize_main(uhd ? ultra_hd : full_hd); }
+
+void Camera::replace_definitions(Definitions definitions)
+{
+    Settings::Values changed;
+    {
+        const std::lock_guard<std::mutex> lock(look_mutex_); // no look may be made of the new settings and old values
+        definitions_ = std::move(definitions);
+        changed = settings_.follow_definitions();
+    }
+    settings_.tell(changed);
+    events_.tell({"definitions", ""});
 }
 
 } // namespace sim

@@ -4,6 +4,7 @@
 #include <chrono>
 #include <filesystem>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <set>
 #include <string>
@@ -35,6 +36,8 @@ struct CameraConfig {
 };
 
 /// Owns the services and the channels. One camera at a time: the platform functions forward to it.
+///
+/// One thread, which runs the menu, makes all calls. Others may call draw(), channels() and faults(), and no more.
 class Camera {
 public:
     /// Throws BadInput for broken files, an unusable data folder and an unknown language, all before it changes
@@ -62,8 +65,8 @@ public:
     /// begins with no letter, such as an address, is no key and not reported.
     const std::string* translate(const std::string& language, const std::string& key);
 
-    /// Stores the new value of a setting, and tells of it when that is the language. Throws as Settings::set() does.
-    void change(const SettingId& id, const std::string& text);
+    /// Stores the new value of a setting. Throws as Settings::set() does.
+    void change(const SettingId& id, const std::string& text) { settings_.set(id, text); }
 
     /// The document of a page file, from the folder of the configuration when that has one of the same name; null, with
     /// file and line in the log, when it can't be had.
@@ -82,13 +85,27 @@ public:
     using MenuRefresh = int (*)(OSD_BOOL, OSD_ATTACH_INFO_S*);
     void set_menu_refresh(MenuRefresh refresh) { menu_refresh_ = refresh; }
 
-    /// What a channel shows at this moment: the picture with its canvases. A channel starts when it is looked at for
-    /// the first time, and asks the menu for its canvas then.
+    /// Starts a channel, which asks the menu for its canvas then; does nothing when it has started.
+    void attach(int channel);
+    /// What a channel shows at this moment: the picture with its canvases. On any thread.
+    Image draw(int channel);
+    /// attach() and draw().
     Image look_at(int channel);
 
-private:
-    void start_channel(int channel);
+    /// Gives the main channel 3840 by 2160 pixels, or 1920 by 1080.
+    void resize(bool uhd);
 
+    /// Puts other definitions in the place of the present ones; the settings follow them.
+    void replace_definitions(Definitions definitions);
+
+private:
+    struct Moment {
+        Look look;
+        double seconds = 0; ///< of the scene
+    };
+    Moment present_moment() const;
+
+    mutable std::mutex look_mutex_; ///< guards what a look is made of: definitions_, picture_start_, mounting_
     Definitions definitions_;
     Translations translations_;
     std::string forced_language_; ///< option key, empty when the setting decides

@@ -14,6 +14,7 @@ namespace sim {
 ///   business KEY=VALUE   the menu applies a value; business KEY where there is none, such as a button
 ///   set KEY=VALUE        the menu stores a value itself
 ///   language NAME        the camera speaks another language from now on
+///   definitions          the settings have other definitions from now on
 ///   show, hide           the menu was pushed to all channels, or taken away from them
 struct Event {
     std::string kind;

@@ -55,19 +55,23 @@ std::string line_of(const json::parse_error& error, const std::string& text)
 
 json load_json_object(const std::filesystem::path& path)
 {
-    const std::string text = read_text_file(path);
+    return parse_json_object(read_text_file(path), path.string());
+}
+
+json parse_json_object(const std::string& text, const std::string& place)
+{
     json root;
     try {
         // The finder is handed over by reference: the parser copies its callback.
-        DuplicateFinder finder(path.string());
+        DuplicateFinder finder(place);
         root = json::parse(text, std::ref(finder));
     } catch (const json::parse_error& error) {
-        throw BadInput(path.string() + line_of(error, text) + ": " + words_behind(": ", error));
+        throw BadInput(place + line_of(error, text) + ": " + words_behind(": ", error));
     } catch (const json::exception& error) { // well formed, but no value of this machine: 1e999
-        throw BadInput(path.string() + ": " + words_behind("] ", error));
+        throw BadInput(place + ": " + words_behind("] ", error));
     }
     if (!root.is_object()) {
-        throw BadInput(path.string() + ": the file must hold one object, { ... }");
+        throw BadInput(place + ": expected one object, { ... }");
     }
     return root;
 }

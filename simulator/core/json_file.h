@@ -12,6 +12,8 @@ namespace sim {
 /// Reads a file whose top level is an object. Throws BadInput with the file and the reason, and the line of a syntax
 /// error; a field given twice is an error too.
 nlohmann::json load_json_object(const std::filesystem::path& path);
+/// The same from a text; its errors begin with the place.
+nlohmann::json parse_json_object(const std::string& text, const std::string& place);
 
 /// Reads the fields of one object. Each complaint is a BadInput that begins with the place, such as
 /// "settings.json: setting 'Zoom'".

@@ -5,13 +5,31 @@
 #include <chrono>
 #include <cstdio>
 #include <ctime>
+#include <exception>
+#include <mutex>
 #include <new>
 #include <string>
+#include <utility>
 
 namespace sim {
 namespace {
 
-constexpr std::array<const char*, 8> level_names = {"EMERG", "ALERT", "CRIT", "ERROR", "WARN", "NOTE", "INFO", "DEBUG"};
+constexpr std::array<const char*, 9> level_names = {"EMERG", "ALERT", "CRIT",  "ERROR", "WARN",
+                                                    "NOTE",  "INFO",  "DEBUG", "TRACE"};
+
+struct Listeners {
+    std::mutex mutex; ///< held while a listener runs, so that none runs behind its removal
+    std::list<LogListener::Function> functions;
+};
+
+Listeners& listeners()
+{
+    static auto* const all = new Listeners; // for the life of the process: threads may log to its end
+    return *all;
+}
+
+thread_local bool inside_listener = false;
+thread_local LogTrap* trap = nullptr;
 
 std::string time_of_day()
 {
@@ -35,18 +53,63 @@ std::string on_one_line(std::string_view text)
     return line;
 }
 
+LogEntry entry_of(LogLevel level, std::string_view tag, std::string_view text)
+{
+    const auto index = std::clamp<std::size_t>(static_cast<std::size_t>(level), 0, level_names.size() - 1);
+    return {time_of_day(), level_names[index], on_one_line(tag), on_one_line(text)};
+}
+
+void tell_listeners(const LogEntry& entry)
+{
+    if (inside_listener) {
+        return;
+    }
+    Listeners& all = listeners();
+    const std::lock_guard<std::mutex> lock(all.mutex);
+    inside_listener = true;
+    for (const LogListener::Function& function : all.functions) {
+        try {
+            function(entry);
+        } catch (const std::exception&) { // the log can't report its own listener
+        }
+    }
+    inside_listener = false;
+}
+
 } // namespace
 
 void log_line(LogLevel level, std::string_view tag, std::string_view text) noexcept
 {
     try {
-        const auto index = static_cast<std::size_t>(std::clamp(static_cast<int>(level), 0, 7));
-        const std::string line =
-            time_of_day() + " " + level_names[index] + " " + on_one_line(tag) + " " + on_one_line(text) + "\n";
+        LogEntry entry = entry_of(level, tag, text);
+        if (trap != nullptr) {
+            trap->entries_.push_back(std::move(entry));
+            return;
+        }
+        const std::string line = entry.time + " " + entry.level + " " + entry.tag + " " + entry.text + "\n";
         std::fwrite(line.data(), 1, line.size(), stderr); // one call, so that lines of two threads don't mix
+        tell_listeners(entry);
     } catch (const std::bad_alloc&) {
         std::fputs("no memory for a line of the log\n", stderr);
     }
 }
+
+LogListener::LogListener(Function function)
+{
+    Listeners& all = listeners();
+    const std::lock_guard<std::mutex> lock(all.mutex);
+    place_ = all.functions.insert(all.functions.end(), std::move(function));
+}
+
+LogListener::~LogListener()
+{
+    Listeners& all = listeners();
+    const std::lock_guard<std::mutex> lock(all.mutex);
+    all.functions.erase(place_);
+}
+
+LogTrap::LogTrap() : outer_(trap) { trap = this; }
+
+LogTrap::~LogTrap() { trap = outer_; }
 
 } // namespace sim

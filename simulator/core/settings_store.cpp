@@ -84,18 +84,38 @@ void SettingsStore::clear() { run("DELETE FROM setting"); }
 
 void SettingsStore::remove(const std::vector<SettingId>& ids)
 {
-    run("BEGIN IMMEDIATE");
-    for (const SettingId& id : ids) {
-        const Statement statement = prepare("DELETE FROM setting WHERE parent = ? AND key = ?");
-        bind_text(statement.get(), 1, id.parent);
-        bind_text(statement.get(), 2, id.key);
-        const int step = sqlite3_step(statement.get());
-        if (step != SQLITE_DONE) {
-            (void)sqlite3_exec(database_.get(), "ROLLBACK", nullptr, nullptr, nullptr); // the first failure counts
-            fail(step);
+    run_together([&] {
+        for (const SettingId& id : ids) {
+            const Statement statement = prepare("DELETE FROM setting WHERE parent = ? AND key = ?");
+            bind_text(statement.get(), 1, id.parent);
+            bind_text(statement.get(), 2, id.key);
+            const int step = sqlite3_step(statement.get());
+            if (step != SQLITE_DONE) {
+                fail(step);
+            }
         }
+    });
+}
+
+void SettingsStore::write_all(const std::map<SettingId, std::string>& values)
+{
+    run_together([&] {
+        for (const auto& [id, value] : values) {
+            write(id, value);
+        }
+    });
+}
+
+void SettingsStore::run_together(const std::function<void()>& body)
+{
+    run("BEGIN IMMEDIATE");
+    try {
+        body();
+        run("COMMIT");
+    } catch (...) {
+        (void)sqlite3_exec(database_.get(), "ROLLBACK", nullptr, nullptr, nullptr); // the first failure counts
+        throw;
     }
-    run("COMMIT");
 }
 
 void SettingsStore::run(const std::string& sql)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -31,9 +32,11 @@ public:
     explicit SettingsStore(const std::filesystem::path& file);
 
     std::map<SettingId, std::string> load_all();
-    /// These three throw std::runtime_error when the database refuses; nothing has changed then.
+    /// These four throw std::runtime_error when the database refuses; nothing has changed then.
     void write(const SettingId& id, const std::string& value);
     void clear();
+    /// Stores some values, all of them or none.
+    void write_all(const std::map<SettingId, std::string>& values);
     /// Forgets some values, all of them or none.
     void remove(const std::vector<SettingId>& ids);
 
@@ -47,6 +50,8 @@ private:
     using Statement = std::unique_ptr<sqlite3_stmt, Finalize>;
 
     void run(const std::string& sql);
+    /// Runs the body as one transaction, which is undone when it throws.
+    void run_together(const std::function<void()>& body);
     Statement prepare(const std::string& sql);
     /// The first column of the first row.
     std::string read_text(const std::string& sql);

@@ -20,7 +20,17 @@ class Channels {
 public:
     explicit Channels(Size main_size);
 
-    Size size(int channel) const { return channels_.at(static_cast<std::size_t>(channel)).size; }
+    Size size(int channel) const
+    {
+        const std::lock_guard<std::mutex> lock(mutex_);
+        return channels_.at(static_cast<std::size_t>(channel)).size;
+    }
+    /// Gives the main channel another size.
+    void resize_main(Size size)
+    {
+        const std::lock_guard<std::mutex> lock(mutex_);
+        channels_.front().size = size;
+    }
 
     /// A new canvas lies on top of the others, or below them.
     void show(int channel, const void* canvas, std::shared_ptr<const Layer> layer, bool below = false);
@@ -40,7 +50,7 @@ private:
         std::vector<Shown> pile; ///< lowest first
     };
 
-    std::mutex mutex_; ///< guards the piles
+    mutable std::mutex mutex_; ///< guards the channels
     std::array<Channel, channel_count> channels_;
 };
 
