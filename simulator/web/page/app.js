@@ -1,0 +1,220 @@
+// The simulated camera in a browser: shows what the camera tells, and sends what the person does.
+
+import { byId, make, setOptions, stored, wireTabs } from "./dom.js";
+import { listen, makePause, request, showErrorsWith, trouble } from "./camera.js";
+import { flash, wireRemote } from "./remote.js";
+import { loadSettings, settingChanged, wireSettings } from "./settings.js";
+import { addLine, expectReplay, wireLog } from "./log.js";
+
+const codes = { English: "en", German: "de", SimplifiedChinese: "zh-Hans", TraditionalChinese: "zh-Hant" };
+let state = null;
+let faults = [];
+let connected = false;
+
+// --- picture ---
+
+const streamPause = makePause();
+let streamTimer = 0;
+
+function startStream() {
+  clearTimeout(streamTimer);
+  const channel = byId("channel").value || "0";
+  byId("stream").src = document.hidden ? "" : `channels/${channel}/stream.mjpg?at=${Date.now()}`;
+  byId("snapshot-png").href = `channels/${channel}/snapshot.png`;
+  byId("snapshot-jpg").href = `channels/${channel}/snapshot.jpg`;
+}
+
+// A stream that ends leaves its last frame in the browser, and no error; but the camera then counts no viewer.
+async function checkStream() {
+  if (document.hidden || !connected) return;
+  const { channels } = await request("GET", "state");
+  if (channels[byId("channel").value].viewers === 0) startStream();
+}
+
+function wireStream() {
+  const picture = byId("stream");
+  picture.addEventListener("load", () => {
+    streamPause.reset();
+    byId("stream-trouble").hidden = true;
+  });
+  picture.addEventListener("error", () => {
+    if (document.hidden) return;
+    byId("stream-trouble").hidden = false;
+    clearTimeout(streamTimer);
+    streamTimer = setTimeout(startStream, streamPause.next());
+  });
+  document.addEventListener("visibilitychange", startStream); // a page that nobody sees needs no frames
+  byId("channel").addEventListener("change", () => {
+    startStream();
+    showView(state);
+  });
+  setInterval(() => checkStream().catch(() => {}), 5000); // a lost connection is told by its own line
+}
+
+// --- what a screen reader says ---
+
+let spokenPage = null;
+let spokenTimer = 0;
+
+function speak({ focus }) {
+  clearTimeout(spokenTimer);
+  spokenTimer = setTimeout(() => { // a held key says only where it ended
+    const page = focus?.page ?? "";
+    const row = focus ? [focus.label, focus.value].filter(Boolean).join(", ") : "Menu closed";
+    const text = focus && page !== spokenPage ? `${focus.title || focus.page} page. ${row}` : row;
+    const unchanged = spokenPage === null || (spokenPage === page && byId("spoken").textContent.endsWith(row));
+    if (!unchanged) byId("spoken").textContent = text;
+    spokenPage = page;
+  }, 150);
+}
+
+// --- panels ---
+
+function itemLine({ label, value, selected, editing }) {
+  const line = make("li", {}, make("span", {}, label), make("span", { className: "value" }, value));
+  if (editing) line.append(make("em", {}, "editing"));
+  if (selected) line.ariaCurrent = "true";
+  return line;
+}
+
+function showMenu({ open, menu, pages, language }) {
+  const items = byId("items");
+  const top = pages.at(-1);
+  byId("pages").lang = items.lang = byId("spoken").lang = codes[language] ?? "";
+  byId("pages").replaceChildren(...pages.map(({ name, title }) => make("li", { title: name }, title || name)));
+  byId("pages").lastElementChild?.setAttribute("aria-current", "page");
+  items.replaceChildren(...(top?.items ?? []).map(itemLine));
+  items.hidden = !top;
+  byId("menu-note").textContent = menu === false ? "The menu could not start, see the log. Keys do nothing."
+    : open ? "" : "The menu is closed. Menu, or the key M, opens it.";
+  const chosen = items.querySelector("[aria-current]");
+  if (chosen) items.scrollTop = chosen.offsetTop - (items.clientHeight - chosen.offsetHeight) / 2;
+}
+
+function showProblems({ problems, menu }) {
+  const lines = problems.map(({ file, line, reason }) => make("p", { className: "problem" },
+    make("b", {}, line ? `${file}, line ${line}` : file), ` ${reason}`));
+  if (menu === false) lines.unshift(make("p", { className: "problem" }, make("b", {}, "The menu could not start.")));
+  const box = byId("problems");
+  const same = box.children.length === lines.length
+    && lines.every((line, index) => line.textContent === box.children[index].textContent);
+  if (!same) box.replaceChildren(...lines);
+}
+
+function showView({ channels, languages, language, style, size }) {
+  setOptions(byId("channel"), channels.map(({ name }, index) => [String(index), name]))
+  const { width, height } = channels[byId("channel").value];
+  byId("channel-size").textContent = `${width}×${height}`;
+  setOptions(byId("language"), languages.map(name => [name, name.replace(/(?<=[a-z])(?=[A-Z])/, " ")]));
+  byId("language").value = language;
+  byId("style").value = String(style);
+  byId("size").value = size;
+}
+
+function showState(next) {
+  const otherSize = state && state.size !== next.size;
+  state = next;
+  showMenu(next);
+  showProblems(next);
+  showView(next);
+  showFaults(faults.map(fault => ({ ...fault, on: next.faults.includes(fault.name) })));
+  speak(next);
+  if (otherSize) startStream();
+}
+
+function faultSwitch({ name, help, on }) {
+  const box = make("input", { type: "checkbox", checked: on, name });
+  box.setAttribute("role", "switch");
+  box.addEventListener("change", async () => {
+    const wanted = faults.filter(fault => (fault.name === name ? box.checked : fault.on)).map(fault => fault.name);
+    try {
+      showFaults((await request("PUT", "faults", { on: wanted })).faults);
+    } catch (error) {
+      box.checked = !box.checked;
+      trouble(error);
+    }
+  });
+  return make("label", { className: "switch" }, box, make("span", {}, name, make("small", {}, help)));
+}
+
+function showFaults(next) {
+  const list = byId("faults-list");
+  const names = all => all.map(fault => fault.name).join();
+  if (names(next) !== names(faults)) list.replaceChildren(...next.map(faultSwitch));
+  faults = next;
+  for (const { name, on } of faults) list.querySelector(`[name="${CSS.escape(name)}"]`).checked = on;
+  const count = faults.filter(fault => fault.on).length;
+  byId("tab-faults").firstChild.textContent = count ? `Faults (${count} on)` : "Faults";
+}
+
+// --- switches ---
+
+function wireSwitch(id, path, bodyOf) {
+  byId(id).addEventListener("change", async event => {
+    try {
+      await request("POST", path, bodyOf(event.target.value));
+    } catch (error) {
+      if (state) showView(state);
+      trouble(error);
+    }
+  });
+}
+
+function wireTheme() {
+  const select = byId("theme");
+  const apply = () => { document.documentElement.dataset.theme = select.value; };
+  select.value = stored.get("theme", "auto");
+  apply();
+  select.addEventListener("change", () => {
+    stored.set("theme", select.value);
+    apply();
+  });
+}
+
+// --- errors and the connection ---
+
+function toast(text) {
+  const now = new Date().toLocaleTimeString("en-GB");
+  addLine({ time: `${now}.${String(Date.now() % 1000).padStart(3, "0")}`, level: "ERROR", tag: "page", text });
+  const close = make("button", { ariaLabel: "Close this message" }, "×");
+  const box = make("p", { className: "problem" }, make("span", {}, text), close);
+  const same = [...byId("toasts").children].find(other => other.firstChild.textContent === text);
+  same?.remove();
+  close.addEventListener("click", () => box.remove());
+  setTimeout(() => box.remove(), 10000); // it stays in the log
+  byId("toasts").append(box);
+}
+
+async function loadLists() {
+  await Promise.all([loadSettings(), request("GET", "faults").then(answer => showFaults(answer.faults))]);
+}
+
+function onLink(now) {
+  connected = now;
+  const line = byId("connection");
+  line.textContent = connected ? "Connected" : "Connection lost, trying again…";
+  line.classList.toggle("lost", !connected);
+  if (!connected) return;
+  expectReplay();
+  startStream(); // a stream that broke off leaves its last frame behind, and no error
+  loadLists().catch(trouble);
+}
+
+showErrorsWith(toast);
+wireTheme();
+wireTabs(document.querySelector("[role=tablist]"));
+wireRemote(() => Boolean(state?.open));
+wireSettings();
+wireLog();
+wireStream();
+wireSwitch("language", "language", language => ({ language }));
+wireSwitch("style", "menu", style => ({ style: Number(style) }));
+wireSwitch("size", "menu", size => ({ size }));
+listen({
+  state: showState,
+  key: ({ what }) => flash(what),
+  setting: settingChanged,
+  definitions: () => loadSettings().catch(trouble),
+  faults: answer => showFaults(answer.faults),
+  log: addLine,
+}, onLink);

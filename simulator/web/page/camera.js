@@ -1,0 +1,80 @@
+// Requests to the camera, its events, and the errors of both.
+
+let tell = () => {};
+
+/** Names the function that shows an error to the person. */
+export function showErrorsWith(show) {
+  tell = show;
+}
+
+/** Shows an error; nothing is swallowed. */
+export function trouble(error) {
+  tell(error.message);
+}
+
+/** Sends a request; what the camera answers, or an Error with its words. A string goes as it is, as JSON. */
+export async function request(method, path, body, options = {}) {
+  const text = body === undefined || typeof body === "string" ? body : JSON.stringify(body);
+  const headers = text === undefined ? {} : { "Content-Type": "application/json" };
+  let response;
+  try {
+    response = await fetch(path, { method, headers, body: text, ...options });
+  } catch {
+    throw new Error("The camera doesn't answer.");
+  }
+  const answer = await response.json().catch(() => ({}));
+  if (!response.ok) throw new Error(answer.error ?? `The camera refuses ${path} with status ${response.status}.`);
+  return answer;
+}
+
+/** A queue that sends one message after the other, so that they arrive in order. */
+export function makeQueue(send) {
+  const waiting = [];
+  let sending = false;
+  const pump = async () => {
+    if (sending) return;
+    sending = true;
+    while (waiting.length) await send(waiting.shift()).catch(trouble);
+    sending = false;
+  };
+  return {
+    add(message) {
+      waiting.push(message);
+      pump();
+    },
+    /** Sends at once what still waits: the page is going away and won't see an answer. */
+    flush() {
+      for (const message of waiting.splice(0)) send(message).catch(() => {});
+    },
+  };
+}
+
+/** The growing pause between two attempts, in milliseconds. */
+export function makePause() {
+  let attempts = 0;
+  return {
+    reset: () => { attempts = 0; },
+    next: () => Math.min(500 * 2 ** attempts++, 8000),
+  };
+}
+
+/** Listens to the camera's events for good: a lost connection is told to onLink and made again. */
+export function listen(handlers, onLink) {
+  const pause = makePause();
+  const connect = () => {
+    const source = new EventSource("events");
+    source.onopen = () => {
+      pause.reset();
+      onLink(true);
+    };
+    source.onerror = () => { // one way for a lost connection and for an answer that isn't a stream of events
+      source.close();
+      onLink(false);
+      setTimeout(connect, pause.next());
+    };
+    for (const [name, handle] of Object.entries(handlers)) {
+      source.addEventListener(name, event => handle(JSON.parse(event.data)));
+    }
+  };
+  connect();
+}

@@ -1,0 +1,102 @@
+// The camera's settings: shown as it holds them now, each with a control that fits its kind; export and import.
+
+import { byId, make, mark } from "./dom.js";
+import { makeQueue, request, trouble } from "./camera.js";
+
+const rows = new Map(); // name: {setting, row, control, reset}
+const narrow = matchMedia("(max-width: 699px)");
+
+// kind: how its control is made, and its value as the control has it
+const kinds = {
+  option: ({ options }) => make("select", {}, ...options.map(value => make("option", { value }, value))),
+  integer: ({ min, max, step }) => make("input", { type: "number", min, max, step, required: true }),
+  color: () => make("input", { type: "color" }),
+  text: () => make("input", { type: "text", spellcheck: false }),
+};
+const toControl = (kind, value) => (kind === "color" ? `#${value}` : value);
+const fromControl = (kind, value) => (kind === "color" ? value.slice(1) : value);
+
+const queue = makeQueue(async ({ name, value }) => {
+  try {
+    await request("PUT", `settings/${encodeURIComponent(name)}`, { value });
+  } catch (error) {
+    throw new Error(`${name}: ${error.message}`);
+  } finally {
+    show(name); // the camera's own value, also when it refused
+  }
+});
+
+function show(name) {
+  const held = rows.get(name);
+  if (!held) return;
+  const { setting, row, control, reset } = held;
+  control.value = toControl(setting.kind, setting.value);
+  row.classList.toggle("differs", setting.value !== setting.default);
+  reset.hidden = setting.value === setting.default;
+}
+
+/** The camera told that a setting changed. */
+export function settingChanged({ name, value }) {
+  const held = rows.get(name);
+  if (!held || held.setting.value === value) return;
+  held.setting.value = value;
+  show(name);
+  mark(held.row, "changed", 2000);
+}
+
+function rangeOf({ kind, min, max, unit }) {
+  return kind === "integer" ? `${min}–${max}${unit ? ` ${unit}` : ""}` : "";
+}
+
+function makeRow(setting) {
+  const control = (kinds[setting.kind] ?? kinds.text)(setting);
+  control.id = `setting-${setting.name}`;
+  const send = value => queue.add({ name: setting.name, value });
+  control.addEventListener("change", () => send(fromControl(setting.kind, control.value)));
+  const reset = make("button", { className: "reset", title: `Back to ${setting.default || "nothing"}` }, "↺");
+  reset.setAttribute("aria-label", `${setting.key} back to its default, ${setting.default}`);
+  reset.addEventListener("click", () => send(setting.default));
+  const range = make("small", { id: `${control.id}-range` }, rangeOf(setting));
+  control.setAttribute("aria-describedby", range.id);
+  const row = make("div", { className: "setting", title: setting.name },
+    make("label", { htmlFor: control.id }, setting.key), control, range, reset);
+  rows.set(setting.name, { setting, row, control, reset });
+  show(setting.name);
+  return row;
+}
+
+function search() {
+  const wanted = byId("settings-search").value.trim().toLowerCase();
+  for (const { setting, row } of rows.values()) row.hidden = !setting.name.toLowerCase().includes(wanted);
+  for (const group of byId("settings-list").children) {
+    group.hidden = !group.querySelector(".setting:not([hidden])");
+    if (wanted) group.open = true;
+  }
+}
+
+/** Reads all settings anew: at the start, and when their definitions changed. */
+export async function loadSettings() {
+  const { settings } = await request("GET", "settings");
+  const groups = Map.groupBy(settings, setting => setting.parent || "Camera");
+  rows.clear();
+  byId("settings-list").replaceChildren(...[...groups].map(([parent, members]) =>
+    make("details", { open: !narrow.matches }, make("summary", {}, parent), ...members.map(makeRow))));
+  search();
+}
+
+/** Makes search and import work. */
+export function wireSettings() {
+  const file = byId("import-file");
+  byId("settings-search").addEventListener("input", search);
+  byId("import").addEventListener("click", () => file.click());
+  file.addEventListener("change", async () => {
+    const [chosen] = file.files;
+    if (!chosen) return;
+    try {
+      await request("PUT", "settings.json", await chosen.text());
+    } catch (error) {
+      trouble(new Error(`${chosen.name}: ${error.message}`));
+    }
+    file.value = ""; // so that the same file can be chosen again
+  });
+}
