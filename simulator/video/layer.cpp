@@ -140,6 +140,15 @@ Layer copy_canvas(const tagOSD_MENU_CANVAS_S& canvas)
     return layer;
 }
 
+Image straight_pixels(const Layer& layer)
+{
+    Image image = layer.pixels;
+    for (Color& pixel : image.pixels) {
+        pixel = unpremultiply(pixel);
+    }
+    return image;
+}
+
 ScaledLayer scale_layer(const Layer& layer, Size channel_size)
 {
     const SDL_Rect& place = layer.place;
@@ -147,7 +156,7 @@ ScaledLayer scale_layer(const Layer& layer, Size channel_size)
     const int top = scaled(place.y, layer.base.h, channel_size.height);
     const int right = scaled(place.x + place.w, layer.base.w, channel_size.width);
     const int bottom = scaled(place.y + place.h, layer.base.h, channel_size.height);
-    return {scale_image(layer.pixels, {std::max(1, right - left), std::max(1, bottom - top)}), left, top};
+    return {scale_image(layer.pixels, {std::max(1, right - left), std::max(1, bottom - top)}), left, top, channel_size};
 }
 
 void blend_layer(Image& picture, const ScaledLayer& layer)

@@ -46,10 +46,18 @@ void Painter::span(int y, double from, double to, Color color, double strength)
 {
     const Stretch columns = touched(from, to, target_.size.width);
     Color* row = target_.row(y);
-    for (int x = columns.first; x < columns.end; ++x) {
-        const double covered = std::min<double>(to, x + 1) - std::max<double>(from, x);
-        row[x] = covered * strength > 0.999 ? color | 0xFF000000U : mix(row[x], color, covered * strength);
-    }
+    const auto fill = [&](int first, int end) {
+        for (int x = first; x < end; ++x) {
+            const double covered = std::min<double>(to, x + 1) - std::max<double>(from, x);
+            row[x] = covered * strength > 0.999 ? color | 0xFF000000U : mix(row[x], color, covered * strength);
+        }
+    };
+    // What lies between the ends is covered wholly.
+    const int first_inner = std::min(columns.first + 1, columns.end);
+    const int end_inner = strength > 0.999 ? std::max(first_inner, columns.end - 1) : first_inner;
+    fill(columns.first, first_inner);
+    std::fill(row + first_inner, row + end_inner, color | 0xFF000000U);
+    fill(end_inner, columns.end);
 }
 
 void Painter::gradient(double top, Color upper, double bottom, Color lower)

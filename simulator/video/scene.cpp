@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <list>
+#include <memory>
+#include <mutex>
 
 #include "simulator/video/painter.h"
 
@@ -19,11 +22,16 @@ double travelling(double start, double speed, double seconds, double margin)
     return (place < 0 ? place + way : place) - margin;
 }
 
-void draw_sky(Painter& painter, double seconds)
+void draw_sky(Painter& painter)
 {
     painter.gradient(0, 0x4A86C4, 620, 0xBCD2E4);
     painter.ellipse({1420, 150}, 110, 110, 0xFFF6D8, 0.35);
     painter.circle({1420, 150}, 62, 0xFFF3C4);
+}
+
+/// They end above the hills and all that stands on these, so that they needn't be drawn before them.
+void draw_clouds(Painter& painter, double seconds)
+{
     constexpr Box puffs[] = {{0, 0, 130, 34}, {-80, 14, 80, 26}, {85, 12, 90, 28}, {10, -24, 70, 30}};
     constexpr Point clouds[] = {{1120, 150}, {1500, 300}, {1830, 190}};
     for (const Point& cloud : clouds) {
@@ -130,13 +138,17 @@ void draw_glyph(Painter& painter, std::size_t glyph, double left, double top, do
     }
 }
 
-} // namespace
-
-void draw_scene(Image& image, double seconds, double zoom)
+Painter lens(Image& image, double zoom)
 {
     const Point origin{(scene_width - scene_width / zoom) / 2, (scene_height - scene_height / zoom) / 2};
-    Painter painter(image, origin, image.size.width / scene_width * zoom);
-    draw_sky(painter, seconds);
+    return {image, origin, image.size.width / scene_width * zoom};
+}
+
+Image draw_backdrop(Size size, double zoom)
+{
+    Image image(size);
+    Painter painter = lens(image, zoom);
+    draw_sky(painter);
     draw_hills(painter);
     draw_house(painter, 1180, 790, 0xD9CDB4);
     draw_house(painter, 240, 780, 0x8F7A6C);
@@ -145,9 +157,60 @@ void draw_scene(Image& image, double seconds, double zoom)
     }
     draw_street(painter);
     draw_lamp(painter, 1040, 812);
+    return image;
+}
+
+/// What stands still, as it was drawn for the last few sizes and zooms.
+class Backdrops {
+public:
+    std::shared_ptr<const Image> get(Size size, double zoom)
+    {
+        if (auto kept = find(size, zoom)) {
+            return kept;
+        }
+        // Drawn without the lock: two threads may draw the same, but none waits for another.
+        auto image = std::make_shared<const Image>(draw_backdrop(size, zoom));
+        const std::lock_guard<std::mutex> lock(mutex_);
+        kept_.push_front({zoom, image});
+        kept_.resize(std::min(kept_.size(), max_kept));
+        return image;
+    }
+
+private:
+    struct Kept {
+        double zoom = 1;
+        std::shared_ptr<const Image> image;
+    };
+
+    std::shared_ptr<const Image> find(Size size, double zoom)
+    {
+        const std::lock_guard<std::mutex> lock(mutex_);
+        const auto fits = [&](const Kept& kept) { return kept.zoom == zoom && kept.image->size == size; };
+        const auto found = std::find_if(kept_.begin(), kept_.end(), fits);
+        if (found == kept_.end()) {
+            return nullptr;
+        }
+        kept_.splice(kept_.begin(), kept_, found);
+        return kept_.front().image;
+    }
+
+    static constexpr std::size_t max_kept = 6; ///< three channels, each with a small picture in the large one
+    std::mutex mutex_;
+    std::list<Kept> kept_; ///< the last used first
+};
+
+} // namespace
+
+Image draw_scene(Size size, double seconds, double zoom)
+{
+    static Backdrops backdrops;
+    Image image = *backdrops.get(size, zoom);
+    Painter painter = lens(image, zoom);
+    draw_clouds(painter, seconds);
     draw_person(painter, {travelling(1500, 70, seconds, 60), 826}, seconds);
     draw_car(painter, {travelling(1700, -210, seconds, 220), 900}, -1, 0x3F6C9E);
     draw_car(painter, {travelling(1240, 300, seconds, 220), 1000}, 1, 0xC23B31);
+    return image;
 }
 
 void draw_time_code(Image& image, double seconds)

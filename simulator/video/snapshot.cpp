@@ -6,12 +6,14 @@
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
+#include <fstream>
 #include <memory>
 #include <stdexcept>
 #include <string>
 #include <unistd.h>
 
 #include "simulator/core/errors.h"
+#include "simulator/video/encode.h"
 
 namespace sim {
 namespace {
@@ -48,18 +50,18 @@ void check_snapshot_path(const std::filesystem::path& path)
 
 void save_png(const Image& image, const std::filesystem::path& path)
 {
-    const int pitch = image.size.width * 4;
-    // SDL takes the pixels without const, but only reads them when it saves.
-    const std::unique_ptr<SDL_Surface, FreeSurface> surface(
-        SDL_CreateRGBSurfaceWithFormatFrom(const_cast<Color*>(image.pixels.data()), image.size.width, image.size.height,
-                                           32, pitch, SDL_PIXELFORMAT_RGB888));
+    const std::string bytes = encode_png(image, false);
     const std::string temporary = temporary_name(path);
-    if (surface == nullptr || IMG_SavePNG(surface.get(), temporary.c_str()) != 0) {
-        const std::string words = SDL_GetError();
+    errno = 0;
+    std::ofstream file(temporary, std::ios::binary);
+    file << bytes << std::flush;
+    if (!file) {
+        const std::string words = std::strerror(errno);
         std::error_code ignored; // the first failure is the one to tell
         std::filesystem::remove(temporary, ignored);
         throw std::runtime_error("snapshot " + path.string() + ": " + words);
     }
+    file.close();
     std::filesystem::rename(temporary, path);
 }
 

@@ -1,8 +1,14 @@
 // Canvases over the picture, and the picture itself.
 #include <gmock/gmock.h>
 
-#include "simulator/video/layer.h"
+#include <future>
+#include <numeric>
+#include <sstream>
+
+#include "simulator/video/channels.h"
+#include "simulator/video/encode.h"
 #include "simulator/video/picture.h"
+#include "simulator/video/snapshot.h"
 #include "tests/simulator/temp_folder.h"
 
 using namespace sim;
@@ -87,5 +93,220 @@ TEST(Picture, ShowsTheSettings)
     for (const auto& [min, max, value, level] : levels) {
         const std::map<SettingId, Setting> one = {{id, {id, SettingKind::Integer, {}, min, max, 1, "", value}}};
         EXPECT_DOUBLE_EQ(look_of(Settings(one, store)).tally_level, level) << value;
+    }
+}
+
+/// The look of the camera's own settings, of which some have other values: "Key=value Key=value".
+static Look look_with(const std::string& changes)
+{
+    const TempFolder folder;
+    SettingsStore store(folder.path("settings.db"));
+    static const Definitions definitions = load_definitions(OSD_RESOURCE_DIR "/settings.json");
+    Settings settings(definitions.settings, store);
+    std::istringstream words(changes);
+    for (std::string word; words >> word;) {
+        const std::size_t equals = word.find('=');
+        settings.set(settings.find_key(word.substr(0, equals))->id, word.substr(equals + 1));
+    }
+    return look_of(settings);
+}
+
+namespace {
+struct Measures {
+    double light = 0;  ///< of all that isn't written onto the picture
+    double warmth = 0; ///< red by blue on the street
+    int grain = 0;     ///< unlike pixels in the grass, which is all of one color
+    double edges = 0;
+};
+} // namespace
+
+static Measures measure(const Look& look)
+{
+    const Image image = draw_picture({480, 270}, look, 0);
+    const auto sum = [&](SDL_Rect part, auto value_at) {
+        double total = 0;
+        for (int y = part.y; y < part.y + part.h; ++y) {
+            for (int x = part.x; x < part.x + part.w; ++x) {
+                total += value_at(image.row(y) + x);
+            }
+        }
+        return total;
+    };
+    const auto shade = [](int shift) { return [shift](const Color* at) { return component(*at, shift); }; };
+    const auto edge = [](const Color* at) {
+        return std::abs(static_cast<int>(component(at[0], 8)) - static_cast<int>(component(at[1], 8)));
+    };
+    const SDL_Rect street{25, 216, 75, 12};
+    return {sum({0, 30, 440, 240}, shade(8)), sum(street, shade(16)) / sum(street, shade(0)),
+            static_cast<int>(sum({100, 258, 100, 9}, [](const Color* at) { return at[0] != at[1] ? 1.0 : 0.0; })),
+            sum({50, 150, 100, 50}, edge)};
+}
+
+/// How a picture differs from that of the default settings.
+static std::string difference(const Look& look)
+{
+    static const Measures usual = measure(look_with(""));
+    const Measures seen = measure(look);
+    if (seen.light == 0) {
+        return "black";
+    }
+    std::string words;
+    const auto compare = [&words](double by_usual, double tolerance, const char* less, const char* more) {
+        words += by_usual > 1 + tolerance ? more : by_usual < 1 - tolerance ? less : "";
+    };
+    compare(seen.light / usual.light, 0.04, "darker ", "lighter ");
+    compare(seen.warmth / usual.warmth, 0.08, "colder ", "warmer ");
+    words += seen.grain > 0 ? "grainy " : "";
+    if (words.empty()) { // else light and grain change edges as well
+        compare(seen.edges / usual.edges, 0.05, "softer ", "harder ");
+    }
+    return words;
+}
+
+TEST(Picture, ShowsExposureColorAndDetail)
+{
+    const std::pair<const char*, const char*> cases[] = {
+        {"ExposureMode=Manual", ""},
+        {"ExposureMode=ShutterPri", ""},
+        {"ExposureMode=IrisPri", ""},
+        {"ExposureMode=BrightPri", ""},
+        {"Shutter=1/1000 Iris=IrisClose Gain=30 BrightLevel=17 ExpCompLevel=7 GainLimit=0", ""}, // in other modes
+        {"ExposureMode=Manual Shutter=1/250", "darker "},
+        {"ExposureMode=Manual Shutter=1/30", "lighter "},
+        {"ExposureMode=Manual Iris=F1.8 ExpComp=On ExpCompLevel=-7", "lighter "},
+        {"ExposureMode=Manual Gain=12", "lighter grainy "},
+        {"ExposureMode=Manual Iris=F5.6 Gain=12", "grainy "},
+        {"ExposureMode=IrisPri Iris=IrisClose NoiseReduction=Off", "black"},
+        {"ExposureMode=IrisPri Iris=F8.0 GainLimit=0", "darker "},
+        {"ExposureMode=ShutterPri Shutter=1/1000", "darker grainy "},
+        {"ExposureMode=ShutterPri Shutter=1/30", "lighter "},
+        {"ExposureMode=BrightPri BrightLevel=0", "darker "},
+        {"ExpComp=On ExpCompLevel=-5", "darker "},
+        {"Backlight=On", "lighter "},
+        {"ExposureMode=Manual Backlight=On", ""},
+        {"Wdr=Low", "lighter "},
+        {"NoiseReduction=Off", "grainy "},
+        {"NoiseReduction=Manual Nr2d=1 Nr3d=1", "grainy "},
+        {"WbMode=Outdoor", "warmer "},
+        {"WbMode=OnePush", "warmer "},
+        {"WbMode=ColorTempMode", ""},
+        {"WbMode=ColorTempMode ColorTemp=7100", "warmer "},
+        {"WbMode=Manual", ""},
+        {"WbMode=Manual RedGain=60", "colder "},
+        {"WbMode=Manual BlueGain=60", "warmer "},
+        {"ColorTemp=2400 RedGain=255", ""}, // in other modes
+        {"Sharpness=15", "harder "},
+        {"Sharpness=0", "softer "},
+    };
+    for (const auto& [settings, seen] : cases) {
+        EXPECT_EQ(difference(look_with(settings)), seen) << settings;
+    }
+    // The gain limit bounds both what the camera makes up for and its noise; noise reduction takes grain away.
+    const std::string fast = "ExposureMode=ShutterPri Shutter=1/2000 GainLimit=";
+    EXPECT_LT(measure(look_with(fast + "1")).light * 1.1, measure(look_with(fast + "15")).light);
+    EXPECT_LT(look_with(fast + "1").noise * 2, look_with(fast + "15").noise);
+    EXPECT_LT(look_with("NoiseReduction=Manual Nr2d=5 Nr3d=8").noise * 3, look_with("NoiseReduction=Manual").noise);
+
+    Look look;
+    look.pattern = Pattern::ColorBars;
+    look.tones.closed = look.mirror = true;
+    const Image bars = draw_picture({800, 450}, look, 0);
+    look.pattern = Pattern::GrayRamp;
+    const Image ramp = draw_picture({256, 144}, look, 0);
+    EXPECT_THAT((std::vector{bars.row(440)[99], bars.row(0)[100], ramp.row(100)[0], ramp.row(143)[255]}),
+                testing::ElementsAre(0xFFC0C0C0U, 0xFFC0C000U, 0xFF000000U, 0xFFFFFFFFU));
+}
+
+TEST(Picture, TonesMoveEachColor)
+{
+    const std::tuple<Tones, Color, Color> cases[] = {
+        {{}, 0xFFC02010, 0xFFC02010},
+        {{0, false, 0, 1, 1, 0, 0, -1, 0}, 0xFFC02010, 0xFF4E4E4E}, // 192, 32, 16 weighed: 78.3
+        {{0, false, 0, 1, 1, 0, 0, 1, 0}, 0xFFC02010, 0xFFFF0000},
+        {{0, false, 0, 1, 1, 0, 0, 0, 60}, 0xFF808080, 0xFF808080},
+        {{2.2, false, 0, 1, 1, 0, 0, 0, 0}, 0xFF104080, 0xFF2080FF}, // twice as light to the eye
+        {{0, false, 0, 1, 1, 0.5, 0, 0, 0}, 0xFF104080, 0xFF4777B7}, // 55 more
+        {{0, true, 1, 1, 1, 0, 0, 0, 0}, 0xFFC02010, 0xFF000000}};
+    for (const auto& [tones, before, after] : cases) {
+        Image image({1, 1});
+        image.pixels[0] = before;
+        apply_tones(image, tones);
+        EXPECT_EQ(image.pixels[0], after) << std::hex << before << " to " << image.pixels[0];
+    }
+    Image image({1, 1});
+    image.pixels[0] = 0xFFC01010;
+    Tones tones;
+    tones.hue = 60;
+    apply_tones(image, tones);
+    EXPECT_GT(component(image.pixels[0], 8), component(image.pixels[0], 0)); // from red to green, not to blue
+}
+
+TEST(Encode, GivesBackWhatItTook)
+{
+    const TempFolder folder;
+    Image image({40, 30});
+    for (int i = 0; i < 1200; ++i) {
+        const auto x = static_cast<std::uint32_t>(i) % 40;
+        image.pixels[static_cast<std::size_t>(i)] =
+            make_color(x * 6, 200 - x, x * 5, static_cast<std::uint32_t>(i) / 8);
+    }
+    EXPECT_EQ(load_png(folder.write("a.png", encode_png(image, true))).pixels, image.pixels);
+    for (Color& pixel : image.pixels) {
+        pixel |= 0xFF000000U;
+    }
+    EXPECT_EQ(load_png(folder.write("b.png", encode_png(image, false))).pixels, image.pixels);
+
+    const std::string file = encode_jpeg(image, 95);
+    const Image read = load_png(folder.write("c.jpg", file));
+    ASSERT_TRUE(read.size == image.size);
+    for (std::size_t i = 0; i < image.pixels.size(); ++i) {
+        for (const int shift : {16, 8, 0}) {
+            ASSERT_NEAR(component(read.pixels[i], shift), component(image.pixels[i], shift), 12) << i;
+        }
+    }
+    EXPECT_LT(encode_jpeg(image, 10).size(), file.size());
+    for (const Size size : {Size{0, 0}, Size{65501, 1}}) {
+        EXPECT_THROW(encode_jpeg(Image(size), 80), std::runtime_error) << size.width;
+    }
+    EXPECT_THROW(encode_png(Image(), true), std::runtime_error);
+}
+
+TEST(Channels, TellTheMenusCanvasAndEachChange)
+{
+    using Clock = std::chrono::steady_clock;
+    Channels channels({1920, 1080});
+    auto layer = std::make_shared<Layer>();
+    layer->place = {0, 0, 2, 1};
+    layer->base = {0, 0, 1920, 1080};
+    layer->pixels = Image({2, 1});
+    layer->pixels.pixels = {premultiply(0x80FF8000), premultiply(0x00FFFFFF)};
+    const int menu = 0;
+    const int prompt = 0;
+    channels.show(0, &prompt, layer);
+    EXPECT_FALSE(channels.lowest_canvas(0));
+    channels.show(0, &menu, layer, true);
+    EXPECT_FALSE(channels.lowest_canvas(1));
+    EXPECT_EQ(channels.lowest_canvas(0).value().pixels, (std::vector<Color>{0x80FF8000, 0}));
+    channels.hide(0, &menu);
+    EXPECT_FALSE(channels.lowest_canvas(0));
+    channels.resize_main({3840, 2160});
+    EXPECT_EQ(channels.changes(), 4U);
+    Image picture(channels.size(0));
+    for (const Size size : {Size{1920, 1080}, Size{3840, 2160}, Size{3840, 2160}}) {
+        picture = Image(size);
+        channels.lay_canvases_over(0, picture); // what was scaled for another size isn't used
+    }
+    EXPECT_THAT((std::vector{picture.row(1)[1], picture.row(1)[2], picture.row(2)[1]}),
+                testing::ElementsAre(0xFF804000U, 0xFF000000U, 0U));
+
+    EXPECT_FALSE(channels.wait_for_change(4, Clock::now()));
+    EXPECT_TRUE(channels.wait_for_change(3, Clock::now() + std::chrono::hours(1)));
+    const auto wait = [&] { return channels.wait_for_change(4, Clock::now() + std::chrono::hours(1)); };
+    for (const bool change : {false, true}) {
+        std::future<bool> waiting = std::async(std::launch::async, wait);
+        while (waiting.wait_for(std::chrono::milliseconds(1)) != std::future_status::ready) {
+            change ? channels.hide(2, &menu) : channels.wake();
+        }
+        EXPECT_EQ(waiting.get(), change);
     }
 }
