@@ -15,7 +15,7 @@ SEES = {  # folder: what it includes beside itself
     "menu/render": ["include", "platform", "comm", "menu/core"],
     "prompt": ["include", "platform", "comm"],
     "simulator": ["include", "platform"],
-    "tools": LIBRARY,
+    "tools": LIBRARY + ["simulator"],
     "tests": LIBRARY + ["simulator", "tools"],
     "bench": LIBRARY + ["tests"],
 }

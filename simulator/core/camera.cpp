@@ -65,8 +65,8 @@ Camera::Camera(const CameraConfig& config)
       translations_(config.resources / "lang", definitions_.languages),
       forced_language_(find_language(definitions_, config.language)), folder_(config.data),
       store_(open_store(folder_.database(), config.reset)), settings_(definitions_.settings, store_),
-      channels_(config.uhd ? ultra_hd : full_hd), pages_(config.pages), still_(config.still),
-      mounting_(look_of(settings_).mounting)
+      channels_(config.uhd ? ultra_hd : full_hd), resources_(config.resources), pages_(config.pages),
+      still_(config.still), mounting_(look_of(settings_).mounting)
 {
     if (!forced_language_.empty()) {
         settings_.set_for_this_run(language_setting, forced_language_);
@@ -98,10 +98,36 @@ double Camera::seconds() const
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start_).count();
 }
 
-std::unique_ptr<tinyxml2::XMLDocument> Camera::open_page(const std::filesystem::path& path)
+std::unique_ptr<tinyxml2::XMLDocument> Camera::read_page(const std::filesystem::path& path) const
 {
     const std::filesystem::path own = pages_ / path.filename();
-    auto document = load_page_document(!pages_.empty() && std::filesystem::exists(own) ? own : path);
+    if (!pages_.empty() && std::filesystem::exists(own)) {
+        return load_page_document(own);
+    }
+    const auto kept = kept_pages_.find(page_name(path));
+    if (kept != kept_pages_.end()) {
+        return parse_page_document(kept->second);
+    }
+    const std::filesystem::path folder = page_folder(resources_);
+    return load_page_document(std::filesystem::is_directory(folder) ? folder / path.filename() : path);
+}
+
+bool Camera::keep_page(const std::string& name, const std::string& text)
+{
+    std::string& kept = kept_pages_[name];
+    return std::exchange(kept, text) != text;
+}
+
+bool Camera::reload_language(const std::string& language)
+{
+    const bool known = translations_.reload(language);
+    forget_missing_texts();
+    return known;
+}
+
+std::unique_ptr<tinyxml2::XMLDocument> Camera::open_page(const std::filesystem::path& path)
+{
+    auto document = read_page(path);
     if (document != nullptr) {
         events_.tell({"page", page_name(path)});
     }
@@ -174,6 +200,7 @@ void Camera::resize(bool uhd) { channels_.resize_main(uhd ? ultra_hd : full_hd);
 
 void Camera::replace_definitions(Definitions definitions)
 {
+    translations_.add(definitions.languages);
     Settings::Values changed;
     {
         const std::lock_guard<std::mutex> lock(look_mutex_); // no look may be made of the new settings and old values

@@ -3,6 +3,7 @@
 
 #include <chrono>
 #include <filesystem>
+#include <map>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -12,6 +13,7 @@
 #include "simulator/core/data_folder.h"
 #include "simulator/core/definitions.h"
 #include "simulator/core/events.h"
+#include "simulator/core/faults.h"
 #include "simulator/core/media_memory.h"
 #include "simulator/core/settings.h"
 #include "simulator/core/settings_store.h"
@@ -55,6 +57,7 @@ public:
     MediaMemory& memory() { return memory_; }
     Channels& channels() { return channels_; }
     Events& events() { return events_; }
+    Faults& faults() { return faults_; }
 
     /// Seconds since the camera was made.
     double seconds() const;
@@ -68,8 +71,9 @@ public:
     /// Stores the new value of a setting. Throws as Settings::set() does.
     void change(const SettingId& id, const std::string& text) { settings_.set(id, text); }
 
-    /// The document of a page file, from the folder of the configuration when that has one of the same name; null, with
-    /// file and line in the log, when it can't be had.
+    /// The document of a page: from the folder of the configuration when that has a file of the same name, else the text
+    /// that was kept for it, else from its file in the resources. Null, with file and line in the log, when it can't be
+    /// had.
     std::unique_ptr<tinyxml2::XMLDocument> open_page(const std::filesystem::path& path);
 
     /// A restart is asked for inside a call of the menu, which still needs its page then, and made behind that call.
@@ -95,7 +99,18 @@ public:
     /// Gives the main channel 3840 by 2160 pixels, or 1920 by 1080.
     void resize(bool uhd);
 
-    /// Puts other definitions in the place of the present ones; the settings follow them.
+    const std::filesystem::path& resources() const { return resources_; }
+    /// Reads the texts of a language again. False for a language that the camera doesn't speak; throws BadInput, with
+    /// the old texts kept, for a file that can't be used.
+    bool reload_language(const std::string& language);
+    /// Missing texts that were reported may be reported again.
+    void forget_missing_texts() { missing_texts_.clear(); }
+    /// From now on the menu reads this text as the page, whatever its file holds. False when it did so before.
+    bool keep_page(const std::string& name, const std::string& text);
+    const std::map<std::string, std::string>& kept_pages() const { return kept_pages_; }
+
+    /// Puts other definitions in the place of the present ones; the settings follow them. Throws BadInput, with nothing
+    /// changed, when a language of theirs has no texts that can be used.
     void replace_definitions(Definitions definitions);
 
 private:
@@ -104,6 +119,7 @@ private:
         double seconds = 0; ///< of the scene
     };
     Moment present_moment() const;
+    std::unique_ptr<tinyxml2::XMLDocument> read_page(const std::filesystem::path& path) const;
 
     mutable std::mutex look_mutex_; ///< guards what a look is made of: definitions_, picture_start_, mounting_
     Definitions definitions_;
@@ -115,7 +131,10 @@ private:
     MediaMemory memory_;
     Channels channels_;
     Events events_;
+    Faults faults_;
+    std::filesystem::path resources_;
     std::filesystem::path pages_;
+    std::map<std::string, std::string> kept_pages_; ///< by name
     bool still_;
     const std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
     double picture_start_ = 0; ///< in seconds since start_

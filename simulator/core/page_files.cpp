@@ -4,6 +4,7 @@
 #include <string_view>
 #include <system_error>
 #include <tinyxml2.h>
+#include <utility>
 
 #include "simulator/core/log.h"
 
@@ -12,12 +13,24 @@ namespace {
 
 constexpr std::string_view ending = "_page.xml";
 
-bool is_page_file(const std::string& name)
+} // namespace
+
+bool is_page_file(const std::filesystem::path& path)
 {
+    const std::string name = path.filename().string();
     return name.size() > ending.size() && name.compare(name.size() - ending.size(), ending.size(), ending) == 0;
 }
 
-} // namespace
+std::filesystem::path page_folder(const std::filesystem::path& resources)
+{
+    const std::filesystem::path written = resources / "pages";
+    return std::filesystem::is_directory(written) ? written : resources / "menu";
+}
+
+std::filesystem::path page_file(const std::filesystem::path& folder, const std::string& name)
+{
+    return folder / (name + std::string(ending));
+}
 
 std::unique_ptr<tinyxml2::XMLDocument> load_page_document(const std::filesystem::path& path)
 {
@@ -31,18 +44,24 @@ std::unique_ptr<tinyxml2::XMLDocument> load_page_document(const std::filesystem:
     return nullptr;
 }
 
+std::unique_ptr<tinyxml2::XMLDocument> parse_page_document(const std::string& text)
+{
+    auto document = std::make_unique<tinyxml2::XMLDocument>();
+    return document->Parse(text.data(), text.size()) == tinyxml2::XML_SUCCESS ? std::move(document) : nullptr;
+}
+
 std::string page_name(const std::filesystem::path& path)
 {
     const std::string file = path.filename().string();
-    return file.substr(0, file.size() - (is_page_file(file) ? ending.size() : 0));
+    return file.substr(0, file.size() - (is_page_file(path) ? ending.size() : 0));
 }
 
 std::vector<std::string> page_names(const std::filesystem::path& resources)
 {
     std::vector<std::string> names;
     std::error_code error; // a missing folder has no pages
-    for (const auto& entry : std::filesystem::directory_iterator(resources / "menu", error)) {
-        if (is_page_file(entry.path().filename().string())) {
+    for (const auto& entry : std::filesystem::directory_iterator(page_folder(resources), error)) {
+        if (is_page_file(entry.path())) {
             names.push_back(page_name(entry.path()));
         }
     }

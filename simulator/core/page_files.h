@@ -15,6 +15,18 @@ namespace sim {
 /// Reads a page file; null, with file and line in the log, when it is missing or not well formed.
 std::unique_ptr<tinyxml2::XMLDocument> load_page_document(const std::filesystem::path& path);
 
+/// A page from a text; null when it isn't well formed.
+std::unique_ptr<tinyxml2::XMLDocument> parse_page_document(const std::string& text);
+
+/// Whether the name is one of a page file.
+bool is_page_file(const std::filesystem::path& path);
+
+/// The folder of the page files below a resource folder: "pages" where they are written, "menu" where they are staged.
+std::filesystem::path page_folder(const std::filesystem::path& resources);
+
+/// The file of a page in its folder.
+std::filesystem::path page_file(const std::filesystem::path& folder, const std::string& name);
+
 /// The name of the page in a page file.
 std::string page_name(const std::filesystem::path& path);
 

@@ -1,10 +1,13 @@
 #include "simulator/core/services.h"
 
 #include <array>
+#include <chrono>
 #include <cstdarg>
 #include <cstdio>
 #include <cstring>
+#include <limits>
 #include <string>
+#include <thread>
 
 #include <tinyxml2.h>
 
@@ -20,6 +23,8 @@ namespace {
 
 constexpr int ok = 0;
 constexpr int failed = -1;
+constexpr std::chrono::milliseconds slow_call{150};
+constexpr std::int32_t no_number = std::numeric_limits<std::int32_t>::max(); // outside every range that is in use
 
 Camera* current_camera = nullptr;
 
@@ -59,13 +64,51 @@ const Setting* find_setting(Camera& camera, const SettingId& id, bool number)
     return setting;
 }
 
-int get_text(const char* parent, const char* key, tagCFG_VALUE_TXT_S* value)
+/// Runs the body of a settings call, under the faults of settings.
+template <typename Body>
+int serve_setting(Body body)
 {
     return serve("settings", [&](Camera& camera) {
+        if (camera.faults().is_on(Fault::SettingsSlow)) {
+            std::this_thread::sleep_for(slow_call);
+        }
+        return body(camera);
+    });
+}
+
+bool refuses(Camera& camera, Fault fault, const char* tag, const std::string& what)
+{
+    if (!camera.faults().is_on(fault)) {
+        return false;
+    }
+    log_line(LogLevel::Warning, tag,
+             what + " is refused (fault " + all_faults()[static_cast<std::size_t>(fault)].name + ")");
+    return true;
+}
+
+/// An option that is in no list, and a list that fills its field to the last byte.
+void answer_nonsense(tagCFG_VALUE_TXT_S& value)
+{
+    fill_field(value.acValue, "NoSuchOption");
+    for (std::size_t i = 0; i < sizeof value.acList; ++i) {
+        value.acList[i] = i % 12 == 11 ? ':' : 'x';
+    }
+}
+
+int get_text(const char* parent, const char* key, tagCFG_VALUE_TXT_S* value)
+{
+    return serve_setting([&](Camera& camera) {
         const SettingId id{text_or_empty(parent), text_or_empty(key)};
+        if (refuses(camera, Fault::SettingsRefusing, "settings", "setting " + to_string(id))) {
+            return failed;
+        }
         const Setting* setting = find_setting(camera, id, false);
         if (setting == nullptr || value == nullptr) {
             return failed;
+        }
+        if (camera.faults().is_on(Fault::SettingsOutOfRange)) {
+            answer_nonsense(*value);
+            return ok;
         }
         std::string list;
         for (const std::string& option : setting->options) {
@@ -79,13 +122,18 @@ int get_text(const char* parent, const char* key, tagCFG_VALUE_TXT_S* value)
 
 int get_number(const char* parent, const char* key, tagCFG_VALUE_INT_S* value)
 {
-    return serve("settings", [&](Camera& camera) {
+    return serve_setting([&](Camera& camera) {
         const SettingId id{text_or_empty(parent), text_or_empty(key)};
+        if (refuses(camera, Fault::SettingsRefusing, "settings", "setting " + to_string(id))) {
+            return failed;
+        }
         const Setting* setting = find_setting(camera, id, true);
         if (setting == nullptr || value == nullptr) {
             return failed;
         }
-        *value = {setting->min, setting->max, 0, setting->step, camera.settings().number(id)};
+        const bool nonsense = camera.faults().is_on(Fault::SettingsOutOfRange);
+        const std::int32_t present = nonsense ? no_number : camera.settings().number(id);
+        *value = {setting->min, setting->max, 0, setting->step, present};
         return ok;
     });
 }
@@ -123,7 +171,7 @@ int CFG_COM_GetIntParamByParent(char* pcParent, char* pcKey, tagCFG_VALUE_INT_S*
 
 int CFG_COM_SetTxtParams(char* pcKey, char* pcValue, OSD_BOOL /*bSave*/)
 {
-    return serve("settings", [&](Camera& camera) {
+    return serve_setting([&](Camera& camera) {
         const SettingId id{"", text_or_empty(pcKey)};
         const std::string value = text_or_empty(pcValue);
         camera.events().tell({"set", id.key + "=" + value});
@@ -140,6 +188,9 @@ int CFG_COM_SetTxtParams(char* pcKey, char* pcValue, OSD_BOOL /*bSave*/)
 int CFG_SYSTEM_GetLanguage(char* pcLanguage)
 {
     return serve("language", [&](Camera& camera) {
+        if (refuses(camera, Fault::LanguageRefusing, "language", "the language")) {
+            return failed;
+        }
         std::snprintf(pcLanguage, OSD_TEXT_LEN, "%s", camera.language().c_str());
         return ok;
     });
@@ -148,6 +199,9 @@ int CFG_SYSTEM_GetLanguage(char* pcLanguage)
 int CFG_LANG_GetString(char* pcLanguage, char* pcKey, char* pcOut)
 {
     return serve("language", [&](Camera& camera) {
+        if (refuses(camera, Fault::LanguageRefusing, "language", "a text")) {
+            return failed;
+        }
         const std::string* text = camera.translate(text_or_empty(pcLanguage), text_or_empty(pcKey));
         if (text == nullptr) {
             return failed;
@@ -187,10 +241,12 @@ int MPP_AllocMem(const char* pcName, uint32_t u32Size, int /*s32Flag*/, void* ps
 {
     return serve("media", [&](Camera& camera) {
         auto* block = static_cast<tagOSD_MEM_S*>(pstBlock);
-        if (block != nullptr && camera.memory().allocate(text_or_empty(pcName), u32Size, *block)) {
+        const bool exhausted = camera.faults().is_on(Fault::MemoryExhausted);
+        if (block != nullptr && !exhausted && camera.memory().allocate(text_or_empty(pcName), u32Size, *block)) {
             return ok;
         }
-        log_line(LogLevel::Error, "media", "no block of " + std::to_string(u32Size) + " bytes");
+        log_line(LogLevel::Error, "media",
+                 "no block of " + std::to_string(u32Size) + " bytes" + (exhausted ? " (fault memory-exhausted)" : ""));
         return failed;
     });
 }

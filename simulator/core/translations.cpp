@@ -25,10 +25,30 @@ std::map<std::string, std::string> load_language(const std::filesystem::path& pa
 } // namespace
 
 Translations::Translations(const std::filesystem::path& folder, const std::map<std::string, std::string>& languages)
+    : folder_(folder)
 {
+    add(languages);
+}
+
+void Translations::add(const std::map<std::string, std::string>& languages)
+{
+    std::map<std::string, std::map<std::string, std::string>> added;
     for (const auto& [key, language] : languages) {
-        texts_[language] = load_language(folder / (language + ".json"));
+        if (texts_.count(language) == 0) {
+            added[language] = load_language(folder_ / (language + ".json"));
+        }
     }
+    texts_.merge(added);
+}
+
+bool Translations::reload(const std::string& language)
+{
+    const auto texts = texts_.find(language);
+    if (texts == texts_.end()) {
+        return false;
+    }
+    texts->second = load_language(folder_ / (language + ".json"));
+    return true;
 }
 
 const std::string* Translations::find(const std::string& language, const std::string& key) const

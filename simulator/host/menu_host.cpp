@@ -1,7 +1,5 @@
 #include "simulator/host/menu_host.h"
 
-#include <array>
-#include <cstdio>
 #include <stdexcept>
 #include <utility>
 
@@ -9,6 +7,7 @@
 #include "simulator/core/errors.h"
 #include "simulator/core/log.h"
 #include "simulator/host/callbacks.h"
+#include "simulator/host/page_stack.h"
 
 namespace sim {
 namespace {
@@ -18,15 +17,9 @@ namespace {
 /// place and would lose at the right and at the bottom what it is moved by.
 constexpr tagOSD_MENU_RECT_S menu_place = {0.0F, 0.0F, 0.5F, 1.0F};
 
-/// Puts a page on the stack, with the same steps as the library: a page that can't be read counts as well, because its
-/// record can hold the items that stood before the mistake. False for such a page.
-bool push_page(const std::string& name)
+bool push_and_draw(const std::string& name)
 {
-    std::array<char, OSD_TEXT_LEN> text{};
-    std::snprintf(text.data(), text.size(), "%s", name.c_str());
-    tagPAGE_NODE_S* record = &gstPageMgr.astPage[gstPageMgr.s32PageCnt];
-    const bool complete = OSD_MENU_ParseXml(text.data(), record) == 0;
-    gstPageMgr.s32PageCnt++;
+    const bool complete = push_page(name);
     OSD_MENU_RenderCanvas();
     return complete;
 }
@@ -87,7 +80,7 @@ void MenuHost::open()
 
 void MenuHost::open_page(const std::string& name)
 {
-    if (!push_page(name)) {
+    if (!push_and_draw(name)) {
         throw BadInput("page '" + name + "' is shown as far as it can be read, see the lines above");
     }
 }
@@ -97,7 +90,7 @@ void MenuHost::show_over_main(const std::string& name)
     OSD_MENU_CloseMenu();
     OSD_MENU_OpenMenu();
     if (name != "main") {
-        (void)push_page(name); // the log tells of a mistake
+        (void)push_and_draw(name); // the log tells of a mistake
     }
 }
 

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "simulator/core/camera.h"
+#include "simulator/host/graphics_faults.h"
 #include "simulator/host/overlays.h"
 
 namespace sim {
@@ -51,6 +52,7 @@ private:
     Camera& camera_;
     MenuConfig config_;
     Overlays overlays_{camera_};
+    GraphicsFaults graphics_faults_{camera_.faults()}; ///< from before the menu's start
     std::map<std::string, MemoryUse> memory_at_start_;
 };
 

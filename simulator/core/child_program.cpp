@@ -1,0 +1,114 @@
+#include "simulator/core/child_program.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <fcntl.h>
+#include <poll.h>
+#include <spawn.h>
+#include <stdexcept>
+#include <sys/wait.h>
+#include <system_error>
+#include <unistd.h>
+
+extern char** environ;
+
+namespace sim {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr std::size_t max_words = 500; // of a program that has much to say
+
+/// Both ends of a pipe; the one to write to can be closed before.
+struct Pipe {
+    Pipe()
+    {
+        if (::pipe2(ends.data(), O_CLOEXEC) != 0) {
+            throw std::runtime_error("no pipe: " + std::generic_category().message(errno));
+        }
+    }
+    ~Pipe()
+    {
+        ::close(ends[0]);
+        close_writing();
+    }
+    Pipe(const Pipe&) = delete;
+    Pipe& operator=(const Pipe&) = delete;
+    void close_writing()
+    {
+        if (ends[1] >= 0) {
+            ::close(ends[1]);
+            ends[1] = -1;
+        }
+    }
+
+    std::array<int, 2> ends{-1, -1};
+};
+
+/// Starts the program with its standard error in the pipe and nothing else; 0 or the number of the error.
+int start(const std::vector<std::string>& command, int errors, pid_t& child)
+{
+    std::vector<char*> arguments;
+    std::transform(command.begin(), command.end(), std::back_inserter(arguments),
+                   [](const std::string& word) { return const_cast<char*>(word.c_str()); });
+    arguments.push_back(nullptr);
+    posix_spawn_file_actions_t files;
+    posix_spawn_file_actions_init(&files);
+    posix_spawn_file_actions_addopen(&files, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+    posix_spawn_file_actions_addopen(&files, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
+    posix_spawn_file_actions_adddup2(&files, errors, STDERR_FILENO);
+    const int error = ::posix_spawnp(&child, arguments[0], &files, nullptr, arguments.data(), environ);
+    posix_spawn_file_actions_destroy(&files);
+    return error;
+}
+
+/// Reads until the program has closed its standard error; false when that takes too long.
+bool read_words(int errors, Clock::time_point until, std::string& words)
+{
+    std::array<char, 512> part{};
+    for (;;) {
+        const auto left = std::chrono::ceil<std::chrono::milliseconds>(until - Clock::now()).count();
+        pollfd source{errors, POLLIN, 0};
+        if (left <= 0 || ::poll(&source, 1, static_cast<int>(left)) == 0) {
+            return false;
+        }
+        const ssize_t got = ::read(errors, part.data(), part.size());
+        if (got == 0 || (got < 0 && errno != EINTR)) {
+            return true;
+        }
+        words.append(part.data(),
+                     std::min(static_cast<std::size_t>(std::max<ssize_t>(got, 0)), max_words - words.size()));
+    }
+}
+
+} // namespace
+
+std::string run_program(const std::vector<std::string>& command, std::chrono::milliseconds limit)
+{
+    Pipe errors;
+    pid_t child = -1;
+    const int error = start(command, errors.ends[1], child);
+    if (error != 0) {
+        return command[0] + " can't be run: " + std::generic_category().message(error);
+    }
+    errors.close_writing(); // what remains is the program's, so that its end can be seen
+    std::string words;
+    const bool in_time = read_words(errors.ends[0], Clock::now() + limit, words);
+    if (!in_time) {
+        ::kill(child, SIGKILL);
+    }
+    int status = 0;
+    while (::waitpid(child, &status, 0) < 0 && errno == EINTR) {
+    }
+    if (!in_time) {
+        return command[0] + " took longer than " + std::to_string(limit.count()) + " ms";
+    }
+    if (WIFEXITED(status) && WEXITSTATUS(status) == 0) {
+        return "";
+    }
+    return words.empty() ? command[0] + " failed" : words.substr(0, words.find_last_not_of(" \n") + 1);
+}
+
+} // namespace sim

@@ -1,0 +1,14 @@
+// Other programs that the camera runs.
+#pragma once
+
+#include <chrono>
+#include <string>
+#include <vector>
+
+namespace sim {
+
+/// Runs a program, found as the shell finds it, with its arguments, and waits for its end. Returns why it failed: what
+/// it wrote to standard error, or what became of it; empty when it succeeded. One that isn't done in time is killed.
+std::string run_program(const std::vector<std::string>& command, std::chrono::milliseconds limit);
+
+} // namespace sim

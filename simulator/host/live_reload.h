@@ -1,0 +1,63 @@
+// Changed files of the resources become what the menu shows.
+#pragma once
+
+#include <filesystem>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "simulator/core/camera.h"
+#include "simulator/core/problems.h"
+
+namespace sim {
+
+/// Keeps the menu on the last good state of each file: pages, translations, settings definitions and pictures. A broken
+/// file is a problem in a list and changes nothing else. All calls are made on the menu's thread; the menu may be
+/// closed, or not have started at all.
+class LiveReload {
+public:
+    /// Looks at the camera's resources as they are now: each page that is in order is the one the menu reads from now on,
+    /// each other one a problem, and a picture that is newer than its bitmap is drawn. bitmaps: the folder from which the
+    /// menu loads its pictures.
+    LiveReload(Camera& camera, std::filesystem::path bitmaps);
+
+    /// The folders whose changes belong here, for a FolderWatch.
+    std::vector<std::filesystem::path> folders() const;
+
+    /// Takes over what has changed: files in these folders, or a folder of them for all that is in it. What is on
+    /// screen follows at once, see reopen_pages(). A picture takes as long as drawing it does.
+    void reload(const std::set<std::filesystem::path>& changed);
+
+    /// What is broken at present, by file.
+    std::vector<Problem> problems() const { return problems_.list(); }
+
+private:
+    using Path = std::filesystem::path;
+    enum class Effect { None, Redraw, Reopen };
+
+    std::set<Path> files_of(const std::set<Path>& changed) const;
+    void add_files(const Path& folder, std::set<Path>& files) const;
+    Effect take(const Path& file);
+    Effect take_definitions(const Path& file);
+    Effect take_language(const Path& file);
+    Effect take_page(const Path& file);
+    Effect take_picture(const Path& file);
+    /// Pages depend on the texts, so a new text can mend or break one.
+    void check_pages();
+    void draw_new_pictures();
+
+    template <typename Body>
+    bool in_order(const Path& file, Body body);
+    /// The file as problems name it.
+    std::string name_of_file(const Path& file) const;
+
+    Camera& camera_;
+    Path root_;
+    Path pages_;
+    Path languages_;
+    Path pictures_;
+    Path bitmaps_;
+    Problems problems_;
+};
+
+} // namespace sim
