@@ -41,19 +41,20 @@ Upright upright_places(Size size, const Mounting& mounting)
             source_places(size.height, size.width, clockwise * step)};
 }
 
-/// Rows become columns, block by block: the rows that a block touches stay in the cache.
-void transpose(const Image& image, Image& result)
+/// Rows become columns, block by block: the rows that a block touches stay in the cache. Only the columns between the
+/// first and the last that are wanted.
+void transpose(const Image& image, int first, int last, Image& result)
 {
     constexpr int block = 16;
     const auto [width, height] = image.size;
     result.size = {height, width};
     result.pixels.resize(image.pixels.size());
     for (int top = 0; top < height; top += block) {
-        for (int left = 0; left < width; left += block) {
+        for (int left = first; left <= last; left += block) {
             for (int y = top; y < std::min(top + block, height); ++y) {
                 const Color* source = image.row(y);
                 Color* target = result.pixels.data() + y;
-                for (int x = left; x < std::min(left + block, width); ++x) {
+                for (int x = left; x < std::min(left + block, last + 1); ++x) {
                     target[static_cast<std::ptrdiff_t>(x) * height] = source[x];
                 }
             }
@@ -65,7 +66,8 @@ void turn_upright(Image& image, const Upright& places)
 {
     // Kept for the next picture: to get fresh memory from the system for each takes longer than all the rest.
     thread_local Image columns;
-    transpose(image, columns);
+    const auto [first, last] = std::minmax_element(places.column_by_y.begin(), places.column_by_y.end());
+    transpose(image, std::max(0, *first), *last, columns);
     const std::size_t width = places.row_by_x.size();
     for (std::size_t y = 0; y < places.column_by_y.size(); ++y) {
         const int column = places.column_by_y[y];
