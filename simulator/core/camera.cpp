@@ -20,22 +20,6 @@ constexpr std::uint8_t menu_canvas = 128;
 constexpr Size full_hd{1920, 1080};
 constexpr Size ultra_hd{3840, 2160};
 
-/// The option key of a language given by its name or by the key itself; empty when none was given.
-std::string find_language(const Definitions& definitions, const std::optional<std::string>& wanted)
-{
-    std::string known;
-    for (const auto& [option, name] : definitions.languages) {
-        if (wanted == option || wanted == name) {
-            return option;
-        }
-        known += (known.empty() ? "" : ", ") + name;
-    }
-    if (wanted) {
-        throw BadInput("unknown language '" + *wanted + "', expected one of " + known);
-    }
-    return "";
-}
-
 bool begins_with_letter(const std::string& text)
 {
     const char first = text.empty() ? '\0' : text.front();
@@ -63,7 +47,7 @@ SettingsStore open_store(const std::filesystem::path& file, bool reset)
 Camera::Camera(const CameraConfig& config)
     : definitions_(load_definitions(config.resources / "settings.json")),
       translations_(config.resources / "lang", definitions_.languages),
-      forced_language_(find_language(definitions_, config.language)), folder_(config.data),
+      forced_language_(config.language ? option_of_language(definitions_, *config.language) : ""), folder_(config.data),
       store_(open_store(folder_.database(), config.reset)), settings_(definitions_.settings, store_),
       channels_(config.uhd ? ultra_hd : full_hd), resources_(config.resources), pages_(config.pages),
       still_(config.still), mounting_(look_of(settings_).mounting)

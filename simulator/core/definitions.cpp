@@ -203,6 +203,18 @@ void check_zones(const Definitions& definitions, const std::string& file)
 
 } // namespace
 
+std::string option_of_language(const Definitions& definitions, const std::string& wanted)
+{
+    std::string known;
+    for (const auto& [option, name] : definitions.languages) {
+        if (wanted == option || wanted == name) {
+            return option;
+        }
+        known += (known.empty() ? "" : ", ") + name;
+    }
+    throw BadInput("unknown language '" + wanted + "', expected one of " + known);
+}
+
 Definitions load_definitions(const std::filesystem::path& path)
 {
     const std::string file = path.string();

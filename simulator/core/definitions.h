@@ -19,6 +19,9 @@ struct Definitions {
 /// The one setting whose value chooses the language of the menu.
 inline const SettingId language_setting{"", "Language"};
 
+/// The option key of a language given by its name or by the key itself. Throws BadInput, which lists the names.
+std::string option_of_language(const Definitions& definitions, const std::string& wanted);
+
 /// Reads and checks the file. Throws BadInput: file, setting, what was expected.
 Definitions load_definitions(const std::filesystem::path& path);
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <iostream>
 #include <map>
+#include <sstream>
 
 #include "simulator/core/errors.h"
 #include "simulator/core/page_files.h"
@@ -15,12 +16,15 @@ namespace {
 const std::map<std::string, bool> sizes = {{"1080p", false}, {"4k", true}};
 const std::map<std::string, std::uint32_t> formats = {{"argb1555", 0}, {"argb4444", 1}, {"argb8888", 2}};
 
-const char* const description =
-    "A simulated network camera with its on-screen menu.\n"
-    "Without options it opens a window; without a display it writes camera.png with the menu open.";
+const char* const description = "A simulated network camera with its on-screen menu.\n"
+                                "Without options it serves a web page and prints its address; Ctrl-C ends it.";
 
 const char* const examples =
     "\nExamples:\n"
+    "  camera-sim\n"
+    "      a web page with the picture and a remote control, at http://127.0.0.1:8080/ when that is free\n"
+    "  camera-sim --listen 0.0.0.0:8080 --token SECRET\n"
+    "      the same for other machines; who has no token gets nothing\n"
     "  camera-sim --window\n"
     "      a window; M opens the menu, Q or closing the window ends the camera\n"
     "  camera-sim --keys menu --snapshot menu.png\n"
@@ -50,6 +54,12 @@ struct Words {
     std::string data;
     std::string prompt;
     std::string contact_sheet;
+    std::string listen;
+    std::string token;
+    std::string resources;
+    std::string faults;
+    std::string import_file;
+    std::string export_file;
 };
 
 std::string key_help()
@@ -62,6 +72,15 @@ std::string key_help()
         text += "  " + name + key.help + (keyboard.empty() ? "" : " (" + keyboard + ")") + "\n";
     }
     return text + "Escape is the menu key while the menu is open.\n";
+}
+
+std::string fault_names()
+{
+    std::string names;
+    for (const FaultRow& row : all_faults()) {
+        names += " " + std::string(row.name);
+    }
+    return names;
 }
 
 template <typename Value>
@@ -105,6 +124,20 @@ void declare(CLI::App& app, Options& options, Words& words)
     app.add_flag("--reset", options.reset, "Set all settings back to their defaults first");
     app.add_flag("--still", options.still, "The scene stands at time 0, so that pictures repeat exactly");
     app.add_flag("--window", options.window, "Open a window");
+    app.add_option("--listen", words.listen, "Serve the web page there (default: 127.0.0.1:8080 or another free port)")
+        ->type_name("ADDRESS:PORT");
+    app.add_option("--token", words.token, "What every web request must bring; needed to listen beyond this machine")
+        ->type_name("TOKEN");
+    app.add_flag("--open", options.open, "Open the web page in a browser");
+    app.add_option(
+           "--resources", words.resources,
+           "Folder of pages, translations, settings definitions and pictures; changes show at once on the web page")
+        ->type_name("DIR");
+    app.add_option("--faults", words.faults, "Let parts of the camera fail, separated by commas:" + fault_names())
+        ->type_name("NAME,...");
+    app.add_option("--import", words.import_file, "Take settings over from a file that --export wrote")
+        ->type_name("FILE");
+    app.add_option("--export", words.export_file, "Write all settings into a JSON file and end")->type_name("FILE");
     app.add_option("--prompt", words.prompt, "Show this text over the picture from the start")->type_name("TEXT");
     app.add_flag("--reloading", options.reloading,
                  "The media service counts as reloading (/tmp/.mpp_reloading): no zoom ratio shows");
@@ -135,7 +168,11 @@ void check_combinations(const CLI::App& app)
     constexpr std::pair<const char*, const char*> enemies[] = {{"--window", "--snapshot"},
                                                                {"--keys", "--keys-file"},
                                                                {"--contact-sheet", "--window"},
-                                                               {"--contact-sheet", "--snapshot"}};
+                                                               {"--contact-sheet", "--snapshot"},
+                                                               {"--window", "--listen"},
+                                                               {"--snapshot", "--listen"},
+                                                               {"--contact-sheet", "--listen"},
+                                                               {"--export", "--listen"}};
     for (const auto& [one, other] : enemies) {
         if (app.count(one) > 0 && app.count(other) > 0) {
             throw BadInput(std::string(one) + " and " + other + " can't be used together");
@@ -168,10 +205,61 @@ void take_keys(const CLI::App& app, const Words& words, Options& options)
     }
 }
 
+void take_web(const CLI::App& app, const Words& words, Options& options)
+{
+    const auto asked = [&app](const char* name) { return app.count(name) > 0; };
+    const bool other = asked("--keys") || asked("--keys-file") || asked("--snapshot") || asked("--window") ||
+                       asked("--contact-sheet") || asked("--export");
+    options.web = !other || asked("--listen") || asked("--open");
+    if (asked("--listen")) {
+        options.listen = parse_listen_address(words.listen);
+    }
+    if (asked("--token")) {
+        options.token = words.token;
+        if (!is_usable_token(words.token)) {
+            throw BadInput("--token: expected letters, digits and any of - . _ ~");
+        }
+    }
+    if (options.listen && !options.token && !is_loopback(options.listen->host)) {
+        throw BadInput("--listen " + words.listen + " lets other machines in: add --token TOKEN");
+    }
+}
+
+/// The folder that authors work in, where there is one: then the camera shows what they write.
+std::filesystem::path default_resources()
+{
+    const std::filesystem::path source = OSD_RESOURCE_SOURCE_DIR;
+    return std::filesystem::exists(source / "settings.json") ? source : std::filesystem::path(OSD_RESOURCE_DIR);
+}
+
+std::vector<std::string> split_at_commas(const std::string& text)
+{
+    std::istringstream stream(text);
+    std::vector<std::string> parts;
+    for (std::string part; std::getline(stream, part, ',');) {
+        parts.push_back(part);
+    }
+    return parts;
+}
+
+void take_files(const CLI::App& app, const Words& words, Options& options)
+{
+    options.resources = app.count("--resources") > 0 ? std::filesystem::path(words.resources) : default_resources();
+    if (app.count("--import") > 0) {
+        options.import_file = words.import_file;
+    }
+    if (app.count("--export") > 0) {
+        options.export_file = words.export_file;
+    }
+    options.faults = parse_faults(split_at_commas(words.faults));
+}
+
 void take_over(const CLI::App& app, const Words& words, Options& options)
 {
     take_scenario(app, words, options);
     take_keys(app, words, options);
+    take_web(app, words, options);
+    take_files(app, words, options);
     if (app.count("--prompt") > 0) {
         options.prompt = words.prompt;
     }

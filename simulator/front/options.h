@@ -4,10 +4,13 @@
 #include <cstdint>
 #include <filesystem>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
+#include "simulator/core/faults.h"
 #include "simulator/host/key_script.h"
+#include "simulator/web/access.h"
 
 namespace sim {
 
@@ -25,6 +28,15 @@ struct Options {
     bool reset = false;
     bool still = false;
     bool window = false;
+    bool web = false;                    ///< serves a web page; so it is when nothing else was asked for
+    std::optional<ListenAddress> listen; ///< none for the usual address
+    std::optional<std::string> token;
+    bool open = false; ///< opens a browser
+    std::filesystem::path
+        resources; ///< pages, translations, settings definitions and pictures as their authors have them
+    std::set<Fault> faults;
+    std::optional<std::filesystem::path> import_file;
+    std::optional<std::filesystem::path> export_file;
     std::optional<std::string> prompt;
     bool reloading = false;
     std::optional<std::filesystem::path> contact_sheet;

@@ -1,42 +1,24 @@
 #include "simulator/front/run.h"
 
-#include <cstdlib>
 #include <iostream>
 
 #include "simulator/core/errors.h"
+#include "simulator/core/settings_json.h"
 #include "simulator/front/contact_sheet.h"
 #include "simulator/front/scenario.h"
+#include "simulator/front/serve.h"
 #include "simulator/front/window.h"
 #include "simulator/video/snapshot.h"
 
 namespace sim {
 namespace {
 
-const char* const default_snapshot = "camera.png";
 const char* const default_prompt = "Camera-01";
-
-bool environment_names_display()
-{
-    return std::getenv("DISPLAY") != nullptr || std::getenv("WAYLAND_DISPLAY") != nullptr;
-}
 
 void write_snapshot(Camera& camera, int channel, const std::filesystem::path& path)
 {
     save_png(camera.look_at(channel), path);
     std::cout << "wrote " << path.string() << std::endl;
-}
-
-/// Nothing was asked for: a window where one can be, else a picture and a word on what else there is.
-void run_plain(MenuHost& host, const Options& options)
-{
-    KeyPlayer no_keys({}, host);
-    if (environment_names_display() && show_window(host, no_keys, options.channel)) {
-        return;
-    }
-    host.open();
-    save_png(host.camera().look_at(options.channel), default_snapshot);
-    std::cout << "no display: wrote " << default_snapshot
-              << " with the menu open; try --keys \"menu\" --snapshot FILE.png, or --help" << std::endl;
 }
 
 void run_asked(MenuHost& host, const Options& options)
@@ -54,12 +36,21 @@ void run_asked(MenuHost& host, const Options& options)
     }
 }
 
+/// What has to do with the settings alone needs no menu.
+void transfer_settings(Camera& camera, const Options& options)
+{
+    if (options.import_file) {
+        std::cout << "took over " << import_settings_file(camera.settings(), *options.import_file) << " settings from "
+                  << options.import_file->string() << std::endl;
+    }
+    if (options.export_file) {
+        export_settings_file(camera.settings(), *options.export_file);
+        std::cout << "wrote " << options.export_file->string() << std::endl;
+    }
+}
+
 void run_camera(const Options& options)
 {
-    const bool plain = !options.keys && !options.snapshot && !options.window;
-    if (plain) {
-        check_snapshot_path(default_snapshot); // it may be needed
-    }
     std::optional<ReloadingMarker> marker;
     if (options.reloading) {
         marker.emplace();
@@ -68,16 +59,23 @@ void run_camera(const Options& options)
     if (options.record) {
         recorder.emplace(*options.record);
     }
-    Camera camera({OSD_RESOURCE_DIR, options.data, options.reset, options.uhd, options.still, options.language, {}});
+    Camera camera({options.resources, options.data, options.reset, options.uhd, options.still, options.language, {}});
+    camera.faults().set(options.faults);
     if (recorder) {
         recorder->follow(camera);
     }
-    MenuHost host(camera, {options.pixel_format, options.style, options.uhd, options.page,
-                           options.prompt.value_or(default_prompt)});
-    if (options.prompt) {
-        host.overlays().show_prompt(*options.prompt);
+    transfer_settings(camera, options);
+    const MenuConfig menu{options.pixel_format, options.style, options.uhd, options.page,
+                          options.prompt.value_or(default_prompt)};
+    if (options.web) {
+        serve_camera(camera, menu, options);
+    } else if (!options.export_file) {
+        MenuHost host(camera, menu);
+        if (options.prompt) {
+            host.overlays().show_prompt(*options.prompt);
+        }
+        run_asked(host, options);
     }
-    plain ? run_plain(host, options) : run_asked(host, options);
 }
 
 } // namespace

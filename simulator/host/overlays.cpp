@@ -1,5 +1,6 @@
 #include "simulator/host/overlays.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 
@@ -64,6 +65,18 @@ void Overlays::hide_what_is_over()
     if (gsOsdPromptItem.pstSurface != nullptr && camera_.seconds() >= prompt_ends_) {
         OSD_PROMPT_Destroy();
     }
+}
+
+std::optional<double> Overlays::seconds_left() const
+{
+    std::optional<double> end;
+    if (OSD_PROMPT_IsZoomRatioActive() != 0) {
+        end = zoom_ends_;
+    }
+    if (gsOsdPromptItem.pstSurface != nullptr) {
+        end = std::min(end.value_or(prompt_ends_), prompt_ends_);
+    }
+    return end ? std::optional(std::max(0.0, *end - camera_.seconds())) : std::nullopt;
 }
 
 void Overlays::hide_all()

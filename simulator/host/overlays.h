@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "osd_prompt.h"
@@ -23,6 +24,8 @@ public:
     void toggle_recording_mark();
 
     void hide_what_is_over();
+    /// Until the next of them goes; none when nothing will.
+    std::optional<double> seconds_left() const;
     void hide_all();
 
 private:

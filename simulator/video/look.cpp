@@ -65,7 +65,7 @@ struct WhiteOption {
     double kelvin;
 };
 constexpr double daylight = 5600;
-constexpr WhiteOption white_options[] = {{"Outdoor", 6500}};
+constexpr WhiteOption white_options[] = {{"Indoor", 3200}, {"Outdoor", 6500}};
 /// What a measurement of the whole scene finds, which takes sky and grass for white: the means of red, green and blue
 /// become alike.
 constexpr double measured_red = 1.5;

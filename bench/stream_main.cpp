@@ -1,0 +1,273 @@
+// What the web front end costs: starts the simulated camera with its menu open, watches the main channel at 1920 by 1080
+// for some seconds, presses keys, and prints pictures a second, the share of a core, and how late a key is seen.
+//     bench_stream path/to/camera-sim
+#include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <condition_variable>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <jpeglib.h>
+#include <mutex>
+#include <string>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+#include <vector>
+
+#include <httplib.h>
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr std::chrono::seconds watch_time{10};
+constexpr int key_count = 30;
+constexpr double frame_ms = 40;
+
+/// A camera with settings of its own, which go with it. The menu's pixels have one bit of alpha, so that it hides the
+/// moving scene and every change there is a key's doing.
+class Camera {
+public:
+    explicit Camera(const char* program)
+    {
+        int ends[2];
+        if (mkdtemp(folder_) == nullptr || pipe(ends) != 0) {
+            throw std::runtime_error("no temporary folder or no pipe");
+        }
+        child_ = fork();
+        if (child_ == 0) {
+            dup2(ends[1], STDOUT_FILENO);
+            close(ends[0]);
+            (void)!freopen("/dev/null", "w", stderr);
+            execl(program, program, "--data", folder_, "--format", "argb1555", "--listen", "127.0.0.1:0", nullptr);
+            _exit(127);
+        }
+        close(ends[1]);
+        char line[200] = "";
+        FILE* lines = fdopen(ends[0], "r");
+        const bool started = fgets(line, sizeof line, lines) != nullptr;
+        fclose(lines);
+        if (!started) {
+            throw std::runtime_error(std::string(program) + " doesn't start");
+        }
+        const std::string address = line;
+        port_ = std::atoi(address.substr(address.rfind(':') + 1).c_str());
+    }
+
+    ~Camera()
+    {
+        kill(child_, SIGTERM);
+        waitpid(child_, nullptr, 0);
+        (void)!std::system(("rm -r '" + std::string(folder_) + "'").c_str());
+    }
+
+    Camera(const Camera&) = delete;
+    Camera& operator=(const Camera&) = delete;
+
+    httplib::Client client() const { return httplib::Client("127.0.0.1", port_); }
+
+    void press(const std::string& key) const
+    {
+        if (!client().Post("/keys", R"({"keys": [")" + key + "\"]}", "application/json")) {
+            throw std::runtime_error("the camera doesn't take the key " + key);
+        }
+    }
+
+    /// Seconds of processor time that it has used so far.
+    double cpu_seconds() const
+    {
+        std::ifstream stat("/proc/" + std::to_string(child_) + "/stat");
+        std::string word;
+        long ticks = 0;
+        for (int field = 1; field <= 15 && stat >> word; ++field) {
+            ticks += field >= 14 ? std::atol(word.c_str()) : 0;
+        }
+        return static_cast<double>(ticks) / static_cast<double>(sysconf(_SC_CLK_TCK));
+    }
+
+    /// Bytes of memory that are in use.
+    double resident_mebibytes() const
+    {
+        std::ifstream statm("/proc/" + std::to_string(child_) + "/statm");
+        double pages = 0;
+        statm >> pages >> pages;
+        return pages * static_cast<double>(sysconf(_SC_PAGESIZE)) / (1 << 20);
+    }
+
+private:
+    char folder_[32] = "/tmp/bench-stream-XXXXXX";
+    pid_t child_ = 0;
+    int port_ = 0;
+};
+
+/// The left 896 columns of a picture, where the menu stands, at an eighth of their size.
+std::vector<unsigned char> menu_pixels(const std::string& jpeg)
+{
+    jpeg_decompress_struct reader{};
+    jpeg_error_mgr errors{};
+    reader.err = jpeg_std_error(&errors);
+    jpeg_create_decompress(&reader);
+    jpeg_mem_src(&reader, reinterpret_cast<const unsigned char*>(jpeg.data()), jpeg.size());
+    jpeg_read_header(&reader, TRUE);
+    reader.scale_denom = 8;
+    jpeg_start_decompress(&reader);
+    std::vector<unsigned char> row(std::size_t{reader.output_width} * 3);
+    std::vector<unsigned char> pixels;
+    while (reader.output_scanline < reader.output_height) {
+        unsigned char* rows[] = {row.data()};
+        jpeg_read_scanlines(&reader, rows, 1);
+        pixels.insert(pixels.end(), row.begin(), row.begin() + 896 / 8 * 3);
+    }
+    jpeg_finish_decompress(&reader);
+    jpeg_destroy_decompress(&reader);
+    return pixels;
+}
+
+/// Watches the main channel on a thread of its own.
+class Viewer {
+public:
+    explicit Viewer(const Camera& camera) : client_(camera.client())
+    {
+        thread_ = std::thread([this] {
+            (void)client_.Get("/channels/0/stream.mjpg",
+                              [this](const char* bytes, std::size_t size) { return take(bytes, size); });
+        });
+    }
+
+    ~Viewer()
+    {
+        ending_ = true;
+        thread_.join();
+    }
+
+    Viewer(const Viewer&) = delete;
+    Viewer& operator=(const Viewer&) = delete;
+
+    long frames() const { return frames_; }
+
+    /// Waits until the menu looks different from how it did at this count of changes; returns when that was seen.
+    Clock::time_point wait_for_change(long seen)
+    {
+        std::unique_lock<std::mutex> lock(mutex_);
+        if (!changed_.wait_for(lock, std::chrono::seconds(5), [&] { return changes_ > seen; })) {
+            throw std::runtime_error("a key is not seen in the stream");
+        }
+        return change_time_;
+    }
+
+    long changes()
+    {
+        const std::lock_guard<std::mutex> lock(mutex_);
+        return changes_;
+    }
+
+private:
+    bool take(const char* bytes, std::size_t size)
+    {
+        buffer_.append(bytes, size);
+        const std::string mark = "Content-Length: ";
+        const std::size_t length_at = buffer_.find(mark);
+        const std::size_t head_end = buffer_.find("\r\n\r\n", length_at == std::string::npos ? 0 : length_at);
+        if (length_at == std::string::npos || head_end == std::string::npos) {
+            return !ending_;
+        }
+        const auto length = static_cast<std::size_t>(std::atol(buffer_.c_str() + length_at + mark.size()));
+        if (buffer_.size() >= head_end + 4 + length) {
+            const auto now = Clock::now();
+            look_at(buffer_.substr(head_end + 4, length), now);
+            buffer_.erase(0, head_end + 4 + length);
+        }
+        return !ending_;
+    }
+
+    void look_at(const std::string& jpeg, Clock::time_point now)
+    {
+        std::vector<unsigned char> pixels = menu_pixels(jpeg);
+        ++frames_;
+        const std::lock_guard<std::mutex> lock(mutex_);
+        if (pixels != last_) {
+            ++changes_;
+            change_time_ = now;
+            changed_.notify_one();
+        }
+        last_ = std::move(pixels);
+    }
+
+    httplib::Client client_;
+    std::string buffer_;
+    std::atomic<bool> ending_{false};
+    std::atomic<long> frames_{0};
+    std::mutex mutex_; ///< guards the members below
+    std::condition_variable changed_;
+    std::vector<unsigned char> last_;
+    long changes_ = 0;
+    Clock::time_point change_time_;
+    std::thread thread_;
+};
+
+void measure_load(const Camera& camera, const Viewer& viewer)
+{
+    const double cpu = camera.cpu_seconds();
+    const long frames = viewer.frames();
+    const auto begin = Clock::now();
+    std::this_thread::sleep_for(watch_time);
+    const double seconds = std::chrono::duration<double>(Clock::now() - begin).count();
+    std::printf("1920 by 1080, menu open: %.1f pictures a second, %.2f of a core, %.0f MiB resident\n",
+                static_cast<double>(viewer.frames() - frames) / seconds, (camera.cpu_seconds() - cpu) / seconds,
+                camera.resident_mebibytes());
+}
+
+void measure_keys(const Camera& camera, Viewer& viewer)
+{
+    std::vector<double> delays;
+    for (int i = 0; i < key_count; ++i) {
+        // Another part of the time between two pictures for each key.
+        std::this_thread::sleep_for(std::chrono::milliseconds(200 + 37 * i % 40));
+        const long seen = viewer.changes();
+        const auto pressed = Clock::now();
+        camera.press(i % 2 == 0 ? "down" : "up");
+        delays.push_back(std::chrono::duration<double, std::milli>(viewer.wait_for_change(seen) - pressed).count());
+    }
+    std::sort(delays.begin(), delays.end());
+    std::printf(
+        "a key is in the stream after %.0f ms in the median, %.0f ms at most of %d keys: %.1f and %.1f frames\n",
+        delays[delays.size() / 2], delays.back(), key_count, delays[delays.size() / 2] / frame_ms,
+        delays.back() / frame_ms);
+}
+
+void measure_rest(const Camera& camera)
+{
+    std::this_thread::sleep_for(std::chrono::seconds(2));
+    const double cpu = camera.cpu_seconds();
+    std::this_thread::sleep_for(std::chrono::seconds(5));
+    std::printf("nobody watches: %.3f of a core\n", (camera.cpu_seconds() - cpu) / 5);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    try {
+        if (argc != 2) {
+            throw std::runtime_error("expected one argument, the path of camera-sim");
+        }
+        const Camera camera(argv[1]);
+        for (const char* key : {"menu", "home"}) {
+            camera.press(key);
+        }
+        {
+            Viewer viewer(camera);
+            (void)viewer.wait_for_change(0);
+            measure_load(camera, viewer);
+            measure_keys(camera, viewer);
+        }
+        measure_rest(camera);
+        return 0;
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "bench_stream: %s\n", error.what());
+        return 1;
+    }
+}

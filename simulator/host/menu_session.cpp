@@ -1,0 +1,101 @@
+#include "simulator/host/menu_session.h"
+
+#include <algorithm>
+
+#include "osd_menu.h"
+#include "simulator/core/errors.h"
+#include "simulator/core/log.h"
+#include "simulator/core/settings_json.h"
+#include "simulator/host/page_stack.h"
+
+namespace sim {
+
+MenuSession::MenuSession(Camera& camera, const MenuConfig& config) : camera_(camera), config_(config) { start(); }
+
+MenuHost& MenuSession::menu()
+{
+    if (!host_) {
+        throw NoMenu();
+    }
+    return *host_;
+}
+
+void MenuSession::start()
+{
+    hold_.end();
+    host_.reset(); // the library has one menu
+    try {
+        camera_.resize(config_.uhd);
+        host_.emplace(camera_, config_);
+    } catch (const std::exception& error) {
+        log_line(LogLevel::Error, "menu", error.what());
+    }
+}
+
+void MenuSession::restart(const MenuConfig& config)
+{
+    config_ = config;
+    start();
+}
+
+void MenuSession::change(const SettingId& id, const std::string& text)
+{
+    const std::string language = camera_.language();
+    camera_.change(id, text);
+    if (!host_) {
+        return;
+    }
+    if (camera_.language() != language) {
+        reopen_pages();
+    } else {
+        std::string key = id.key;
+        OSD_MENU_RefreshItem(key.data());
+    }
+}
+
+std::size_t MenuSession::import(const nlohmann::json& values)
+{
+    const std::size_t count = import_settings(camera_.settings(), values);
+    if (host_) {
+        reopen_pages();
+    }
+    return count;
+}
+
+/// A page file with a mistake must not end the camera.
+void MenuSession::press(const Key& key)
+{
+    hold_.end();
+    try {
+        sim::press(key, menu());
+    } catch (const BadInput& error) {
+        log_line(LogLevel::Error, "menu", error.what());
+    }
+}
+
+void MenuSession::hold(const Key& key)
+{
+    press(key);
+    hold_.begin(key, KeyHold::Clock::now());
+}
+
+std::optional<KeyHold::Clock::time_point> MenuSession::tick()
+{
+    if (!host_) {
+        return std::nullopt;
+    }
+    const auto now = KeyHold::Clock::now();
+    if (const Key* key = hold_.due(now)) {
+        sim::press(*key, *host_);
+    }
+    host_->overlays().hide_what_is_over();
+    const auto repeat = hold_.next();
+    const auto left = host_->overlays().seconds_left();
+    if (!left) {
+        return repeat;
+    }
+    const auto end = now + std::chrono::duration_cast<KeyHold::Clock::duration>(std::chrono::duration<double>(*left));
+    return repeat ? std::min(*repeat, end) : end;
+}
+
+} // namespace sim

@@ -1,0 +1,136 @@
+#include "simulator/host/menu_state.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+#include "osd_menu.h"
+#include "simulator/core/camera.h"
+
+namespace sim {
+namespace {
+
+/// By tagPAGE_LAYOUT_E, in the words of page files.
+constexpr std::array<const char*, 6> layout_names = {"icon",
+                                                     "vertical_align",
+                                                     "horizontal_align",
+                                                     "vertical_tolvane_align",
+                                                     "vertical_align_keth",
+                                                     "horizontal_align_keth"};
+
+/// The item that a link of a list belongs to.
+const tagITEM_NODE_S* item_of(const list_head* link)
+{
+    return reinterpret_cast<const tagITEM_NODE_S*>(reinterpret_cast<const char*>(link) -
+                                                   offsetof(tagITEM_NODE_S, stNode));
+}
+
+/// What a field of a record holds, with or without a zero at its end.
+template <std::size_t N>
+std::string text_of_field(const char (&field)[N])
+{
+    return {field, std::find(field, field + N, '\0')};
+}
+
+bool shows_value(const tagITEM_NODE_S& item)
+{
+    return item.enCtx == NAME_VAL || item.enCtx == NAME_BAR_VAL || item.enCtx == NAME_IP_VAL;
+}
+
+/// A value that the menu reads anew at each draw: the setting's own.
+std::string live_value(Camera& camera, const tagITEM_NODE_S& item)
+{
+    const Setting* setting = camera.settings().find_key(text_of_field(item.acItemIndex));
+    if (setting == nullptr) {
+        return "";
+    }
+    const std::string value = camera.settings().value(setting->id);
+    const std::string* text = camera.translate(camera.language(), value);
+    return text == nullptr ? value : *text;
+}
+
+std::string value_text(Camera& camera, const tagITEM_NODE_S& item)
+{
+    if (!shows_value(item)) {
+        return "";
+    }
+    if (item.enAttr == STATUS || item.enAttr == EDITABLE) {
+        return text_of_field(item.acValue[item.bEditing == 1 ? 1 : 0]);
+    }
+    if (item.enValType == NUMERICAL) {
+        return std::to_string(item.s32Cur);
+    }
+    if (item.bShowValue == 1) {
+        return live_value(camera, item);
+    }
+    const bool in_range = item.s32CurIdx >= 0 && item.s32CurIdx < OSD_OPTION_MAX;
+    return in_range ? text_of_field(item.acValue[item.s32CurIdx]) : "";
+}
+
+/// The sub-items that show below an item: those of its option, which counts only when it is applied where it waits for
+/// that.
+const list_head* shown_list(const tagITEM_NODE_S& item)
+{
+    const bool waits = item.enAttr == MSG_WITH_SUBITEM;
+    if ((item.enAttr != SUBITEM && !waits) || item.enValType == NUMERICAL) {
+        return nullptr;
+    }
+    const int option = waits ? item.s32SavedIdx : item.s32CurIdx;
+    return option >= 0 && option < std::min<int>(item.s32ValCnt, OSD_OPTION_MAX) ? &item.astSubList[option] : nullptr;
+}
+
+void add_items(Camera& camera, const list_head& list, std::vector<ItemState>& states)
+{
+    for (const list_head* link = list.next; link != &list; link = link->next) {
+        const tagITEM_NODE_S& item = *item_of(link);
+        states.push_back({text_of_field(item.acItemIndex), text_of_field(item.acItemName), value_text(camera, item),
+                          item.bActive == 1, item.bEditing == 1});
+        if (const list_head* below = shown_list(item)) {
+            add_items(camera, *below, states);
+        }
+    }
+}
+
+/// An icon page knows its selected item by the place.
+void select_icon(const tagPAGE_NODE_S& page, std::vector<ItemState>& items)
+{
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        items[i].selected = static_cast<int>(i) == page.s32SelIdx;
+    }
+}
+
+PageState state_of(Camera& camera, const tagPAGE_NODE_S& page)
+{
+    PageState state;
+    state.name = text_of_field(page.acPageName);
+    state.title = page.bTitle == 1 ? text_of_field(page.acTitle) : "";
+    const auto layout = static_cast<std::size_t>(page.enLayout);
+    state.layout = layout < layout_names.size() ? layout_names[layout] : "";
+    state.message = page.bKeyMsg == 1 ? text_of_field(page.acKeyMsg) : text_of_field(page.acPageMsg);
+    add_items(camera, page.stItemList, state.items);
+    if (page.enLayout == PAGE_LAYOUT_ICON) {
+        select_icon(page, state.items);
+    }
+    return state;
+}
+
+} // namespace
+
+std::vector<PageState> menu_state(Camera& camera)
+{
+    std::vector<PageState> pages;
+    const int count = std::clamp<int>(gstPageMgr.s32PageCnt, 0, OSD_PAGE_MAX);
+    for (int i = 0; i < count; ++i) {
+        pages.push_back(state_of(camera, gstPageMgr.astPage[i]));
+    }
+    return pages;
+}
+
+const ItemState* selected_item(const PageState& page)
+{
+    const auto found =
+        std::find_if(page.items.begin(), page.items.end(), [](const ItemState& item) { return item.selected; });
+    return found == page.items.end() ? nullptr : &*found;
+}
+
+} // namespace sim

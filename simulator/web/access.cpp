@@ -1,0 +1,116 @@
+#include "simulator/web/access.h"
+
+#include <algorithm>
+#include <arpa/inet.h>
+#include <charconv>
+#include <cstring>
+
+#include "simulator/core/errors.h"
+#include "simulator/web/http.h"
+
+namespace sim {
+namespace {
+
+constexpr const char* cookie_name = "camera_token";
+
+/// The host of "HOST", "HOST:PORT" or "[HOST]:PORT".
+std::string host_of(const std::string& place)
+{
+    if (!place.empty() && place.front() == '[') {
+        return place.substr(1, place.find(']') - 1);
+    }
+    return place.substr(0, place.rfind(':'));
+}
+
+/// In a time that doesn't tell how much of the text is right.
+bool equal_tokens(const std::string& a, const std::string& b)
+{
+    unsigned difference = a.size() == b.size() ? 0 : 1;
+    for (std::size_t i = 0; i < std::min(a.size(), b.size()); ++i) {
+        difference |= static_cast<unsigned char>(a[i]) ^ static_cast<unsigned char>(b[i]);
+    }
+    return difference == 0;
+}
+
+/// The value of our cookie among "a=b; c=d"; empty when it isn't there.
+std::string cookie_of(const httplib::Request& request)
+{
+    const std::string cookies = "; " + request.get_header_value("Cookie");
+    const std::string name = std::string("; ") + cookie_name + "=";
+    const std::size_t place = cookies.find(name);
+    if (place == std::string::npos) {
+        return "";
+    }
+    const std::size_t begin = place + name.size();
+    return cookies.substr(begin, cookies.find(';', begin) - begin);
+}
+
+bool has_token(const httplib::Request& request, const std::string& token)
+{
+    return equal_tokens(request.get_header_value("Authorization"), "Bearer " + token) ||
+           equal_tokens(cookie_of(request), token) || equal_tokens(request.get_param_value("token"), token);
+}
+
+} // namespace
+
+ListenAddress parse_listen_address(const std::string& text)
+{
+    const std::size_t colon = text.rfind(':');
+    const std::string host = colon == std::string::npos ? "" : host_of(text);
+    const char* begin = text.c_str() + (colon == std::string::npos ? 0 : colon + 1);
+    const char* end = text.c_str() + text.size();
+    int port = -1;
+    const auto result = std::from_chars(begin, end, port);
+    if (host.empty() || result.ec != std::errc() || result.ptr != end || port < 0 || port > 65535) {
+        throw BadInput("--listen '" + text +
+                       "': expected ADDRESS:PORT, such as 127.0.0.1:8080, [::1]:8080 or 0.0.0.0:80");
+    }
+    return {host, port};
+}
+
+bool is_loopback(const std::string& host)
+{
+    in_addr address{};
+    const bool is_ipv4 = ::inet_pton(AF_INET, host.c_str(), &address) == 1;
+    return host == "localhost" || host == "::1" || (is_ipv4 && ntohl(address.s_addr) >> 24 == 127);
+}
+
+std::string address_of(const ListenAddress& listen)
+{
+    const bool is_ipv6 = listen.host.find(':') != std::string::npos;
+    return "http://" + (is_ipv6 ? "[" + listen.host + "]" : listen.host) + ":" + std::to_string(listen.port) + "/";
+}
+
+void check_access(const httplib::Request& request, const std::optional<std::string>& token)
+{
+    if (token && !has_token(request, *token)) {
+        throw HttpError(401, "this camera needs its token: open /?token=TOKEN, or send 'Authorization: Bearer TOKEN'");
+    }
+    const std::string host = request.get_header_value("Host");
+    if (!token && !is_loopback(host_of(host))) {
+        throw HttpError(403,
+                        "the camera serves this machine only, under localhost, 127.0.0.1 or [::1], not '" + host + "'");
+    }
+    const std::string origin = request.get_header_value("Origin");
+    if (!origin.empty() && origin != "http://" + host) {
+        throw HttpError(403, "pages of '" + origin + "' may not use this camera");
+    }
+}
+
+bool brings_token_in_address(const httplib::Request& request) { return request.has_param("token"); }
+
+std::string token_cookie(const std::string& token)
+{
+    return std::string(cookie_name) + "=" + token + "; Path=/; HttpOnly; SameSite=Strict";
+}
+
+bool is_usable_token(const std::string& token)
+{
+    const auto is_plain = [](char c) {
+        return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
+               std::strchr("-._~", c) != nullptr;
+    };
+    return !token.empty() && std::all_of(token.begin(), token.end(), is_plain);
+}
+
+} // namespace sim

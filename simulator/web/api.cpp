@@ -1,0 +1,398 @@
+#include "simulator/web/api.h"
+
+#include <algorithm>
+#include <sstream>
+#include <utility>
+
+#include "simulator/core/errors.h"
+#include "simulator/core/log.h"
+#include "simulator/core/settings_json.h"
+#include "simulator/core/text_file.h"
+#include "simulator/host/keys.h"
+#include "simulator/video/encode.h"
+#include "simulator/web/access.h"
+
+namespace sim {
+namespace {
+
+using nlohmann::json;
+
+constexpr int most_viewers = 128;
+constexpr int snapshot_quality = 92;
+constexpr std::chrono::seconds event_patience{1};
+constexpr std::size_t most_keys = 1000;
+
+struct FileKind {
+    const char* ending;
+    const char* content_type;
+};
+constexpr FileKind file_kinds[] = {{".html", "text/html; charset=utf-8"},
+                                   {".css", "text/css; charset=utf-8"},
+                                   {".js", "text/javascript; charset=utf-8"},
+                                   {".svg", "image/svg+xml"}};
+
+std::vector<std::string> split_path(const std::string& path)
+{
+    std::istringstream stream(path);
+    std::vector<std::string> parts;
+    for (std::string part; std::getline(stream, part, '/');) {
+        parts.push_back(part);
+    }
+    return parts;
+}
+
+/// What stands for the "*" of the pattern; none when the path doesn't fit it.
+std::optional<std::vector<std::string>> match(const std::string& pattern, const std::string& path)
+{
+    const std::vector<std::string> wanted = split_path(pattern);
+    const std::vector<std::string> given = split_path(path);
+    if (wanted.size() != given.size() || path.back() == '/') {
+        return std::nullopt;
+    }
+    std::vector<std::string> arguments;
+    for (std::size_t i = 0; i < wanted.size(); ++i) {
+        if (wanted[i] == "*") {
+            arguments.push_back(given[i]);
+        } else if (wanted[i] != given[i]) {
+            return std::nullopt;
+        }
+    }
+    return arguments;
+}
+
+/// A name as our own files have it: no folder, no "..".
+bool is_file_name(const std::string& name)
+{
+    const auto is_plain = [](char c) {
+        return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '_' || c == '-';
+    };
+    const auto dot = std::find(name.begin(), name.end(), '.');
+    return dot != name.begin() && std::all_of(name.begin(), dot, is_plain);
+}
+
+void start_event_stream(httplib::Response& response, std::function<bool(httplib::DataSink&)> write)
+{
+    response.set_header("Cache-Control", "no-store");
+    response.set_content_provider(
+        "text/event-stream", [write = std::move(write)](std::size_t, httplib::DataSink& sink) { return write(sink); });
+}
+
+} // namespace
+
+Api::Api(CameraParts parts, std::filesystem::path page, std::optional<std::string> token)
+    : parts_(parts), page_(std::move(page)), token_(std::move(token))
+{
+    for (int i = 0; i < channel_count; ++i) {
+        streams_.push_back(std::make_unique<ChannelStream>(parts_.camera, i));
+    }
+}
+
+const std::vector<Api::Route>& Api::routes()
+{
+    static const std::vector<Route> table = {
+        {"GET", "/channels/*/stream.mjpg", &Api::get_stream},
+        {"GET", "/channels/*/snapshot.jpg", &Api::get_jpeg},
+        {"GET", "/channels/*/snapshot.png", &Api::get_png},
+        {"GET", "/overlay.png", &Api::get_overlay},
+        {"POST", "/keys", &Api::post_keys},
+        {"GET", "/state", &Api::get_state},
+        {"GET", "/settings", &Api::get_settings},
+        {"PUT", "/settings/*", &Api::put_setting},
+        {"GET", "/settings.json", &Api::get_export},
+        {"PUT", "/settings.json", &Api::put_import},
+        {"POST", "/language", &Api::post_language},
+        {"POST", "/menu", &Api::post_menu},
+        {"GET", "/faults", &Api::get_faults},
+        {"PUT", "/faults", &Api::put_faults},
+        {"GET", "/events", &Api::get_events},
+    };
+    return table;
+}
+
+void Api::close()
+{
+    parts_.hub.close();
+    for (const auto& stream : streams_) {
+        stream->close();
+    }
+}
+
+void Api::serve(const httplib::Request& request, httplib::Response& response)
+{
+    try {
+        check_access(request, token_);
+        if (token_ && brings_token_in_address(request)) {
+            response.set_header("Set-Cookie", token_cookie(*token_));
+        }
+        dispatch(request, response);
+    } catch (const HttpError& error) {
+        answer_error(response, error.status(), error.what());
+    } catch (const UnknownSetting& error) {
+        answer_error(response, 404, error.what());
+    } catch (const BadInput& error) {
+        answer_error(response, 400, error.what());
+    } catch (const NoMenu& error) {
+        answer_error(response, 503, error.what());
+    } catch (const std::future_error&) {
+        answer_error(response, 503, "the camera is about to end");
+    } catch (const std::exception& error) {
+        log_line(LogLevel::Error, "web", request.path + ": " + error.what());
+        answer_error(response, 500, error.what());
+    }
+}
+
+void Api::dispatch(const httplib::Request& request, httplib::Response& response)
+{
+    const std::string method = request.method == "HEAD" ? "GET" : request.method;
+    std::string allowed;
+    for (const Route& route : routes()) {
+        const auto arguments = match(route.path, request.path);
+        if (arguments && method == route.method) {
+            (this->*route.answer)({request, response, *arguments});
+            return;
+        }
+        if (arguments) {
+            allowed += (allowed.empty() ? "" : ", ") + std::string(route.method);
+        }
+    }
+    if (allowed.empty() && serve_file(request, response)) {
+        return;
+    }
+    if (allowed.empty()) {
+        throw HttpError(404, "there is nothing at " + request.path);
+    }
+    response.set_header("Allow", allowed);
+    throw HttpError(405, request.path + " takes " + allowed + ", not " + request.method);
+}
+
+/// Files are read anew for each request, so that the page can be worked on while the camera runs.
+bool Api::serve_file(const httplib::Request& request, httplib::Response& response) const
+{
+    const std::string name = request.path == "/" ? "index.html" : request.path.substr(1);
+    const std::size_t dot = name.find('.');
+    if (!is_file_name(name) || dot == std::string::npos) {
+        return false;
+    }
+    for (const FileKind& kind : file_kinds) {
+        if (name.substr(dot) == kind.ending && std::filesystem::is_regular_file(page_ / name)) {
+            if (request.method != "GET" && request.method != "HEAD") {
+                response.set_header("Allow", "GET");
+                throw HttpError(405, request.path + " takes GET, not " + request.method);
+            }
+            response.set_header("Cache-Control", "no-cache");
+            response.set_content(read_text_file(page_ / name), kind.content_type);
+            return true;
+        }
+    }
+    return false;
+}
+
+ChannelStream& Api::stream_of(const std::string& channel)
+{
+    for (const auto& stream : streams_) {
+        if (channel == std::to_string(stream->channel())) {
+            return *stream;
+        }
+    }
+    throw HttpError(404, "no channel '" + channel + "', there are 0 (main), 1 (sub) and 2 (preview)");
+}
+
+/// A place among those who watch or listen; each of them holds a thread.
+std::shared_ptr<void> Api::take_viewer_place()
+{
+    std::shared_ptr<void> place(nullptr, [this](void*) { --viewers_; });
+    if (++viewers_ > most_viewers) {
+        throw HttpError(503, "too many viewers, at most " + std::to_string(most_viewers) + " are served");
+    }
+    return place;
+}
+
+void Api::get_stream(const Call& call)
+{
+    ChannelStream& stream = stream_of(call.arguments[0]);
+    const auto place = take_viewer_place();
+    parts_.loop.call([&] { parts_.camera.attach(stream.channel()); });
+    const auto viewer = std::make_shared<ChannelStream::Viewer>(stream);
+    call.response.set_header("Cache-Control", "no-store");
+    // The boundary stands right behind each picture: a browser shows a picture when it has seen the next boundary.
+    auto write = [place, viewer, first = true](std::size_t, httplib::DataSink& sink) mutable {
+        const auto frame = viewer->next();
+        if (frame == nullptr) {
+            return false;
+        }
+        const std::string head = std::string(std::exchange(first, false) ? "--frame\r\n" : "") +
+                                 "Content-Type: image/jpeg\r\nContent-Length: " + std::to_string(frame->jpeg.size()) +
+                                 "\r\n\r\n";
+        const std::string tail = "\r\n--frame\r\n";
+        return sink.write(head.data(), head.size()) && sink.write(frame->jpeg.data(), frame->jpeg.size()) &&
+               sink.write(tail.data(), tail.size());
+    };
+    call.response.set_content_provider("multipart/x-mixed-replace; boundary=frame", write);
+}
+
+Image Api::picture(const std::string& channel)
+{
+    const int number = stream_of(channel).channel();
+    parts_.loop.call([&] { parts_.camera.attach(number); });
+    return parts_.camera.draw(number);
+}
+
+void Api::get_jpeg(const Call& call)
+{
+    call.response.set_header("Cache-Control", "no-store");
+    call.response.set_content(encode_jpeg(picture(call.arguments[0]), snapshot_quality), "image/jpeg");
+}
+
+void Api::get_png(const Call& call)
+{
+    call.response.set_header("Cache-Control", "no-store");
+    call.response.set_content(encode_png(picture(call.arguments[0]), false), "image/png");
+}
+
+void Api::get_overlay(const Call& call)
+{
+    const auto canvas = parts_.camera.channels().lowest_canvas(0);
+    const Size size = parts_.camera.channels().size(0);
+    call.response.set_header("Cache-Control", "no-store");
+    call.response.set_content(encode_png(canvas ? *canvas : Image(size), true), "image/png");
+}
+
+/// Each key in a turn of its own, so that a long list doesn't keep others away.
+std::size_t Api::press_keys(const json& names)
+{
+    if (!names.is_array() || names.size() > most_keys) {
+        throw HttpError(400, "'keys' must be a list of at most " + std::to_string(most_keys) + " names of keys");
+    }
+    std::vector<const Key*> keys;
+    for (const json& name : names) {
+        keys.push_back(&find_key(name.is_string() ? name.get<std::string>() : to_text(name)));
+    }
+    for (const Key* key : keys) {
+        parts_.loop.call([&] { parts_.session.press(*key); });
+    }
+    return keys.size();
+}
+
+void Api::post_keys(const Call& call)
+{
+    const json body = read_object(call.request);
+    refuse_other_fields(body, {"keys", "press", "release"});
+    if (body.size() != 1) {
+        throw HttpError(400, "expected one of 'keys', 'press' and 'release'");
+    }
+    if (body.contains("keys")) {
+        answer_json(call.response, {{"keys", press_keys(body["keys"])}});
+        return;
+    }
+    const char* verb = body.contains("press") ? "press" : "release";
+    const Key& key = find_key(text_field(body, verb));
+    const bool down = body.contains("press");
+    parts_.loop.call([&] { down ? parts_.session.hold(key) : parts_.session.release(key); });
+    answer_json(call.response, {{verb, key.name}});
+}
+
+void Api::get_state(const Call& call)
+{
+    json state = parts_.loop.call([&] { return state_json(parts_); });
+    for (const auto& stream : streams_) {
+        json& channel = state["channels"][static_cast<std::size_t>(stream->channel())];
+        channel["viewers"] = stream->viewers();
+        channel["encoded"] = stream->encoded();
+    }
+    answer_json(call.response, state);
+}
+
+void Api::get_settings(const Call& call)
+{
+    answer_json(call.response, parts_.loop.call([&] { return settings_list(parts_.camera.settings()); }));
+}
+
+void Api::put_setting(const Call& call)
+{
+    const json body = read_object(call.request);
+    refuse_other_fields(body, {"value"});
+    const std::string text = value_text(body.value("value", json()), "'value'");
+    const auto change = [&] {
+        const SettingId id = parts_.camera.settings().by_name(call.arguments[0]).id;
+        parts_.session.change(id, text);
+        return setting_object(parts_.camera.settings(), *parts_.camera.settings().find(id));
+    };
+    answer_json(call.response, parts_.loop.call(change));
+}
+
+void Api::get_export(const Call& call)
+{
+    call.response.set_header("Content-Disposition", "attachment; filename=\"settings.json\"");
+    answer_json(call.response, parts_.loop.call([&] { return export_settings(parts_.camera.settings()); }));
+}
+
+void Api::put_import(const Call& call)
+{
+    const json values = read_object(call.request);
+    const std::size_t count = parts_.loop.call([&] { return parts_.session.import(values); });
+    answer_json(call.response, {{"settings", count}});
+}
+
+void Api::post_language(const Call& call)
+{
+    const json body = read_object(call.request);
+    refuse_other_fields(body, {"language"});
+    const std::string wanted = text_field(body, "language");
+    const std::string language = parts_.loop.call([&] {
+        parts_.session.change(language_setting, option_of_language(parts_.camera.definitions(), wanted));
+        return parts_.camera.language();
+    });
+    answer_json(call.response, {{"language", language}});
+}
+
+void Api::post_menu(const Call& call)
+{
+    const json body = read_object(call.request);
+    refuse_other_fields(body, {"style", "size"});
+    const json style = body.value("style", json(0));
+    const json size = body.value("size", json("1080p"));
+    if (!style.is_number_integer() || style < 0 || style > 2 || (size != "1080p" && size != "4k")) {
+        throw HttpError(400, "expected a 'style' of 0, 1 or 2, and a 'size' of \"1080p\" or \"4k\"");
+    }
+    const MenuConfig config = parts_.loop.call([&] {
+        MenuConfig wanted = parts_.session.config();
+        wanted.style = body.contains("style") ? style.get<std::uint32_t>() : wanted.style;
+        wanted.uhd = body.contains("size") ? size == "4k" : wanted.uhd;
+        parts_.session.restart(wanted);
+        return parts_.session.has_menu() ? wanted : throw NoMenu();
+    });
+    answer_json(call.response, {{"style", config.style}, {"size", config.uhd ? "4k" : "1080p"}});
+}
+
+void Api::get_faults(const Call& call) { answer_json(call.response, faults_json(parts_.camera.faults())); }
+
+void Api::put_faults(const Call& call)
+{
+    const json body = read_object(call.request);
+    refuse_other_fields(body, {"on"});
+    const json names = body.value("on", json());
+    if (!names.is_array() ||
+        !std::all_of(names.begin(), names.end(), [](const json& name) { return name.is_string(); })) {
+        throw HttpError(400, "expected a list of names in 'on', GET /faults tells them");
+    }
+    parts_.loop.call([&] {
+        parts_.camera.faults().set(parse_faults(names));
+        parts_.hub.publish("faults", faults_json(parts_.camera.faults()));
+    });
+    get_faults(call);
+}
+
+void Api::get_events(const Call& call)
+{
+    const auto place = take_viewer_place();
+    // On the menu thread, so that nothing happens between the state and the first event behind it.
+    const auto listener = parts_.loop.call([&] { return parts_.hub.listen("state", state_json(parts_)); });
+    start_event_stream(call.response, [place, listener](httplib::DataSink& sink) {
+        const auto text = listener->next(event_patience);
+        // A comment now and then finds out whether the client is still there.
+        const std::string bytes = !text || !text->empty() ? text.value_or("") : ":\n\n";
+        return text && sink.write(bytes.data(), bytes.size());
+    });
+}
+
+} // namespace sim

@@ -1,0 +1,102 @@
+#include "simulator/web/camera_parts.h"
+
+#include "simulator/host/menu_state.h"
+
+namespace sim {
+namespace {
+
+using nlohmann::json;
+
+json languages_json(const Camera& camera)
+{
+    json names = json::array();
+    for (const auto& [option, name] : camera.definitions().languages) {
+        names.push_back(name);
+    }
+    return names;
+}
+
+json channels_json(Camera& camera)
+{
+    json channels = json::array();
+    for (int i = 0; i < channel_count; ++i) {
+        const Size size = camera.channels().size(i);
+        channels.push_back(
+            {{"name", channel_names.at(static_cast<std::size_t>(i))}, {"width", size.width}, {"height", size.height}});
+    }
+    return channels;
+}
+
+json page_json(const PageState& page)
+{
+    json items = json::array();
+    for (const ItemState& item : page.items) {
+        items.push_back({{"key", item.key},
+                         {"label", item.label},
+                         {"value", item.value},
+                         {"selected", item.selected},
+                         {"editing", item.editing}});
+    }
+    return {{"name", page.name},
+            {"title", page.title},
+            {"layout", page.layout},
+            {"message", page.message},
+            {"items", std::move(items)}};
+}
+
+json focus_json(const std::vector<PageState>& pages)
+{
+    if (pages.empty()) {
+        return nullptr;
+    }
+    const PageState& top = pages.back();
+    const ItemState* item = selected_item(top);
+    return {{"page", top.name},
+            {"title", top.title},
+            {"message", top.message},
+            {"label", item == nullptr ? "" : item->label},
+            {"value", item == nullptr ? "" : item->value}};
+}
+
+json problems_json(const LiveReload& reload)
+{
+    json problems = json::array();
+    for (const Problem& problem : reload.problems()) {
+        problems.push_back({{"file", problem.file}, {"line", problem.line}, {"reason", problem.reason}});
+    }
+    return problems;
+}
+
+} // namespace
+
+json state_json(const CameraParts& parts)
+{
+    const std::vector<PageState> pages = menu_state(parts.camera);
+    json list = json::array();
+    for (const PageState& page : pages) {
+        list.push_back(page_json(page));
+    }
+    const MenuConfig& config = parts.session.config();
+    return {{"menu", parts.session.has_menu()},
+            {"open", !pages.empty()},
+            {"language", parts.camera.language()},
+            {"languages", languages_json(parts.camera)},
+            {"style", config.style},
+            {"size", config.uhd ? "4k" : "1080p"},
+            {"channels", channels_json(parts.camera)},
+            {"pages", std::move(list)},
+            {"focus", focus_json(pages)},
+            {"problems", problems_json(parts.reload)},
+            {"faults", parts.camera.faults().names()}};
+}
+
+json faults_json(const Faults& faults)
+{
+    json list = json::array();
+    for (const FaultRow& row : all_faults()) {
+        list.push_back({{"name", row.name}, {"help", row.help}, {"on", faults.is_on(row.fault)}});
+    }
+    return {{"faults", std::move(list)}};
+}
+
+} // namespace sim

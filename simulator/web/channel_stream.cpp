@@ -1,0 +1,124 @@
+#include "simulator/web/channel_stream.h"
+
+#include <exception>
+
+#include "simulator/core/log.h"
+#include "simulator/video/encode.h"
+
+namespace sim {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr std::chrono::milliseconds frame_time{40};
+constexpr std::chrono::milliseconds shortest_frame_time{20}; ///< a picture brought forward by a push
+constexpr std::chrono::seconds repeat_time{1};               ///< browsers show a picture when the next one comes
+constexpr int quality = 80;
+
+} // namespace
+
+ChannelStream::ChannelStream(Camera& camera, int channel) : camera_(camera), channel_(channel)
+{
+    thread_ = std::thread([this] { work(); });
+}
+
+ChannelStream::~ChannelStream()
+{
+    close();
+    thread_.join();
+}
+
+void ChannelStream::close()
+{
+    const std::lock_guard<std::mutex> lock(mutex_);
+    closed_ = true;
+    changed_.notify_all();
+    camera_.channels().wake();
+}
+
+int ChannelStream::viewers() const
+{
+    const std::lock_guard<std::mutex> lock(mutex_);
+    return viewers_;
+}
+
+std::uint64_t ChannelStream::encoded() const
+{
+    const std::lock_guard<std::mutex> lock(mutex_);
+    return encoded_;
+}
+
+/// False when the stream is to end.
+bool ChannelStream::wait_for_viewers()
+{
+    std::unique_lock<std::mutex> lock(mutex_);
+    changed_.wait(lock, [this] { return closed_ || viewers_ > 0; });
+    return !closed_;
+}
+
+bool ChannelStream::has_frame() const
+{
+    const std::lock_guard<std::mutex> lock(mutex_);
+    return frame_ != nullptr;
+}
+
+void ChannelStream::encode()
+{
+    Image image = camera_.draw(channel_);
+    if (has_frame() && image.size.width == last_.size.width && image.pixels == last_.pixels) {
+        return;
+    }
+    auto frame = std::make_shared<Frame>();
+    frame->jpeg = encode_jpeg(image, quality);
+    last_ = std::move(image);
+    const std::lock_guard<std::mutex> lock(mutex_);
+    frame->number = ++encoded_;
+    frame_ = std::move(frame);
+    changed_.notify_all();
+}
+
+void ChannelStream::work()
+{
+    while (wait_for_viewers()) {
+        const auto begin = Clock::now();
+        const std::uint64_t seen = camera_.channels().changes();
+        try {
+            encode();
+        } catch (const std::exception& error) { // no memory: perhaps there is some for the next picture
+            log_line(LogLevel::Error, "stream", error.what());
+        }
+        (void)camera_.channels().wait_for_change(seen, begin + frame_time); // either way the next picture is due
+        std::this_thread::sleep_until(begin + shortest_frame_time);
+    }
+}
+
+ChannelStream::Viewer::Viewer(ChannelStream& stream) : stream_(stream)
+{
+    const std::lock_guard<std::mutex> lock(stream_.mutex_);
+    if (stream_.viewers_++ == 0) {
+        stream_.frame_ = nullptr; // of the time when somebody watched last
+        stream_.changed_.notify_all();
+    }
+}
+
+ChannelStream::Viewer::~Viewer()
+{
+    const std::lock_guard<std::mutex> lock(stream_.mutex_);
+    --stream_.viewers_;
+}
+
+std::shared_ptr<const ChannelStream::Frame> ChannelStream::Viewer::next()
+{
+    std::unique_lock<std::mutex> lock(stream_.mutex_);
+    const auto has_news = [this] {
+        return stream_.closed_ || (stream_.frame_ != nullptr && stream_.frame_->number != seen_);
+    };
+    stream_.changed_.wait_for(lock, repeat_time, has_news);
+    if (stream_.closed_ || stream_.frame_ == nullptr) {
+        return nullptr;
+    }
+    seen_ = stream_.frame_->number;
+    return stream_.frame_;
+}
+
+} // namespace sim

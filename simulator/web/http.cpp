@@ -1,0 +1,54 @@
+#include "simulator/web/http.h"
+
+#include <algorithm>
+
+namespace sim {
+
+using nlohmann::json;
+
+std::string to_text(const json& value) { return value.dump(-1, ' ', false, json::error_handler_t::replace); }
+
+void answer_json(httplib::Response& response, const json& value)
+{
+    response.set_content(to_text(value) + "\n", "application/json");
+}
+
+void answer_error(httplib::Response& response, int status, const std::string& words)
+{
+    response.status = status;
+    answer_json(response, {{"error", words}});
+}
+
+json read_object(const httplib::Request& request)
+{
+    json object = json::parse(request.body, nullptr, false);
+    if (!object.is_object()) {
+        throw HttpError(400, "the body must be a JSON object, { ... }");
+    }
+    return object;
+}
+
+std::string text_field(const json& object, const char* name)
+{
+    const auto found = object.find(name);
+    if (found == object.end() || !found->is_string()) {
+        throw HttpError(400, std::string("expected a text in '") + name + "'");
+    }
+    return found->get<std::string>();
+}
+
+void refuse_other_fields(const json& object, std::initializer_list<const char*> known)
+{
+    std::string names;
+    for (const char* name : known) {
+        names += (names.empty() ? "'" : ", '") + std::string(name) + "'";
+    }
+    for (const auto& [field, value] : object.items()) {
+        const auto is_field = [&name = field](const char* other) { return name == other; };
+        if (std::none_of(known.begin(), known.end(), is_field)) {
+            throw HttpError(400, "unknown field '" + field + "', expected " + names);
+        }
+    }
+}
+
+} // namespace sim

@@ -1,0 +1,38 @@
+// What the parts of the web server share: refusals, JSON in and out.
+#pragma once
+
+#include <nlohmann/json.hpp>
+#include <stdexcept>
+#include <string>
+
+#include <httplib.h>
+
+namespace sim {
+
+/// The answer to a request that can't be served, in words for the person who wrote it.
+class HttpError : public std::runtime_error {
+public:
+    HttpError(int status, const std::string& words) : std::runtime_error(words), status_(status) {}
+    int status() const { return status_; }
+
+private:
+    int status_;
+};
+
+/// The text of a JSON value. What isn't UTF-8, such as bytes of a file that somebody saved half, becomes a replacement
+/// character.
+std::string to_text(const nlohmann::json& value);
+
+void answer_json(httplib::Response& response, const nlohmann::json& value);
+void answer_error(httplib::Response& response, int status, const std::string& words);
+
+/// The object in the body of a request. Throws HttpError when there is none.
+nlohmann::json read_object(const httplib::Request& request);
+
+/// A field that is a text; throws HttpError when it is missing or no text.
+std::string text_field(const nlohmann::json& object, const char* name);
+
+/// Throws HttpError when the object has a field that isn't in the list.
+void refuse_other_fields(const nlohmann::json& object, std::initializer_list<const char*> known);
+
+} // namespace sim

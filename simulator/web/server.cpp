@@ -1,0 +1,148 @@
+#include "simulator/web/server.h"
+
+#include <algorithm>
+#include <cstring>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include "simulator/core/errors.h"
+#include "simulator/web/connection.h"
+#include "simulator/web/workers.h"
+
+namespace sim {
+namespace {
+
+constexpr std::size_t most_workers = 160; ///< the viewers and some more
+constexpr std::size_t longest_path = 300;
+constexpr int send_buffer_bytes = 256 * 1024; ///< about two pictures: a slow viewer must not lag behind by seconds
+
+/// Bodies are read by the server for paths that fit this pattern; it matches all paths that check_form() lets pass.
+constexpr const char* any_path = "[^\n]{1,300}";
+
+void set_socket_options(int socket)
+{
+    const int on = 1;
+    (void)::setsockopt(socket, SOL_SOCKET, SO_REUSEADDR, &on, sizeof on); // a camera that was just ended
+    (void)::setsockopt(socket, SOL_SOCKET, SO_SNDBUF, &send_buffer_bytes, sizeof send_buffer_bytes);
+}
+
+bool has_control_character(const std::string& text)
+{
+    return std::any_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < ' '; });
+}
+
+/// Refuses what must not reach the reading of the body, which has no limits for such requests.
+void check_form(const httplib::Request& request)
+{
+    if (request.path.empty() || request.path.front() != '/' || has_control_character(request.path)) {
+        throw HttpError(400, "the path must begin with '/' and have no control characters");
+    }
+    if (request.path.size() > longest_path) {
+        throw HttpError(414, "the path has more than " + std::to_string(longest_path) + " bytes");
+    }
+    if (request.has_header("Transfer-Encoding") || request.has_header("Content-Encoding")) {
+        throw HttpError(411, "send the body as it is, with a Content-Length");
+    }
+    const bool has_body = request.get_header_value("Content-Length", 0).find_first_of("123456789") != std::string::npos;
+    const std::string type = request.get_header_value("Content-Type");
+    if (has_body && type.compare(0, std::strlen("application/json"), "application/json") != 0) {
+        throw HttpError(415, "the body must be JSON, with the header 'Content-Type: application/json'");
+    }
+}
+
+const char* reason_of(int status)
+{
+    switch (status) {
+    case 413:
+        return "the request is too large, at most 1 MiB are read";
+    case 414:
+        return "the address is too long";
+    default:
+        return "the request can't be read, or took longer than five seconds";
+    }
+}
+
+} // namespace
+
+class WebServer::Http : public httplib::Server {
+public:
+    explicit Http(Api& api)
+    {
+        new_task_queue = [] { return new Workers(most_workers); }; // the server deletes it
+        set_payload_max_length(Connection::max_request / 2);
+        set_tcp_nodelay(true);
+        httplib::Server::set_socket_options(&sim::set_socket_options);
+        set_pre_routing_handler([&api](const httplib::Request& request, httplib::Response& response) {
+            return serve_without_body(api, request, response);
+        });
+        const auto serve = [&api](const httplib::Request& request, httplib::Response& response) {
+            api.serve(request, response);
+        };
+        Post(any_path, serve).Put(any_path, serve).Patch(any_path, serve).Delete(any_path, serve);
+        set_error_handler([](const httplib::Request&, httplib::Response& response) {
+            if (response.body.empty()) {
+                answer_error(response, response.status, reason_of(response.status));
+            }
+        });
+        set_default_headers({{"X-Content-Type-Options", "nosniff"}});
+    }
+
+private:
+    static HandlerResponse serve_without_body(Api& api, const httplib::Request& request, httplib::Response& response)
+    {
+        try {
+            check_form(request);
+        } catch (const HttpError& error) {
+            answer_error(response, error.status(), error.what());
+            return HandlerResponse::Handled;
+        }
+        const bool may_have_body = request.method == "POST" || request.method == "PUT" || request.method == "PATCH" ||
+                                   request.method == "DELETE";
+        if (!may_have_body) {
+            api.serve(request, response);
+        }
+        return may_have_body ? HandlerResponse::Unhandled : HandlerResponse::Handled;
+    }
+
+    /// One request a connection: what a client sends behind it is never taken for a second one.
+    bool process_and_close_socket(socket_t socket) override
+    {
+        if (Workers::turned_away()) {
+            constexpr const char* answer = "HTTP/1.1 503 Service Unavailable\r\nContent-Type: application/json\r\n"
+                                           "Connection: close\r\n\r\n{\"error\":\"too many requests at once\"}\n";
+            (void)::send(socket, answer, std::strlen(answer), MSG_NOSIGNAL | MSG_DONTWAIT); // it is only a courtesy
+            ::close(socket);
+            return false;
+        }
+        Connection connection(socket);
+        bool closed = false;
+        return process_request(connection, true, closed, [](httplib::Request&) {});
+    }
+};
+
+WebServer::WebServer(Api& api, const ListenAddress& listen)
+    : api_(api), listen_(listen), http_(std::make_unique<Http>(api))
+{
+    if (listen_.port == 0) {
+        listen_.port = http_->bind_to_any_port(listen_.host);
+    } else if (!http_->bind_to_port(listen_.host, listen_.port)) {
+        listen_.port = -1;
+    }
+    if (listen_.port < 0) {
+        throw BadInput("can't listen at " + listen.host + ", port " + std::to_string(listen.port) + ": " +
+                       std::strerror(errno) + "; choose another with --listen ADDRESS:PORT");
+    }
+    thread_ = std::thread([this] { (void)http_->listen_after_bind(); });
+}
+
+WebServer::~WebServer()
+{
+    api_.close();
+    while (!http_->is_running()) { // a stop before the start would not be noticed
+        std::this_thread::yield();
+    }
+    http_->stop();
+    thread_.join();
+}
+
+} // namespace sim

@@ -1,0 +1,254 @@
+// The web server of the simulated camera, as its clients meet it.
+#include <gmock/gmock.h>
+#include <netinet/in.h>
+#include <nlohmann/json.hpp>
+#include <sys/socket.h>
+
+#include "tests/simulator/running_camera.h"
+
+using nlohmann::json;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+class WebTest : public testing::Test {
+protected:
+    static void SetUpTestSuite() { camera = new RunningCamera({"--still", "--reset"}); }
+    static void TearDownTestSuite()
+    {
+        delete camera;
+        camera = nullptr;
+    }
+
+    static json get(const std::string& path)
+    {
+        const auto result = camera->client().Get(path);
+        return result ? json::parse(result->body, nullptr, false) : json();
+    }
+    static json send(const char* method, const std::string& path, const json& body)
+    {
+        httplib::Request request;
+        request.method = method;
+        request.path = path;
+        request.body = body.dump();
+        request.set_header("Content-Type", "application/json");
+        const auto result = camera->client().send(request);
+        return result ? json::parse(result->body, nullptr, false) : json();
+    }
+    static void press(const json& keys) { EXPECT_EQ(send("POST", "/keys", {{"keys", keys}})["keys"], keys.size()); }
+    static std::string value_of(const std::string& name)
+    {
+        const json answer = get("/settings");
+        for (const json& setting : answer["settings"]) {
+            if (setting["name"] == name) {
+                return setting["value"];
+            }
+        }
+        return "no such setting";
+    }
+
+    static RunningCamera* camera;
+};
+
+RunningCamera* WebTest::camera = nullptr;
+
+struct Refusal {
+    const char* method;
+    std::string path;
+    httplib::Headers headers;
+    std::string body;
+    int status;
+    const char* words;
+};
+
+TEST_F(WebTest, RefusesInWords)
+{
+    const std::pair<std::string, std::string> json_type = {"Content-Type", "application/json"};
+    const Refusal refusals[] = {
+        {"GET", "/nothing", {}, "", 404, "there is nothing at /nothing"},
+        {"GET", "/../settings.json", {}, "", 404, "nothing"},
+        {"GET", "/%2e%2e/%2e%2e/etc/passwd", {}, "", 404, "nothing"},
+        {"GET", "/index.html/", {}, "", 404, "nothing"},
+        {"GET", "/channels/3/snapshot.png", {}, "", 404, "no channel '3'"},
+        {"GET", "/a%0Ab", {}, "", 400, "control characters"},
+        {"GET", "/" + std::string(4000, 'a'), {}, "", 414, "more than 300 bytes"},
+        {"DELETE", "/settings", {}, "", 405, "takes GET, not DELETE"},
+        {"POST", "/", {json_type}, "{}", 405, "takes GET"},
+        {"GET", "/keys", {}, "", 405, "takes POST"},
+        {"POST", "/keys", {{"Content-Type", "text/plain"}}, "{}", 415, "application/json"},
+        {"POST", "/keys", {json_type}, "menu", 400, "must be a JSON object"},
+        {"POST", "/keys", {json_type}, R"({"keys": ["menu", "jump"]})", 400, "unknown key 'jump', expected one of"},
+        {"POST", "/keys", {json_type}, R"({"keys": "menu"})", 400, "must be a list"},
+        {"POST", "/keys", {json_type}, R"({"kees": []})", 400, "unknown field 'kees', expected 'keys'"},
+        {"POST", "/keys", {json_type}, "{}", 400, "expected one of 'keys', 'press' and 'release'"},
+        {"POST", "/keys", {json_type}, std::string(std::size_t{100} << 20, ' '), 413, "too large"},
+        {"PUT", "/settings/Colour", {json_type}, R"({"value": "1"})", 404, "no setting 'Colour'"},
+        {"PUT", "/settings/Zoom", {json_type}, R"({"value": 99})", 400, "no whole number from 100 to 2000"},
+        {"PUT", "/settings/Zoom", {json_type}, R"({"value": []})", 400, "a text or a whole number"},
+        {"PUT", "/settings.json", {json_type}, R"({"Zoom": "300", "Mirror": "Up"})", 400, "Mirror"},
+        {"POST", "/language", {json_type}, R"({"language": "Klingon"})", 400, "expected one of English"},
+        {"POST", "/menu", {json_type}, R"({"style": 3})", 400, "'style' of 0, 1 or 2"},
+        {"PUT", "/faults", {json_type}, R"({"on": ["all"]})", 400, "settings-slow"},
+        {"GET", "/state", {{"Host", "camera.example"}}, "", 403, "serves this machine only"},
+        {"POST", "/keys", {json_type, {"Origin", "http://camera.example"}}, "{}", 403, "may not use this camera"},
+        {"GET", "/state", {{"Origin", "null"}}, "", 403, "may not use this camera"},
+    };
+    for (const Refusal& refusal : refusals) {
+        httplib::Request request;
+        request.method = refusal.method;
+        request.path = refusal.path;
+        request.headers = refusal.headers;
+        request.body = refusal.body;
+        auto client = camera->client();
+        client.set_url_encode(false);
+        const auto result = client.send(request);
+        ASSERT_TRUE(result) << refusal.path << ' ' << to_string(result.error());
+        EXPECT_EQ(result->status, refusal.status) << refusal.path;
+        EXPECT_THAT(json::parse(result->body, nullptr, false).value("error", result->body), HasSubstr(refusal.words));
+    }
+    EXPECT_EQ(value_of("Zoom"), "100"); // the import of two came to nothing
+}
+
+/// Sends bytes and reads the answer to its end.
+static std::string answer_to(int port, const std::string& bytes)
+{
+    const int socket = ::socket(AF_INET, SOCK_STREAM, 0);
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_port = htons(static_cast<std::uint16_t>(port));
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    EXPECT_EQ(connect(socket, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
+    (void)::send(socket, bytes.data(), bytes.size(), MSG_NOSIGNAL); // the camera may have answered and gone
+    shutdown(socket, SHUT_WR);
+    std::string answer;
+    char part[4096];
+    for (ssize_t count = recv(socket, part, sizeof part, 0); count > 0; count = recv(socket, part, sizeof part, 0)) {
+        answer.append(part, static_cast<std::size_t>(count));
+    }
+    close(socket);
+    return answer;
+}
+
+TEST_F(WebTest, AnswersDamagedRequests)
+{
+    const std::string host = "Host: localhost\r\n";
+    const std::pair<std::string, const char*> cases[] = {
+        {"\r\n\r\n", "HTTP/1.1 400"},
+        {"GET\r\n\r\n", "HTTP/1.1 400"},
+        {"FETCH / HTTP/1.1\r\n" + host + "\r\n", "HTTP/1.1 400"},
+        {"GET / HTTP/9.9\r\n" + host + "\r\n", "HTTP/1.1 400"},
+        {"GET /state HTTP/1.1\r\n\r\n", "HTTP/1.1 403"},
+        {"GET /state HTTP/1.1\r\n" + host + std::string(20000, 'a') + "\r\n\r\n", "HTTP/1.1 400"},
+        {"GET http://localhost/state HTTP/1.1\r\n" + host + "\r\n", "HTTP/1.1 400"},
+        {"POST /keys HTTP/1.1\r\n" + host + "Transfer-Encoding: chunked\r\n\r\nFFFFFFFFFFFFFFF\r\n", "HTTP/1.1 411"},
+        {"POST /keys HTTP/1.1\r\n" + host + "Content-Encoding: gzip\r\nContent-Length: 3\r\n\r\n\x1f\x8b\x08",
+         "HTTP/1.1 411"},
+        {"POST /keys HTTP/1.1\r\n" + host + "Content-Type: application/json\r\nContent-Length: 99\r\n\r\n{",
+         "HTTP/1.1 400"},
+        {"POST /keys HTTP/1.1\r\n" + host + "Content-Type: application/json\r\nContent-Length: -1\r\n\r\n{}",
+         "HTTP/1.1 4"},
+        {"GET /channels/2/snapshot.jpg HTTP/1.1\r\n" + host + "Range: bytes=9999999-\r\n\r\n", "HTTP/1.1 "},
+        {"GET /channels/2/snapshot.jpg HTTP/1.1\r\n" + host + "Range: bytes=0-1,5-2,-\r\n\r\n", "HTTP/1.1 "},
+        {"HEAD /channels/2/stream.mjpg HTTP/1.1\r\n" + host + "\r\n", "HTTP/1.1 200"},
+        {"GET /state HTTP/1.1\r\n" + host + "\r\nGET /state HTTP/1.1\r\n", "HTTP/1.1 200"},
+    };
+    for (const auto& [bytes, start] : cases) {
+        EXPECT_THAT(answer_to(camera->port, bytes), StartsWith(start)) << bytes.substr(0, 60);
+    }
+    std::string endless = "GET / HTTP/1.1\r\n" + host;
+    for (int i = 0; i < 40000; ++i) {
+        endless += "X-" + std::to_string(i) + ": a header among too many\r\n";
+    }
+    EXPECT_THAT(answer_to(camera->port, endless), StartsWith("HTTP/1.1 400"));
+    EXPECT_EQ(get("/state")["menu"], true);
+}
+
+TEST_F(WebTest, KeysMoveTheMenu)
+{
+    EXPECT_EQ(get("/state")["focus"], nullptr);
+    press({"menu", "home", "down"});
+    const json state = get("/state");
+    EXPECT_EQ(state["pages"].size(), 2);
+    EXPECT_EQ(state["focus"]["page"], "image");
+    EXPECT_EQ(state["focus"]["label"], "Contrast");
+    EXPECT_EQ(state["focus"]["value"], "50");
+    send("POST", "/keys", {{"press", "right"}});
+    const auto contrast = [] { return std::stoi(value_of("ImageParam.Contrast")); };
+    while (contrast() < 54) { // the camera repeats the key by itself
+    }
+    send("POST", "/keys", {{"release", "right"}});
+    const int held = contrast();
+    press({"left"});
+    EXPECT_EQ(contrast(), held - 1);
+    EXPECT_EQ(send("POST", "/language", {{"language", "German"}})["language"], "German");
+    EXPECT_EQ(get("/state")["focus"]["label"], "Kontrast");
+    EXPECT_EQ(get("/state")["focus"]["page"], "image");
+    EXPECT_EQ(send("PUT", "/settings/Contrast", {{"value", 70}})["value"], "70");
+    EXPECT_EQ(get("/state")["focus"]["value"], "70");
+    EXPECT_EQ(send("POST", "/menu", {{"style", 1}, {"size", "4k"}})["size"], "4k");
+    EXPECT_EQ(get("/state")["channels"][0]["width"], 3840);
+    send("POST", "/menu", {{"style", 0}, {"size", "1080p"}});
+    send("POST", "/language", {{"language", "English"}});
+}
+
+TEST_F(WebTest, SettingsGoOutAndIn)
+{
+    json values = get("/settings.json");
+    EXPECT_EQ(values.size(), get("/settings")["settings"].size());
+    values["ImageParam.Flip"] = "On";
+    EXPECT_EQ(send("PUT", "/settings.json", values)["settings"], values.size());
+    EXPECT_EQ(value_of("ImageParam.Flip"), "On");
+    EXPECT_EQ(send("PUT", "/settings.json", {{"ImageParam.Flip", "Off"}})["settings"], 1);
+    EXPECT_EQ(value_of("ImageParam.Flip"), "Off");
+}
+
+/// Reads an endless answer until the text has been seen.
+static std::string read_until(const RunningCamera& camera, const std::string& path, const std::string& text)
+{
+    std::string read;
+    (void)camera.client().Get(path, [&](const char* bytes, std::size_t size) {
+        read.append(bytes, size);
+        return read.find(text) == std::string::npos;
+    });
+    return read;
+}
+
+TEST_F(WebTest, StreamsPicturesAndEvents)
+{
+    const auto encoded = [] { return get("/state")["channels"][2]["encoded"].get<long>(); };
+    const long before = encoded();
+    EXPECT_THAT(read_until(*camera, "/channels/2/stream.mjpg", "\xFF\xD9\r\n--frame\r\n"),
+                StartsWith("--frame\r\nContent-Type: image/jpeg\r\nContent-Length: "));
+    EXPECT_GT(encoded(), before);
+    while (get("/state")["channels"][2]["viewers"] != 0) { // found gone with the next picture
+    }
+    const long watched = encoded();
+    send("PUT", "/settings/Mirror", {{"value", "On"}});
+    EXPECT_NE(camera->client().Get("/channels/2/snapshot.png")->body.size(), 0U);
+    EXPECT_EQ(encoded(), watched) << "nobody watches";
+    std::thread press_menu([] { press({"close", "zoom+"}); });
+    const std::string events = read_until(*camera, "/events", R"({"name":"Zoom","value":"150"})");
+    press_menu.join();
+    EXPECT_THAT(events, StartsWith("event: state\ndata: {"));
+}
+
+TEST(Web, NeedsTheTokenBeyondThisMachine)
+{
+    const RunningCamera camera({"--token", "s3cret", "--still"});
+    EXPECT_THAT(camera.address, testing::EndsWith("/?token=s3cret\n"));
+    const std::tuple<const char*, httplib::Headers, int> cases[] = {
+        {"/state", {}, 401},
+        {"/state?token=s3cre", {}, 401},
+        {"/state", {{"Authorization", "Bearer secret"}}, 401},
+        {"/state", {{"Authorization", "Bearer s3cret"}, {"Host", "camera.example"}}, 200},
+        {"/state", {{"Cookie", "a=b; camera_token=s3cret"}}, 200},
+        {"/?token=s3cret", {}, 200},
+        {"/", {}, 401},
+        {"/style.css", {}, 401},
+    };
+    for (const auto& [path, headers, status] : cases) {
+        const auto result = camera.client().Get(path, headers);
+        ASSERT_TRUE(result) << path;
+        EXPECT_EQ(result->status, status) << path;
+        EXPECT_EQ(result->has_header("Set-Cookie"), std::string(path) == "/?token=s3cret");
+    }
+}

@@ -1,0 +1,175 @@
+#!/usr/bin/env python3
+"""Lets people and mishaps loose on the simulated camera for some minutes, and looks whether it stays healthy.
+
+    tests/soak/soak.py build/dev/simulator/camera-sim --minutes 10
+
+Random keys, changed and broken files, languages, skins, sizes, faults, imports, viewers that come and go, read slowly or
+say nothing. Every half minute the camera's memory and descriptors are printed. It fails when the camera ends by itself, a
+sanitizer reports something, a request has no clear answer, or memory or descriptors grow after the first third.
+"""
+import argparse
+import http.client
+import json
+import os
+import random
+import re
+import shutil
+import signal
+import socket
+import subprocess
+import sys
+import tempfile
+import threading
+import time
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parents[2]
+KEYS = ("menu home up down left right up-left up-right down-left down-right advanced return close left-keep right-keep "
+        "apply zoom+ zoom- prompt rec").split()
+FAULTS = ["settings-refusing", "settings-out-of-range", "language-refusing", "memory-exhausted", "fonts-missing",
+          "pictures-missing"]
+
+
+class Camera:
+    def __init__(self, program, folder):
+        self.resources = folder / "resource"
+        shutil.copytree(ROOT / "resource", self.resources)
+        # The quarantine would look like growth; a little of it finds as much here.
+        environment = dict(os.environ, ASAN_OPTIONS="quarantine_size_mb=8:detect_leaks=1", TSAN_OPTIONS="halt_on_error=0")
+        self.log = open(folder / "log.txt", "w+", encoding="utf-8", errors="replace")
+        self.process = subprocess.Popen(
+            [program, "--data", folder / "data", "--resources", self.resources, "--listen", "127.0.0.1:0"],
+            stdout=subprocess.PIPE, stderr=self.log, env=environment, text=True)
+        line = self.process.stdout.readline()
+        self.port = int(re.search(r":(\d+)/", line).group(1))
+
+    def ask(self, method, path, body=None):
+        """Sends a request; returns the status."""
+        connection = http.client.HTTPConnection("127.0.0.1", self.port, timeout=60)
+        try:
+            headers = {"Content-Type": "application/json"} if body is not None else {}
+            connection.request(method, path, json.dumps(body) if body is not None else None, headers)
+            answer = connection.getresponse()
+            answer.read()
+            return answer.status
+        finally:
+            connection.close()
+
+    def memory(self):
+        """Resident MiB and open descriptors."""
+        pages = int(Path(f"/proc/{self.process.pid}/statm").read_text().split()[1])
+        return pages * os.sysconf("SC_PAGESIZE") / 2**20, len(os.listdir(f"/proc/{self.process.pid}/fd"))
+
+
+def press_keys(camera, dice):
+    choice = dice.random()
+    if choice < 0.8:
+        return camera.ask("POST", "/keys", {"keys": dice.choices(KEYS, k=dice.randint(1, 12))})
+    return camera.ask("POST", "/keys", {dice.choice(["press", "release"]): dice.choice(KEYS)})
+
+
+def switch(camera, dice):
+    what = dice.randrange(6)
+    if what == 0:
+        return camera.ask("POST", "/language", {"language": dice.choice(["English", "German", "TraditionalChinese"])})
+    if what == 1:
+        return camera.ask("POST", "/menu", {"style": dice.randrange(3), "size": dice.choice(["1080p", "1080p", "4k"])})
+    if what == 2:
+        return camera.ask("PUT", "/faults", {"on": dice.sample(FAULTS, dice.randrange(3)) if dice.random() < 0.5 else []})
+    if what == 3:
+        return camera.ask("PUT", "/settings/" + dice.choice(["Brightness", "Contrast"]), {"value": dice.randrange(101)})
+    if what == 4:
+        return camera.ask("PUT", "/settings.json", {"ImageParam.Mirror": dice.choice(["On", "Off", "Sideways"])})
+    return camera.ask("GET", dice.choice(["/state", "/settings", "/overlay.png", "/channels/1/snapshot.jpg", "/../x"]))
+
+
+def change_file(camera, dice):
+    file = dice.choice([*camera.resources.glob("pages/*.xml"), *camera.resources.glob("lang/*.json"),
+                        camera.resources / "settings.json", *camera.resources.glob("pic/nav_*.svg")])
+    good = (ROOT / "resource" / file.relative_to(camera.resources)).read_bytes()
+    bad = good[:dice.randrange(len(good))] if dice.random() < 0.3 else good + b"\n"
+    temporary = file.with_name("." + file.name + ".swp")
+    temporary.write_bytes(bad)
+    temporary.replace(file)
+    time.sleep(0.3)
+    file.write_bytes(good)
+    time.sleep(0.3)
+    return 200
+
+
+def watch(camera, dice):
+    """A viewer that reads for a while, slowly or not at all, or sends half a request."""
+    with socket.create_connection(("127.0.0.1", camera.port), timeout=60) as connection:
+        path = dice.choice(["/channels/0/stream.mjpg", "/channels/1/stream.mjpg", "/channels/2/stream.mjpg", "/events"])
+        request = f"GET {path} HTTP/1.1\r\nHost: localhost\r\n\r\n".encode()
+        connection.sendall(request if dice.random() < 0.8 else request[:dice.randrange(len(request))])
+        end = time.monotonic() + dice.uniform(0.1, 8)
+        slow = dice.random() < 0.3
+        while time.monotonic() < end:
+            if slow:
+                time.sleep(1)
+            elif not connection.recv(1 << 16):
+                break
+    return 200
+
+
+def work(camera, task, seed, end, answers, faults):
+    dice = random.Random(seed)
+    while time.monotonic() < end:
+        try:
+            status = task(camera, dice)
+            answers[task.__name__, status] = answers.get((task.__name__, status), 0) + 1
+        except (OSError, http.client.HTTPException) as error:
+            if task is not watch:  # the camera may end a viewer that reads too slowly
+                faults.append(f"{task.__name__}: {error!r}")
+                time.sleep(1)
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("program")
+    parser.add_argument("--minutes", type=float, default=10)
+    parser.add_argument("--seed", type=int, default=1)
+    options = parser.parse_args()
+    answers, faults, samples = {}, [], []
+    with tempfile.TemporaryDirectory(prefix="soak-") as name:
+        camera = Camera(options.program, Path(name))
+        begin = time.monotonic()
+        end = begin + options.minutes * 60
+        tasks = [press_keys] * 3 + [switch, change_file] + [watch] * 12
+        threads = [threading.Thread(target=work, args=(camera, task, f"{options.seed} {i}", end, answers, faults))
+                   for i, task in enumerate(tasks)]
+        for thread in threads:
+            thread.start()
+        while time.monotonic() < end and camera.process.poll() is None:
+            time.sleep(min(30, max(0, end - time.monotonic())))
+            if camera.process.poll() is None:
+                samples.append(camera.memory())
+                print(f"{time.monotonic() - begin:5.0f} s  {samples[-1][0]:6.0f} MiB  {samples[-1][1]:4d} descriptors",
+                      flush=True)
+        for thread in threads:
+            thread.join()
+        time.sleep(8)  # the last viewers are found gone
+        idle = camera.memory() if camera.process.poll() is None else (0, 0)
+        camera.process.send_signal(signal.SIGTERM)
+        status = camera.process.wait(60)
+        camera.log.seek(0)
+        log = camera.log.read()
+    reports = re.findall(r"^.*(?:ERROR: \w+Sanitizer|WARNING: ThreadSanitizer|runtime error).*$", log, re.M)
+    Path("soak.log").write_text(log, encoding="utf-8")
+    print("answers:", ", ".join(f"{task} {code}: {count}" for (task, code), count in sorted(answers.items())))
+    print(f"at the end {idle[0]:.0f} MiB and {idle[1]} descriptors, exit status {status}, {len(reports)} sanitizer reports")
+    third = max(1, len(samples) // 3)
+    early, late = max(m for m, _ in samples[:third]), max(m for m, _ in samples[-third:])
+    if late > early * 1.1 + 16:
+        faults.append(f"memory grew from {early:.0f} to {late:.0f} MiB")
+    if idle[1] > 40:
+        faults.append(f"{idle[1]} descriptors are still open")
+    if any(code >= 500 and code != 503 for _, code in answers):
+        faults.append("the camera failed at a request")
+    print("\n".join(faults + reports) or "healthy")
+    return 1 if faults or reports or status != 0 else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
