@@ -5,6 +5,11 @@
 #include "simulator/core/errors.h"
 
 namespace sim {
+namespace {
+
+thread_local int pauses = 0;
+
+} // namespace
 
 const std::array<FaultRow, fault_count>& all_faults()
 {
@@ -40,6 +45,12 @@ std::set<Fault> parse_faults(const std::vector<std::string>& names)
     return faults;
 }
 
+FaultPause::FaultPause() { ++pauses; }
+
+FaultPause::~FaultPause() { --pauses; }
+
+bool Faults::is_on(Fault fault) const { return pauses == 0 && is_set(fault); }
+
 void Faults::set(const std::set<Fault>& on)
 {
     for (const FaultRow& row : all_faults()) {
@@ -51,7 +62,7 @@ std::vector<std::string> Faults::names() const
 {
     std::vector<std::string> names;
     for (const FaultRow& row : all_faults()) {
-        if (is_on(row.fault)) {
+        if (is_set(row.fault)) {
             names.emplace_back(row.name);
         }
     }

@@ -32,16 +32,28 @@ const std::array<FaultRow, fault_count>& all_faults();
 /// The faults of these names. Throws BadInput for an unknown one, which lists the known ones.
 std::set<Fault> parse_faults(const std::vector<std::string>& names);
 
+/// While one lives, no fault is on for its thread: what isn't done for the menu gets honest answers.
+class FaultPause {
+public:
+    FaultPause();
+    ~FaultPause();
+    FaultPause(const FaultPause&) = delete;
+    FaultPause& operator=(const FaultPause&) = delete;
+};
+
 /// Which faults are on at present. Safe to use from several threads.
 class Faults {
 public:
     /// Exactly these are on from now on.
     void set(const std::set<Fault>& on);
-    bool is_on(Fault fault) const { return on_[static_cast<std::size_t>(fault)].load(std::memory_order_relaxed); }
+    /// Whether it is on for the calling thread.
+    bool is_on(Fault fault) const;
     /// The names of those that are on.
     std::vector<std::string> names() const;
 
 private:
+    bool is_set(Fault fault) const { return on_[static_cast<std::size_t>(fault)].load(std::memory_order_relaxed); }
+
     std::array<std::atomic<bool>, fault_count> on_{};
 };
 

@@ -158,6 +158,9 @@ LiveReload::Effect LiveReload::take_language(const fs::path& file)
 {
     bool spoken = false;
     const bool good = in_order(file, [&] { spoken = camera_.reload_language(file.stem().string()); });
+    if (good && !spoken && problems_.has("settings.json")) {
+        return take_definitions(root_ / "settings.json"); // new ones may have waited for their new language
+    }
     if (!good || !spoken) {
         return Effect::None;
     }

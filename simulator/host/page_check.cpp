@@ -136,6 +136,7 @@ std::optional<PageMistake> find_page_mistake(Camera& camera, const std::string& 
     if (root == nullptr) {
         return PageMistake{0, "there is no element in it"};
     }
+    const FaultPause honest; // a fault that is on says nothing about the page
     std::optional<PageMistake> mistake = PageReader(camera, name).find_mistake(*root);
     camera.forget_missing_texts(); // what was only tried is told when it's shown
     return mistake;

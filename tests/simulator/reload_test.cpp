@@ -183,6 +183,9 @@ TEST_F(Reload, TakesTextsAndDefinitionsOver)
                 HasSubstr("no text for 'Brightness' in English"));
     EXPECT_EQ(change("lang/English.json", good_text), "");
     EXPECT_EQ(screen(), before);
+    camera.faults().set(parse_faults({"language-refusing"})); // says nothing about pages
+    EXPECT_EQ(change("pages/main_page.xml", folder.read("pages/main_page.xml") + "\n"), "");
+    camera.faults().set({});
     camera.change({"ImageParam", "Brightness"}, "100");
     std::string narrow = good_settings;
     const std::size_t max = narrow.find("\"max\"", narrow.find("\"Brightness\""));

@@ -1,0 +1,16 @@
+#include "simulator/core/resources.h"
+
+#include <system_error>
+
+namespace sim {
+
+std::filesystem::path default_resources()
+{
+    const std::filesystem::path source = OSD_RESOURCE_SOURCE_DIR;
+    std::error_code ignored; // a checkout that can't be looked at can't be used
+    return std::filesystem::is_directory(source, ignored) ? source : std::filesystem::path(OSD_RESOURCE_DIR);
+}
+
+std::filesystem::path staged_pictures() { return std::filesystem::path(OSD_RESOURCE_DIR) / "pic"; }
+
+} // namespace sim

@@ -1,0 +1,14 @@
+// Where the camera's resources lie unless somebody names others.
+#pragma once
+
+#include <filesystem>
+
+namespace sim {
+
+/// The resources of the checkout from which the camera was built, or, where that has gone, what its build has staged.
+std::filesystem::path default_resources();
+
+/// The folder from which the menu loads its pictures.
+std::filesystem::path staged_pictures();
+
+} // namespace sim
