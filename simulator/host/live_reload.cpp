@@ -52,7 +52,7 @@ void say_read(const std::string& file) { log_line(LogLevel::Info, "resources", f
 
 } // namespace
 
-LiveReload::LiveReload(Camera& camera, fs::path bitmaps)
+LiveReload::LiveReload(Camera& camera, const fs::path& bitmaps)
     : camera_(camera), root_(plain(camera.resources())), pages_(page_folder(root_)), languages_(root_ / "lang"),
       pictures_(root_ / "pic"), bitmaps_(plain(bitmaps))
 {

@@ -19,7 +19,7 @@ public:
     /// Looks at the camera's resources as they are now: each page that is in order is the one the menu reads from now on,
     /// each other one a problem, and a picture that is newer than its bitmap is drawn. bitmaps: the folder from which the
     /// menu loads its pictures.
-    LiveReload(Camera& camera, std::filesystem::path bitmaps);
+    LiveReload(Camera& camera, const std::filesystem::path& bitmaps);
 
     /// The folders whose changes belong here, for a FolderWatch.
     std::vector<std::filesystem::path> folders() const;
