@@ -19,7 +19,8 @@ let streamTimer = 0;
 function startStream() {
   clearTimeout(streamTimer);
   const channel = byId("channel").value || "0";
-  byId("stream").src = document.hidden ? "" : `channels/${channel}/stream.mjpg?at=${Date.now()}`;
+  if (document.hidden) byId("stream").removeAttribute("src"); // a page that nobody sees needs no frames
+  else byId("stream").src = `channels/${channel}/stream.mjpg?at=${Date.now()}`;
   byId("snapshot-png").href = `channels/${channel}/snapshot.png`;
   byId("snapshot-jpg").href = `channels/${channel}/snapshot.jpg`;
 }
@@ -43,7 +44,7 @@ function wireStream() {
     clearTimeout(streamTimer);
     streamTimer = setTimeout(startStream, streamPause.next());
   });
-  document.addEventListener("visibilitychange", startStream); // a page that nobody sees needs no frames
+  document.addEventListener("visibilitychange", startStream);
   byId("channel").addEventListener("change", () => {
     startStream();
     showView(state);
@@ -53,18 +54,24 @@ function wireStream() {
 
 // --- what a screen reader says ---
 
-let spokenPage = null;
+let spoken = null; // {place, message, row}
 let spokenTimer = 0;
 
+function partsOf(focus) {
+  if (!focus) return { place: "", message: "", row: "Menu closed" };
+  const row = [focus.label, focus.value].filter(Boolean).join(", ");
+  return { place: `${focus.title || focus.page} page.`, message: focus.message ?? "", row };
+}
+
 function speak({ focus }) {
+  const next = partsOf(focus);
+  spoken ??= next; // what stands there from the start isn't news
   clearTimeout(spokenTimer);
   spokenTimer = setTimeout(() => { // a held key says only where it ended
-    const page = focus?.page ?? "";
-    const row = focus ? [focus.label, focus.value].filter(Boolean).join(", ") : "Menu closed";
-    const text = focus && page !== spokenPage ? `${focus.title || focus.page} page. ${row}` : row;
-    const unchanged = spokenPage === null || (spokenPage === page && byId("spoken").textContent.endsWith(row));
-    if (!unchanged) byId("spoken").textContent = text;
-    spokenPage = page;
+    const news = ["place", "message", "row"].filter(part => next[part] !== spoken[part]);
+    const said = new Set(news.length ? [...news, "row"] : []);
+    if (said.size) byId("spoken").textContent = [...said].map(part => next[part]).filter(Boolean).join(" ");
+    spoken = next;
   }, 150);
 }
 
@@ -86,7 +93,7 @@ function showMenu({ open, menu, pages, language }) {
   items.replaceChildren(...(top?.items ?? []).map(itemLine));
   items.hidden = !top;
   byId("menu-note").textContent = menu === false ? "The menu could not start, see the log. Keys do nothing."
-    : open ? "" : "The menu is closed. Menu, or the key M, opens it.";
+    : open ? top?.message ?? "" : "The menu is closed. Menu, or the key M, opens it.";
   const chosen = items.querySelector("[aria-current]");
   if (chosen) items.scrollTop = chosen.offsetTop - (items.clientHeight - chosen.offsetHeight) / 2;
 }
@@ -144,7 +151,7 @@ function showFaults(next) {
   faults = next;
   for (const { name, on } of faults) list.querySelector(`[name="${CSS.escape(name)}"]`).checked = on;
   const count = faults.filter(fault => fault.on).length;
-  byId("tab-faults").firstChild.textContent = count ? `Faults (${count} on)` : "Faults";
+  byId("tab-faults").textContent = count ? `Faults (${count} on)` : "Faults";
 }
 
 // --- switches ---

@@ -100,13 +100,12 @@ function wireButton(button) {
 }
 
 function showKeyboard() {
-  for (const [, shown, name] of keyboard) {
+  for (const [key, shown, name] of keyboard) {
     const button = buttons.get(name);
-    const title = button.title;
     byId("keys-list").append(make("div", {}, make("dt", {}, make("kbd", {}, shown)), make("dd", {},
-      button.getAttribute("aria-label") ?? button.firstChild.textContent, make("small", {}, title))));
+      button.getAttribute("aria-label") ?? button.firstChild.textContent, make("small", {}, button.title))));
     if (!button.hasAttribute("aria-keyshortcuts")) {
-      button.setAttribute("aria-keyshortcuts", shown.replace("+", "Plus"));
+      button.setAttribute("aria-keyshortcuts", { " ": "Space", "+": "Plus" }[key] ?? key);
     }
   }
   for (const [key, shown, name] of keyboard) {

@@ -18,7 +18,7 @@ const fromControl = (kind, value) => (kind === "color" ? value.slice(1) : value)
 
 const queue = makeQueue(async ({ name, value }) => {
   try {
-    await request("PUT", `settings/${encodeURIComponent(name)}`, { value });
+    settingChanged(await request("PUT", `settings/${encodeURIComponent(name)}`, { value }));
   } catch (error) {
     throw new Error(`${name}: ${error.message}`);
   } finally {
@@ -44,6 +44,11 @@ export function settingChanged({ name, value }) {
   mark(held.row, "changed", 2000);
 }
 
+// A long name may break between its words, not within them.
+function breakable(name) {
+  return name.split(/(?<=[a-z])(?=[A-Z])/).flatMap(word => [word, make("wbr")]);
+}
+
 function rangeOf({ kind, min, max, unit }) {
   return kind === "integer" ? `${min}–${max}${unit ? ` ${unit}` : ""}` : "";
 }
@@ -59,7 +64,7 @@ function makeRow(setting) {
   const range = make("small", { id: `${control.id}-range` }, rangeOf(setting));
   control.setAttribute("aria-describedby", range.id);
   const row = make("div", { className: "setting", title: setting.name },
-    make("label", { htmlFor: control.id }, setting.key), control, range, reset);
+    make("label", { htmlFor: control.id }, ...breakable(setting.key)), control, range, reset);
   rows.set(setting.name, { setting, row, control, reset });
   show(setting.name);
   return row;
