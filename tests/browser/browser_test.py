@@ -110,7 +110,8 @@ class PageTest(unittest.TestCase):
         self.wait_focus("image", "Helligkeit")
         browser.click("#tab-faults")
         browser.click("[name='settings-slow']")
-        eventually(lambda: camera.get("state")["faults"] == ["settings-slow"], "the fault is on")
+        eventually(lambda: browser.text("#tab-faults") == "Faults (1 on)", "the page shows the fault")
+        self.assertEqual(camera.get("state")["faults"], ["settings-slow"])
         camera.put("faults", {"on": []})
         eventually(lambda: browser.text("#tab-faults") == "Faults", "the page shows no fault")
 

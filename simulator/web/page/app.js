@@ -8,7 +8,6 @@ import { addLine, expectReplay, wireLog } from "./log.js";
 
 const codes = { English: "en", German: "de", SimplifiedChinese: "zh-Hans", TraditionalChinese: "zh-Hant" };
 let state = null;
-let faults = [];
 let connected = false;
 
 // --- picture ---
@@ -98,10 +97,16 @@ function showMenu({ open, menu, pages, language }) {
   if (chosen) items.scrollTop = chosen.offsetTop - (items.clientHeight - chosen.offsetHeight) / 2;
 }
 
-function showProblems({ problems, menu }) {
+function startAgain(style) {
+  const button = make("button", {}, "Start again");
+  button.addEventListener("click", () => request("POST", "menu", { style }).catch(trouble));
+  return make("p", { className: "problem" }, make("b", {}, "The menu could not start. "), button);
+}
+
+function showProblems({ problems, menu, style }) {
   const lines = problems.map(({ file, line, reason }) => make("p", { className: "problem" },
     make("b", {}, line ? `${file}, line ${line}` : file), ` ${reason}`));
-  if (menu === false) lines.unshift(make("p", { className: "problem" }, make("b", {}, "The menu could not start.")));
+  if (menu === false) lines.unshift(startAgain(style));
   const box = byId("problems");
   const same = box.children.length === lines.length
     && lines.every((line, index) => line.textContent === box.children[index].textContent);
@@ -124,34 +129,29 @@ function showState(next) {
   showMenu(next);
   showProblems(next);
   showView(next);
-  showFaults(faults.map(fault => ({ ...fault, on: next.faults.includes(fault.name) })));
+  showFaults(next);
   speak(next);
   if (otherSize) startStream();
 }
 
-function faultSwitch({ name, help, on }) {
-  const box = make("input", { type: "checkbox", checked: on, name });
+function faultSwitch({ name, help }) {
+  const box = make("input", { type: "checkbox", name });
   box.setAttribute("role", "switch");
   box.addEventListener("change", async () => {
-    const wanted = faults.filter(fault => (fault.name === name ? box.checked : fault.on)).map(fault => fault.name);
+    const on = [...byId("faults-list").querySelectorAll(":checked")].map(other => other.name);
     try {
-      showFaults((await request("PUT", "faults", { on: wanted })).faults);
+      await request("PUT", "faults", { on });
     } catch (error) {
-      box.checked = !box.checked;
+      showFaults(state);
       trouble(error);
     }
   });
   return make("label", { className: "switch" }, box, make("span", {}, name, make("small", {}, help)));
 }
 
-function showFaults(next) {
-  const list = byId("faults-list");
-  const names = all => all.map(fault => fault.name).join();
-  if (names(next) !== names(faults)) list.replaceChildren(...next.map(faultSwitch));
-  faults = next;
-  for (const { name, on } of faults) list.querySelector(`[name="${CSS.escape(name)}"]`).checked = on;
-  const count = faults.filter(fault => fault.on).length;
-  byId("tab-faults").textContent = count ? `Faults (${count} on)` : "Faults";
+function showFaults({ faults }) {
+  for (const box of byId("faults-list").querySelectorAll("input")) box.checked = faults.includes(box.name);
+  byId("tab-faults").textContent = faults.length ? `Faults (${faults.length} on)` : "Faults";
 }
 
 // --- switches ---
@@ -192,8 +192,10 @@ function toast(text) {
   byId("toasts").append(box);
 }
 
-async function loadLists() {
-  await Promise.all([loadSettings(), request("GET", "faults").then(answer => showFaults(answer.faults))]);
+async function loadFaults() {
+  const { faults } = await request("GET", "faults");
+  byId("faults-list").replaceChildren(...faults.map(faultSwitch));
+  if (state) showFaults(state); // which of them are on is told by the state alone, the one thing that is never late
 }
 
 function onLink(now) {
@@ -204,7 +206,7 @@ function onLink(now) {
   if (!connected) return;
   expectReplay();
   startStream(); // a stream that broke off leaves its last frame behind, and no error
-  loadLists().catch(trouble);
+  Promise.all([loadSettings(), loadFaults()]).catch(trouble);
 }
 
 showErrorsWith(toast);
@@ -222,6 +224,5 @@ listen({
   key: ({ what }) => flash(what),
   setting: settingChanged,
   definitions: () => loadSettings().catch(trouble),
-  faults: answer => showFaults(answer.faults),
   log: addLine,
 }, onLink);

@@ -4,6 +4,7 @@ import { byId, make, mark } from "./dom.js";
 import { makeQueue, request, trouble } from "./camera.js";
 
 const rows = new Map(); // name: {setting, row, control, reset}
+let meanwhile = null; // changes that came while all settings are read: the answer may be older
 const narrow = matchMedia("(max-width: 699px)");
 
 // kind: how its control is made, and its value as the control has it
@@ -18,11 +19,11 @@ const fromControl = (kind, value) => (kind === "color" ? value.slice(1) : value)
 
 const queue = makeQueue(async ({ name, value }) => {
   try {
-    settingChanged(await request("PUT", `settings/${encodeURIComponent(name)}`, { value }));
+    const answer = await request("PUT", `settings/${encodeURIComponent(name)}`, { value });
+    if (answer.value === rows.get(name)?.setting.value) show(name); // else the event is still on its way
   } catch (error) {
+    show(name);
     throw new Error(`${name}: ${error.message}`);
-  } finally {
-    show(name); // the camera's own value, also when it refused
   }
 });
 
@@ -37,6 +38,7 @@ function show(name) {
 
 /** The camera told that a setting changed. */
 export function settingChanged({ name, value }) {
+  meanwhile?.push({ name, value });
   const held = rows.get(name);
   if (!held || held.setting.value === value) return;
   held.setting.value = value;
@@ -81,11 +83,15 @@ function search() {
 
 /** Reads all settings anew: at the start, and when their definitions changed. */
 export async function loadSettings() {
+  meanwhile = [];
   const { settings } = await request("GET", "settings");
   const groups = Map.groupBy(settings, setting => setting.parent || "Camera");
   rows.clear();
   byId("settings-list").replaceChildren(...[...groups].map(([parent, members]) =>
     make("details", { open: !narrow.matches }, make("summary", {}, parent), ...members.map(makeRow))));
+  const late = meanwhile ?? [];
+  meanwhile = null;
+  late.forEach(settingChanged);
   search();
 }
 
