@@ -31,7 +31,7 @@ class PageTest(unittest.TestCase):
 
     def load(self, width=1280, height=800):
         browser.open(camera.address, width, height)
-        eventually(lambda: browser.run("return !!document.querySelector(arguments[0])", BRIGHTNESS), "the page is there")
+        eventually(lambda: browser.run("return !!document.querySelector(arguments[0])", BRIGHTNESS), "the page")
 
     def wait_focus(self, *expected):
         """Camera, panel and live region agree on page, label and value."""
@@ -56,7 +56,7 @@ class PageTest(unittest.TestCase):
         for width, height in ((360, 740), (390, 844), (768, 1024), (1920, 1080), (1280, 800)):
             self.load(width, height)
             self.assertLessEqual(browser.run("return document.documentElement.scrollWidth"), width)
-        bottoms = "return ['.frame', '#remote'].map(name => document.querySelector(name).getBoundingClientRect().bottom)"
+        bottoms = "return [...document.querySelectorAll('.frame, #remote')].map(e => e.getBoundingClientRect().bottom)"
         self.assertLessEqual(max(browser.run(bottoms)), 800)
 
     def test_mouse_walks_the_menu(self):

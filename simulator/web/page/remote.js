@@ -80,7 +80,8 @@ function wireButton(button) {
   const source = event => `pointer ${event.pointerId}`;
   button.addEventListener("pointerdown", event => {
     if (event.button !== 0 || once.has(name)) return;
-    if (button.hasPointerCapture(event.pointerId)) button.releasePointerCapture(event.pointerId); // so that it can leave
+    // A finger is captured by the button; let go, it can leave.
+    if (button.hasPointerCapture(event.pointerId)) button.releasePointerCapture(event.pointerId);
     hold(name, source(event));
   });
   for (const end of ["pointerup", "pointercancel", "pointerleave"]) {
