@@ -42,7 +42,7 @@ void put_cell(const Image& picture, Image& sheet, int cell)
 
 void write_sheet(MenuHost& host, const std::filesystem::path& path)
 {
-    const std::vector<std::string> pages = page_names(OSD_RESOURCE_DIR);
+    const std::vector<std::string> pages = page_names(host.camera().resources());
     const auto rows = (static_cast<int>(pages.size()) + cells_per_row - 1) / cells_per_row;
     Image sheet(Size{cells_per_row * cell_size.width, rows * cell_size.height});
     for (std::size_t i = 0; i < pages.size(); ++i) {
@@ -81,7 +81,7 @@ void write_contact_sheets(const std::filesystem::path& path, const Options& opti
     const bool one = path.extension() == ".png";
     one ? check_snapshot_path(path) : make_folder(path);
     const TemporaryFolder data;
-    Camera camera({OSD_RESOURCE_DIR, data.path(), false, options.uhd, true, options.language, {}});
+    Camera camera({options.resources, data.path(), false, options.uhd, true, options.language, {}});
     if (!one) {
         write_all(camera, options, path);
         return;

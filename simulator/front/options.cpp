@@ -8,6 +8,7 @@
 
 #include "simulator/core/errors.h"
 #include "simulator/core/page_files.h"
+#include "simulator/core/resources.h"
 #include "simulator/video/snapshot.h"
 
 namespace sim {
@@ -150,9 +151,9 @@ void declare(CLI::App& app, Options& options, Words& words)
         ->type_name("DIR");
 }
 
-void check_page(const std::string& page)
+void check_page(const std::string& page, const std::filesystem::path& resources)
 {
-    const std::vector<std::string> names = page_names(OSD_RESOURCE_DIR);
+    const std::vector<std::string> names = page_names(resources);
     if (page.empty() || std::count(names.begin(), names.end(), page) > 0) {
         return;
     }
@@ -225,13 +226,6 @@ void take_web(const CLI::App& app, const Words& words, Options& options)
     }
 }
 
-/// The folder that authors work in, where there is one: then the camera shows what they write.
-std::filesystem::path default_resources()
-{
-    const std::filesystem::path source = OSD_RESOURCE_SOURCE_DIR;
-    return std::filesystem::exists(source / "settings.json") ? source : std::filesystem::path(OSD_RESOURCE_DIR);
-}
-
 std::vector<std::string> split_at_commas(const std::string& text)
 {
     std::istringstream stream(text);
@@ -276,7 +270,7 @@ void take_over(const CLI::App& app, const Words& words, Options& options)
     options.uhd = sizes.at(words.size);
     options.pixel_format = formats.at(words.format);
     options.data = app.count("--data") > 0 ? std::filesystem::path(words.data) : default_data_folder();
-    check_page(options.page);
+    check_page(options.page, options.resources);
 }
 
 std::string first_line(const std::string& text) { return text.substr(0, text.find('\n')); }

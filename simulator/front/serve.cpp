@@ -9,6 +9,7 @@
 #include "simulator/core/folder_watch.h"
 #include "simulator/core/log.h"
 #include "simulator/core/output_capture.h"
+#include "simulator/core/resources.h"
 #include "simulator/front/stop_signals.h"
 #include "simulator/host/key_script.h"
 #include "simulator/host/live_reload.h"
@@ -99,7 +100,7 @@ void serve_camera(Camera& camera, const MenuConfig& menu, const Options& options
     EventHub hub;
     EventBridge bridge(camera, hub);
     MenuSession session(camera, menu);
-    LiveReload reload(camera, OSD_RESOURCE_DIR "/pic");
+    LiveReload reload(camera, staged_pictures());
     const CameraParts parts{camera, session, reload, loop, hub};
     if (options.keys && session.has_menu()) {
         KeyPlayer(*options.keys, session.menu()).press_all();

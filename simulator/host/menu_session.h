@@ -15,7 +15,7 @@ namespace sim {
 /// The menu could not start; the log says why. The camera has its picture without it.
 class NoMenu : public std::runtime_error {
 public:
-    NoMenu() : std::runtime_error("the menu is not running, see the log; POST /menu starts it again") {}
+    NoMenu() : std::runtime_error("the menu could not start, see the log; choosing a skin or a size starts it again") {}
 };
 
 /// All calls on the menu thread.

@@ -1,5 +1,6 @@
 #include "simulator/web/channel_stream.h"
 
+#include <algorithm>
 #include <exception>
 
 #include "simulator/core/log.h"
@@ -79,15 +80,17 @@ void ChannelStream::encode()
 
 void ChannelStream::work()
 {
+    auto due = Clock::now();
     while (wait_for_viewers()) {
         const auto begin = Clock::now();
+        due = std::max(due + frame_time, begin); // a rhythm that doesn't depend on the time that drawing takes
         const std::uint64_t seen = camera_.channels().changes();
         try {
             encode();
         } catch (const std::exception& error) { // no memory: perhaps there is some for the next picture
             log_line(LogLevel::Error, "stream", error.what());
         }
-        (void)camera_.channels().wait_for_change(seen, begin + frame_time); // either way the next picture is due
+        (void)camera_.channels().wait_for_change(seen, due); // either way the next picture is due
         std::this_thread::sleep_until(begin + shortest_frame_time);
     }
 }

@@ -36,7 +36,6 @@ TEST(Program, RefusesBadInputInOneLine)
         {"--listen 8080", "expected ADDRESS:PORT"},
         {"--listen 0.0.0.0:0", "add --token TOKEN"},
         {"--token 'a b'", "expected letters"},
-        {"--import a.txt", "a.txt"},
         {"--snapshot no/such/a.png", "can't write there"},
         {"--keys menu", "--reset"},
     };
