@@ -169,14 +169,17 @@ void check_combinations(const CLI::App& app)
     constexpr std::pair<const char*, const char*> enemies[] = {{"--window", "--snapshot"},
                                                                {"--keys", "--keys-file"},
                                                                {"--contact-sheet", "--window"},
-                                                               {"--contact-sheet", "--snapshot"},
-                                                               {"--window", "--listen"},
-                                                               {"--snapshot", "--listen"},
-                                                               {"--contact-sheet", "--listen"},
-                                                               {"--export", "--listen"}};
+                                                               {"--contact-sheet", "--snapshot"}};
     for (const auto& [one, other] : enemies) {
         if (app.count(one) > 0 && app.count(other) > 0) {
             throw BadInput(std::string(one) + " and " + other + " can't be used together");
+        }
+    }
+    for (const char* web : {"--listen", "--open", "--token"}) {
+        for (const char* other : {"--window", "--snapshot", "--contact-sheet", "--export"}) {
+            if (app.count(web) > 0 && app.count(other) > 0) {
+                throw BadInput(std::string(web) + " is for the web page, which " + other + " does without");
+            }
         }
     }
     for (const char* lonely : {"--scenario", "--update-scenario"}) {
@@ -211,7 +214,7 @@ void take_web(const CLI::App& app, const Words& words, Options& options)
     const auto asked = [&app](const char* name) { return app.count(name) > 0; };
     const bool other = asked("--keys") || asked("--keys-file") || asked("--snapshot") || asked("--window") ||
                        asked("--contact-sheet") || asked("--export");
-    options.web = !other || asked("--listen") || asked("--open");
+    options.web = !other || asked("--listen") || asked("--open") || asked("--token");
     if (asked("--listen")) {
         options.listen = parse_listen_address(words.listen);
     }

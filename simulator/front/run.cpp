@@ -40,8 +40,8 @@ void run_asked(MenuHost& host, const Options& options)
 void transfer_settings(Camera& camera, const Options& options)
 {
     if (options.import_file) {
-        std::cout << "took over " << import_settings_file(camera.settings(), *options.import_file) << " settings from "
-                  << options.import_file->string() << std::endl;
+        const std::size_t count = import_settings_file(camera.settings(), *options.import_file);
+        std::cout << "took over " << count << " settings from " << options.import_file->string() << std::endl;
     }
     if (options.export_file) {
         export_settings_file(camera.settings(), *options.export_file);

@@ -1,6 +1,8 @@
 #include "simulator/front/serve.h"
 
+#include <csignal>
 #include <cstring>
+#include <fcntl.h>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -57,6 +59,32 @@ private:
     json last_state_;
 };
 
+/// How a program starts that outlives the camera: it keeps none of its files open and gets the usual signals.
+struct Quietly {
+    Quietly()
+    {
+        posix_spawn_file_actions_init(&files);
+        for (const int file : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+            posix_spawn_file_actions_addopen(&files, file, "/dev/null", O_RDWR, 0);
+        }
+        posix_spawnattr_init(&attributes);
+        sigset_t none;
+        sigemptyset(&none);
+        posix_spawnattr_setsigmask(&attributes, &none);
+        posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK);
+    }
+    ~Quietly()
+    {
+        posix_spawnattr_destroy(&attributes);
+        posix_spawn_file_actions_destroy(&files);
+    }
+    Quietly(const Quietly&) = delete;
+    Quietly& operator=(const Quietly&) = delete;
+
+    posix_spawn_file_actions_t files{};
+    posix_spawnattr_t attributes{};
+};
+
 /// Opens the address in the browser of whoever sits here.
 void open_browser(const std::string& address)
 {
@@ -64,7 +92,8 @@ void open_browser(const std::string& address)
     std::string argument = address;
     char* const arguments[] = {program, argument.data(), nullptr};
     pid_t child = 0;
-    const int problem = ::posix_spawnp(&child, program, nullptr, nullptr, arguments, environ);
+    const Quietly quietly;
+    const int problem = ::posix_spawnp(&child, program, &quietly.files, &quietly.attributes, arguments, environ);
     if (problem != 0) {
         log_line(LogLevel::Warning, "web",
                  std::string("no browser can be opened: xdg-open: ") + std::strerror(problem));
@@ -102,6 +131,9 @@ void serve_camera(Camera& camera, const MenuConfig& menu, const Options& options
     MenuSession session(camera, menu);
     LiveReload reload(camera, staged_pictures());
     const CameraParts parts{camera, session, reload, loop, hub};
+    if (options.prompt && session.has_menu()) {
+        session.menu().overlays().show_prompt(*options.prompt);
+    }
     if (options.keys && session.has_menu()) {
         KeyPlayer(*options.keys, session.menu()).press_all();
     }

@@ -1,15 +1,82 @@
 #include "simulator/host/menu_loop.h"
 
+#include <exception>
+#include <future>
+#include <memory>
+
+#include "simulator/core/guard.h"
+
 namespace sim {
+namespace {
+
+/// Tells whoever waits whether a task ran, or was dropped with this object.
+class Turn {
+public:
+    ~Turn()
+    {
+        if (!over_) {
+            ran_.set_value(false);
+        }
+    }
+    Turn() = default;
+    Turn(const Turn&) = delete;
+    Turn& operator=(const Turn&) = delete;
+
+    std::future<bool> ran() { return ran_.get_future(); }
+    void end()
+    {
+        over_ = true;
+        ran_.set_value(true);
+    }
+
+private:
+    std::promise<bool> ran_;
+    bool over_ = false;
+};
+
+/// Nobody waits for what this throws, and one mistake must not end the camera.
+void log_failure(const std::function<void()>& body)
+{
+    (void)guarded("menu", 0, [&body] {
+        body();
+        return 0;
+    });
+}
+
+} // namespace
+
+/// What the body throws is handed over whole: this thread alone owns it when the other one goes on.
+void MenuLoop::run_and_wait(const std::function<void()>& body)
+{
+    std::exception_ptr failure;
+    auto turn = std::make_shared<Turn>();
+    std::future<bool> ran = turn->ran();
+    post([&body, &failure, turn = std::move(turn)] {
+        try {
+            body();
+        } catch (...) {
+            failure = std::current_exception();
+        }
+        turn->end();
+    });
+    if (!ran.get()) {
+        throw LoopStopped();
+    }
+    if (failure != nullptr) {
+        std::rethrow_exception(failure);
+    }
+}
 
 void MenuLoop::run(const Tick& tick)
 {
-    for (auto until = tick();; until = tick()) {
+    while (true) {
+        std::optional<Clock::time_point> until;
+        log_failure([&] { until = tick(); });
         const auto task = next(until);
         if (!task) {
             return;
         }
-        (*task)();
+        log_failure(*task);
     }
 }
 

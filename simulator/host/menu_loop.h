@@ -5,13 +5,19 @@
 #include <condition_variable>
 #include <deque>
 #include <functional>
-#include <future>
-#include <memory>
 #include <mutex>
 #include <optional>
+#include <stdexcept>
+#include <type_traits>
 #include <utility>
 
 namespace sim {
+
+/// The loop has been stopped, and a task didn't run.
+class LoopStopped : public std::runtime_error {
+public:
+    LoopStopped() : std::runtime_error("the camera is about to end") {}
+};
 
 /// Runs tasks one after the other on the thread that calls run(). The menu's library wants its calls one at a time.
 class MenuLoop {
@@ -21,7 +27,7 @@ public:
     using Tick = std::function<std::optional<Clock::time_point>()>;
 
     /// Runs tasks until stop() is called. The tick runs before the first task, behind each one, and when its time has
-    /// come. What a task or tick throws comes out of here, but not of a task of call().
+    /// come. What they throw goes to the log.
     void run(const Tick& tick);
 
     /// Ends run() behind the task under way; tasks that still wait are dropped, and later ones too. Any thread.
@@ -31,18 +37,22 @@ public:
     void post(std::function<void()> task);
 
     /// Has a task run, waits for it and passes on its result or what it throws. Any thread but that of run(). Throws
-    /// std::future_error when the loop has stopped.
+    /// LoopStopped.
     template <typename Task>
     auto call(Task task) -> decltype(task())
     {
-        auto packaged = std::make_shared<std::packaged_task<decltype(task())()>>(std::move(task));
-        auto result = packaged->get_future();
-        // The queue becomes the only owner: a task that is dropped there breaks its promise.
-        post([packaged = std::move(packaged)] { (*packaged)(); });
-        return result.get();
+        using Result = decltype(task());
+        if constexpr (std::is_void_v<Result>) {
+            run_and_wait(task);
+        } else {
+            std::optional<Result> result;
+            run_and_wait([&] { result.emplace(task()); });
+            return std::move(*result);
+        }
     }
 
 private:
+    void run_and_wait(const std::function<void()>& body);
     std::optional<std::function<void()>> next(const std::optional<Clock::time_point>& until);
 
     std::mutex mutex_; ///< guards the members below

@@ -63,14 +63,19 @@ std::size_t MenuSession::import(const nlohmann::json& values)
 }
 
 /// A page file with a mistake must not end the camera.
-void MenuSession::press(const Key& key)
+void MenuSession::press_now(const Key& key)
 {
-    hold_.end();
     try {
         sim::press(key, menu());
     } catch (const BadInput& error) {
         log_line(LogLevel::Error, "menu", error.what());
     }
+}
+
+void MenuSession::press(const Key& key)
+{
+    hold_.end();
+    press_now(key);
 }
 
 void MenuSession::hold(const Key& key)
@@ -86,7 +91,7 @@ std::optional<KeyHold::Clock::time_point> MenuSession::tick()
     }
     const auto now = KeyHold::Clock::now();
     if (const Key* key = hold_.due(now)) {
-        sim::press(*key, *host_);
+        press_now(*key);
     }
     host_->overlays().hide_what_is_over();
     const auto repeat = hold_.next();

@@ -49,6 +49,7 @@ public:
 
 private:
     void start();
+    void press_now(const Key& key);
 
     Camera& camera_;
     MenuConfig config_;

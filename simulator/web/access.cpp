@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <arpa/inet.h>
+#include <cctype>
 #include <charconv>
 #include <cstring>
 
@@ -20,6 +21,12 @@ std::string host_of(const std::string& place)
         return place.substr(1, place.find(']') - 1);
     }
     return place.substr(0, place.rfind(':'));
+}
+
+std::string to_lower(std::string text)
+{
+    std::transform(text.begin(), text.end(), text.begin(), [](unsigned char c) { return std::tolower(c); });
+    return text;
 }
 
 /// In a time that doesn't tell how much of the text is right.
@@ -72,7 +79,7 @@ bool is_loopback(const std::string& host)
 {
     in_addr address{};
     const bool is_ipv4 = ::inet_pton(AF_INET, host.c_str(), &address) == 1;
-    return host == "localhost" || host == "::1" || (is_ipv4 && ntohl(address.s_addr) >> 24 == 127);
+    return to_lower(host) == "localhost" || host == "::1" || (is_ipv4 && ntohl(address.s_addr) >> 24 == 127);
 }
 
 std::string address_of(const ListenAddress& listen)
@@ -90,6 +97,11 @@ void check_access(const httplib::Request& request, const std::optional<std::stri
     if (!token && !is_loopback(host_of(host))) {
         throw HttpError(403,
                         "the camera serves this machine only, under localhost, 127.0.0.1 or [::1], not '" + host + "'");
+    }
+    // A browser says so of what a page of another site asks for, but a person may follow a link of such a page.
+    if (request.get_header_value("Sec-Fetch-Site") == "cross-site" &&
+        request.get_header_value("Sec-Fetch-Mode") != "navigate") {
+        throw HttpError(403, "pages of other sites may not use this camera");
     }
     const std::string origin = request.get_header_value("Origin");
     if (!origin.empty() && origin != "http://" + host) {

@@ -10,7 +10,6 @@
 #include "simulator/core/text_file.h"
 #include "simulator/host/keys.h"
 #include "simulator/video/encode.h"
-#include "simulator/web/access.h"
 
 namespace sim {
 namespace {
@@ -120,7 +119,6 @@ void Api::close()
 void Api::serve(const httplib::Request& request, httplib::Response& response)
 {
     try {
-        check_access(request, token_);
         if (token_ && brings_token_in_address(request)) {
             response.set_header("Set-Cookie", token_cookie(*token_));
         }
@@ -133,8 +131,8 @@ void Api::serve(const httplib::Request& request, httplib::Response& response)
         answer_error(response, 400, error.what());
     } catch (const NoMenu& error) {
         answer_error(response, 503, error.what());
-    } catch (const std::future_error&) {
-        answer_error(response, 503, "the camera is about to end");
+    } catch (const LoopStopped& error) {
+        answer_error(response, 503, error.what());
     } catch (const std::exception& error) {
         log_line(LogLevel::Error, "web", request.path + ": " + error.what());
         answer_error(response, 500, error.what());
@@ -239,18 +237,21 @@ Image Api::picture(const std::string& channel)
 
 void Api::get_jpeg(const Call& call)
 {
+    const std::lock_guard<std::mutex> lock(snapshot_mutex_);
     call.response.set_header("Cache-Control", "no-store");
     call.response.set_content(encode_jpeg(picture(call.arguments[0]), snapshot_quality), "image/jpeg");
 }
 
 void Api::get_png(const Call& call)
 {
+    const std::lock_guard<std::mutex> lock(snapshot_mutex_);
     call.response.set_header("Cache-Control", "no-store");
     call.response.set_content(encode_png(picture(call.arguments[0]), false), "image/png");
 }
 
 void Api::get_overlay(const Call& call)
 {
+    const std::lock_guard<std::mutex> lock(snapshot_mutex_);
     const auto canvas = parts_.camera.channels().lowest_canvas(0);
     const Size size = parts_.camera.channels().size(0);
     call.response.set_header("Cache-Control", "no-store");

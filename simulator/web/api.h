@@ -4,10 +4,12 @@
 #include <atomic>
 #include <filesystem>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "simulator/web/access.h"
 #include "simulator/web/camera_parts.h"
 #include "simulator/web/channel_stream.h"
 #include "simulator/web/http.h"
@@ -20,11 +22,11 @@ public:
     /// page: the folder with index.html and its parts; token: what each request must bring, if anything.
     Api(CameraParts parts, std::filesystem::path page, std::optional<std::string> token);
 
-    /// Answers any request; what is wrong with it is told in a JSON object with the field "error".
-    void serve(const httplib::Request& request, httplib::Response& response);
+    /// Throws HttpError for a request that this camera doesn't serve, see check_access().
+    void admit(const httplib::Request& request) const { check_access(request, token_); }
 
-    /// The camera as GET /state tells it. On the menu thread.
-    nlohmann::json state();
+    /// Answers a request that was admitted; what is wrong with it is told in a JSON object with the field "error".
+    void serve(const httplib::Request& request, httplib::Response& response);
 
     /// Ends the answers that go on and on.
     void close();
@@ -72,6 +74,7 @@ private:
     std::optional<std::string> token_;
     std::vector<std::unique_ptr<ChannelStream>> streams_;
     std::atomic<int> viewers_{0};
+    std::mutex snapshot_mutex_; ///< one at a time: each takes the memory of some pictures
 };
 
 } // namespace sim

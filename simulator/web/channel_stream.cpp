@@ -83,7 +83,8 @@ void ChannelStream::work()
     auto due = Clock::now();
     while (wait_for_viewers()) {
         const auto begin = Clock::now();
-        due = std::max(due + frame_time, begin); // a rhythm that doesn't depend on the time that drawing takes
+        due =
+            std::clamp(due + frame_time, begin, begin + frame_time); // however long drawing takes, or often pushes come
         const std::uint64_t seen = camera_.channels().changes();
         try {
             encode();
@@ -116,8 +117,10 @@ std::shared_ptr<const ChannelStream::Frame> ChannelStream::Viewer::next()
     const auto has_news = [this] {
         return stream_.closed_ || (stream_.frame_ != nullptr && stream_.frame_->number != seen_);
     };
-    stream_.changed_.wait_for(lock, repeat_time, has_news);
-    if (stream_.closed_ || stream_.frame_ == nullptr) {
+    do {
+        stream_.changed_.wait_for(lock, repeat_time, has_news);
+    } while (!stream_.closed_ && stream_.frame_ == nullptr); // the first picture may take longer
+    if (stream_.closed_) {
         return nullptr;
     }
     seen_ = stream_.frame_->number;

@@ -39,7 +39,7 @@ public:
         Viewer& operator=(const Viewer&) = delete;
 
         /// The next picture; waits for it, at most a second, and gives the last one again then. Null when the stream
-        /// has been closed, or has no picture within that time.
+        /// has been closed.
         std::shared_ptr<const Frame> next();
 
     private:

@@ -6,6 +6,21 @@ namespace sim {
 
 using nlohmann::json;
 
+namespace {
+
+constexpr int deepest = 32;
+
+/// Copying and writing JSON takes stack for each level.
+bool refuse_deep(int depth, json::parse_event_t /*event*/, const json& /*parsed*/)
+{
+    if (depth > deepest) {
+        throw HttpError(400, "the body nests deeper than " + std::to_string(deepest) + " levels");
+    }
+    return true;
+}
+
+} // namespace
+
 std::string to_text(const json& value) { return value.dump(-1, ' ', false, json::error_handler_t::replace); }
 
 void answer_json(httplib::Response& response, const json& value)
@@ -21,11 +36,16 @@ void answer_error(httplib::Response& response, int status, const std::string& wo
 
 json read_object(const httplib::Request& request)
 {
-    json object = json::parse(request.body, nullptr, false);
-    if (!object.is_object()) {
-        throw HttpError(400, "the body must be a JSON object, { ... }");
+    try {
+        json object = json::parse(request.body, refuse_deep);
+        if (object.is_object()) {
+            return object;
+        }
+    } catch (const json::parse_error& error) {
+        throw HttpError(400,
+                        "the body is no JSON: byte " + std::to_string(error.byte) + " is not what was expected there");
     }
-    return object;
+    throw HttpError(400, "the body must be a JSON object, { ... }");
 }
 
 std::string text_field(const json& object, const char* name)

@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include "simulator/core/errors.h"
+#include "simulator/core/log.h"
 #include "simulator/web/connection.h"
 #include "simulator/web/workers.h"
 
@@ -31,6 +32,9 @@ bool has_control_character(const std::string& text)
     return std::any_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < ' '; });
 }
 
+/// Our routes have no others whose body is read.
+bool has_body_method(const httplib::Request& request) { return request.method == "POST" || request.method == "PUT"; }
+
 /// Refuses what must not reach the reading of the body, which has no limits for such requests.
 void check_form(const httplib::Request& request)
 {
@@ -39,6 +43,10 @@ void check_form(const httplib::Request& request)
     }
     if (request.path.size() > longest_path) {
         throw HttpError(414, "the path has more than " + std::to_string(longest_path) + " bytes");
+    }
+    const bool may_have_body = has_body_method(request);
+    if (may_have_body && !request.has_header("Content-Length")) {
+        throw HttpError(411, "send a Content-Length; it may be 0");
     }
     if (request.has_header("Transfer-Encoding") || request.has_header("Content-Encoding")) {
         throw HttpError(411, "send the body as it is, with a Content-Length");
@@ -54,11 +62,13 @@ const char* reason_of(int status)
 {
     switch (status) {
     case 413:
-        return "the request is too large, at most 1 MiB are read";
+        return "the request is too large, at most 512 KiB are read";
     case 414:
         return "the address is too long";
+    case 416:
+        return "the header Range can't be read; ask without one";
     default:
-        return "the request can't be read, or took longer than five seconds";
+        return "the request can't be read, or it didn't arrive within five seconds";
     }
 }
 
@@ -78,30 +88,32 @@ public:
         const auto serve = [&api](const httplib::Request& request, httplib::Response& response) {
             api.serve(request, response);
         };
-        Post(any_path, serve).Put(any_path, serve).Patch(any_path, serve).Delete(any_path, serve);
+        Post(any_path, serve).Put(any_path, serve);
         set_error_handler([](const httplib::Request&, httplib::Response& response) {
             if (response.body.empty()) {
                 answer_error(response, response.status, reason_of(response.status));
             }
         });
-        set_default_headers({{"X-Content-Type-Options", "nosniff"}});
+        set_default_headers({{"X-Content-Type-Options", "nosniff"},
+                             {"Content-Security-Policy", "frame-ancestors 'none'"},
+                             {"Cross-Origin-Resource-Policy", "same-origin"}});
     }
 
 private:
     static HandlerResponse serve_without_body(Api& api, const httplib::Request& request, httplib::Response& response)
     {
         try {
+            api.admit(request);
             check_form(request);
         } catch (const HttpError& error) {
             answer_error(response, error.status(), error.what());
             return HandlerResponse::Handled;
         }
-        const bool may_have_body = request.method == "POST" || request.method == "PUT" || request.method == "PATCH" ||
-                                   request.method == "DELETE";
-        if (!may_have_body) {
-            api.serve(request, response);
+        if (has_body_method(request)) {
+            return HandlerResponse::Unhandled;
         }
-        return may_have_body ? HandlerResponse::Unhandled : HandlerResponse::Handled;
+        api.serve(request, response);
+        return HandlerResponse::Handled;
     }
 
     /// One request a connection: what a client sends behind it is never taken for a second one.
@@ -116,7 +128,9 @@ private:
         }
         Connection connection(socket);
         bool closed = false;
-        return process_request(connection, true, closed, [](httplib::Request&) {});
+        return process_request(connection, true, closed, [](httplib::Request& request) {
+            request.ranges.clear(); // all answers are short or endless
+        });
     }
 };
 
@@ -132,13 +146,18 @@ WebServer::WebServer(Api& api, const ListenAddress& listen)
         throw BadInput("can't listen at " + listen.host + ", port " + std::to_string(listen.port) + ": " +
                        std::strerror(errno) + "; choose another with --listen ADDRESS:PORT");
     }
-    thread_ = std::thread([this] { (void)http_->listen_after_bind(); });
+    thread_ = std::thread([this] {
+        if (!http_->listen_after_bind()) {
+            log_line(LogLevel::Error, "web", "the system takes no more connections; the web page ends");
+        }
+        ended_ = true;
+    });
 }
 
 WebServer::~WebServer()
 {
     api_.close();
-    while (!http_->is_running()) { // a stop before the start would not be noticed
+    while (!http_->is_running() && !ended_) { // a stop before the start would not be noticed
         std::this_thread::yield();
     }
     http_->stop();

@@ -1,6 +1,7 @@
 // The web server.
 #pragma once
 
+#include <atomic>
 #include <memory>
 #include <string>
 #include <thread>
@@ -29,6 +30,7 @@ private:
     Api& api_;
     ListenAddress listen_;
     std::unique_ptr<Http> http_;
+    std::atomic<bool> ended_{false}; ///< nobody takes connections any more
     std::thread thread_;
 };
 

@@ -26,26 +26,33 @@ bool Workers::turned_away() { return is_turned_away; }
 
 void Workers::enqueue(std::function<void()> job)
 {
-    bool taken = false;
     {
         const std::lock_guard<std::mutex> lock(mutex_);
-        taken = jobs_.size() < idle_;
-        if (!taken && threads_.size() < most_) {
-            try {
-                threads_.emplace_back([this] { work(); });
-                taken = true;
-            } catch (const std::system_error&) { // the system has no more threads
-            }
-        }
-        if (taken) {
+        if (has_room()) {
             jobs_.push_back(std::move(job));
             changed_.notify_one();
+            return;
         }
     }
-    if (!taken) {
-        is_turned_away = true;
-        run(job);
-        is_turned_away = false;
+    is_turned_away = true;
+    run(job);
+    is_turned_away = false;
+}
+
+/// Whether a thread is there for one more job; starts it when need be.
+bool Workers::has_room()
+{
+    if (jobs_.size() < idle_) {
+        return true;
+    }
+    if (threads_.size() == most_) {
+        return false;
+    }
+    try {
+        threads_.emplace_back([this] { work(); });
+        return true;
+    } catch (const std::system_error&) { // the system has no more threads
+        return false;
     }
 }
 

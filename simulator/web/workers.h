@@ -28,6 +28,7 @@ public:
     static bool turned_away();
 
 private:
+    bool has_room();
     void work();
 
     const std::size_t most_;

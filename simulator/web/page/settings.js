@@ -85,7 +85,11 @@ function search() {
 export async function loadSettings() {
   meanwhile = [];
   const { settings } = await request("GET", "settings");
-  const groups = Map.groupBy(settings, setting => setting.parent || "Camera");
+  const groups = new Map();
+  for (const setting of settings) {
+    const parent = setting.parent || "Camera";
+    groups.set(parent, [...(groups.get(parent) ?? []), setting]);
+  }
   rows.clear();
   byId("settings-list").replaceChildren(...[...groups].map(([parent, members]) =>
     make("details", { open: !narrow.matches }, make("summary", {}, parent), ...members.map(makeRow))));
