@@ -18,7 +18,12 @@ constexpr std::string_view ending = "_page.xml";
 bool is_page_file(const std::filesystem::path& path)
 {
     const std::string name = path.filename().string();
-    return name.size() > ending.size() && name.compare(name.size() - ending.size(), ending.size(), ending) == 0;
+    if (name.empty()) {
+        return false;
+    }
+    const bool of_an_editor = name.front() == '.' || name.front() == '#'; // a copy or a lock
+    return !of_an_editor && name.size() > ending.size() &&
+           name.compare(name.size() - ending.size(), ending.size(), ending) == 0;
 }
 
 std::filesystem::path page_folder(const std::filesystem::path& resources)

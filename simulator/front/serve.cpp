@@ -131,16 +131,16 @@ void serve_camera(Camera& camera, const MenuConfig& menu, const Options& options
     MenuSession session(camera, menu);
     LiveReload reload(camera, staged_pictures());
     const CameraParts parts{camera, session, reload, loop, hub};
+    Api api(parts, OSD_WEB_DIR, options.token);
+    const FolderWatch watch(reload.folders(), [&](const std::set<std::filesystem::path>& files) {
+        loop.post([&reload, files] { reload.reload(files); });
+    });
     if (options.prompt && session.has_menu()) {
         session.menu().overlays().show_prompt(*options.prompt);
     }
     if (options.keys && session.has_menu()) {
         KeyPlayer(*options.keys, session.menu()).press_all();
     }
-    Api api(parts, OSD_WEB_DIR, options.token);
-    const FolderWatch watch(reload.folders(), [&](const std::set<std::filesystem::path>& files) {
-        loop.post([&reload, files] { reload.reload(files); });
-    });
     const auto server = start_server(api, options);
     output.print(address_with_token(server->listens_at(), options) + "\n");
     if (options.open) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <sstream>
 #include <stdexcept>
 #include <system_error>
 #include <utility>
@@ -10,6 +11,7 @@
 #include "simulator/core/bitmap_file.h"
 #include "simulator/core/child_program.h"
 #include "simulator/core/errors.h"
+#include "simulator/core/json_file.h"
 #include "simulator/core/log.h"
 #include "simulator/core/page_files.h"
 #include "simulator/core/text_file.h"
@@ -157,7 +159,10 @@ LiveReload::Effect LiveReload::take_definitions(const fs::path& file)
 LiveReload::Effect LiveReload::take_language(const fs::path& file)
 {
     bool spoken = false;
-    const bool good = in_order(file, [&] { spoken = camera_.reload_language(file.stem().string()); });
+    const bool good = in_order(file, [&] {
+        refuse_lost_texts(file);
+        spoken = camera_.reload_language(file.stem().string());
+    });
     if (good && !spoken && problems_.has("settings.json")) {
         return take_definitions(root_ / "settings.json"); // new ones may have waited for their new language
     }
@@ -173,19 +178,50 @@ LiveReload::Effect LiveReload::take_page(const fs::path& file)
 {
     const std::string name = page_name(file);
     std::string text;
+    std::error_code error;
+    if (camera_.kept_pages().count(name) == 0 && !fs::exists(file, error)) {
+        problems_.clear(name_of_file(file)); // nobody has seen the page
+        return Effect::None;
+    }
     if (!in_order(file, [&] { text = read_text_file(file); })) {
         return Effect::None;
     }
-    if (const auto mistake = find_page_mistake(camera_, name, text)) {
+    if (const auto mistake = find_page_mistake(camera_, camera_.language(), name, text)) {
         problems_.set({name_of_file(file), mistake->line, mistake->reason});
         return Effect::None;
     }
-    problems_.clear(name_of_file(file));
+    check_other_languages(file, text);
     if (!camera_.keep_page(name, text)) {
         return Effect::None;
     }
     const std::vector<std::string> open = open_page_names();
     return std::count(open.begin(), open.end(), name) > 0 ? Effect::Reopen : Effect::None;
+}
+
+/// A page that the present language can show is shown, and what another one lacks is told all the same.
+void LiveReload::check_other_languages(const fs::path& file, const std::string& text)
+{
+    for (const auto& [option, language] : camera_.definitions().languages) {
+        if (const auto mistake = find_page_mistake(camera_, language, page_name(file), text)) {
+            problems_.set({name_of_file(file), mistake->line, mistake->reason});
+            return;
+        }
+    }
+    problems_.clear(name_of_file(file));
+}
+
+/// A page that was good must not lose rows to a translation.
+void LiveReload::refuse_lost_texts(const fs::path& file) const
+{
+    const nlohmann::json texts = load_json_object(file);
+    for (const auto& [name, page] : camera_.kept_pages()) {
+        std::istringstream words(page);
+        for (std::string word; std::getline(words, word, '"');) {
+            if (camera_.has_text(file.stem().string(), word) && !texts.contains(word)) {
+                throw BadInput(file.string() + ": the text '" + word + "' is missing, page '" + name + "' needs it");
+            }
+        }
+    }
 }
 
 void LiveReload::check_pages()

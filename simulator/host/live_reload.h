@@ -42,6 +42,8 @@ private:
     Effect take_language(const Path& file);
     Effect take_page(const Path& file);
     Effect take_picture(const Path& file);
+    void check_other_languages(const Path& file, const std::string& text);
+    void refuse_lost_texts(const Path& file) const;
     /// Pages depend on the texts, so a new text can mend or break one.
     void check_pages();
     void draw_new_pictures();

@@ -116,6 +116,8 @@ void reopen_pages()
     for (const OpenPage& remembered : pages) {
         tagPAGE_NODE_S& page = gstPageMgr.astPage[gstPageMgr.s32PageCnt];
         (void)push_page(remembered.name); // the log tells of a mistake
+        // A page that can't be read now may be read at the next time, under its name.
+        std::snprintf(page.acPageName, sizeof page.acPageName, "%s", remembered.name.c_str());
         page.enLayout == PAGE_LAYOUT_ICON ? select_icon(page, remembered.selected)
                                           : select_row(page, remembered.selected);
     }

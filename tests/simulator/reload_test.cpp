@@ -178,9 +178,17 @@ TEST_F(Reload, TakesTextsAndDefinitionsOver)
     changed.replace(changed.find(label), label.size(), "\"Brightness\": \"Light\"");
     EXPECT_EQ(change("lang/English.json", changed), "");
     EXPECT_NE(screen(), before);
-    // A text that goes breaks the page that needs it, and mends it when it is back.
-    EXPECT_THAT(change("lang/English.json", changed.replace(changed.find("\"Brightness\":"), 13, "\"Xrightness\":")),
-                HasSubstr("no text for 'Brightness' in English"));
+    // A text that a page needs can't go, and is told of where another language lacks it.
+    changed.replace(changed.find("\"Brightness\":"), 13, "\"Xrightness\":");
+    EXPECT_EQ(change("lang/English.json", changed),
+              "lang/English.json:0: the text 'Brightness' is missing, page 'image' needs it\n");
+    EXPECT_EQ(change("lang/English.json", "{\"Extra\": \"Extra\"," + good_text.substr(good_text.find('{') + 1)), "");
+    const std::string good_page = folder.read("pages/image_page.xml");
+    std::string page = good_page;
+    page.replace(page.find("\"Brightness\""), 12, "\"Extra\"");
+    EXPECT_THAT(change("pages/image_page.xml", page), HasSubstr("no text for 'Extra' in German"));
+    EXPECT_NE(screen(), before);
+    EXPECT_EQ(change("pages/image_page.xml", good_page), "");
     EXPECT_EQ(change("lang/English.json", good_text), "");
     EXPECT_EQ(screen(), before);
     camera.faults().set(parse_faults({"language-refusing"})); // says nothing about pages
