@@ -1,6 +1,8 @@
 // What the menu's library exports beside its public headers, and the host needs for open pages.
 #pragma once
 
+#include <cstddef>
+
 #include "osd_records.h"
 
 namespace tinyxml2 {
@@ -22,3 +24,13 @@ OSD_API int osdXmlParsePageAttribute(char* language, tinyxml2::XMLElement* root,
 OSD_API int osdXmlParseItemAttribute(char* language, tinyxml2::XMLElement* element, tagITEM_LEVEL_E level,
                                      OSD_BOOL is_sub_item, OSD_BOOL is_active, list_head* head);
 }
+
+namespace sim {
+
+/// The item that a link of a list belongs to; place: which of its links that is.
+inline tagITEM_NODE_S* item_of(list_head* link, std::size_t place = offsetof(tagITEM_NODE_S, stNode))
+{
+    return reinterpret_cast<tagITEM_NODE_S*>(reinterpret_cast<char*>(link) - place);
+}
+
+} // namespace sim

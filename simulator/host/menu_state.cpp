@@ -6,6 +6,7 @@
 
 #include "osd_menu.h"
 #include "simulator/core/camera.h"
+#include "simulator/host/menu_exports.h"
 
 namespace sim {
 namespace {
@@ -17,13 +18,6 @@ constexpr std::array<const char*, 6> layout_names = {"icon",
                                                      "vertical_tolvane_align",
                                                      "vertical_align_keth",
                                                      "horizontal_align_keth"};
-
-/// The item that a link of a list belongs to.
-const tagITEM_NODE_S* item_of(const list_head* link)
-{
-    return reinterpret_cast<const tagITEM_NODE_S*>(reinterpret_cast<const char*>(link) -
-                                                   offsetof(tagITEM_NODE_S, stNode));
-}
 
 /// What a field of a record holds, with or without a zero at its end.
 template <std::size_t N>
@@ -69,7 +63,7 @@ std::string value_text(Camera& camera, const tagITEM_NODE_S& item)
 
 /// The sub-items that show below an item: those of its option, which counts only when it is applied where it waits for
 /// that.
-const list_head* shown_list(const tagITEM_NODE_S& item)
+list_head* shown_list(tagITEM_NODE_S& item)
 {
     const bool waits = item.enAttr == MSG_WITH_SUBITEM;
     if ((item.enAttr != SUBITEM && !waits) || item.enValType == NUMERICAL) {
@@ -79,13 +73,13 @@ const list_head* shown_list(const tagITEM_NODE_S& item)
     return option >= 0 && option < std::min<int>(item.s32ValCnt, OSD_OPTION_MAX) ? &item.astSubList[option] : nullptr;
 }
 
-void add_items(Camera& camera, const list_head& list, std::vector<ItemState>& states)
+void add_items(Camera& camera, list_head& list, std::vector<ItemState>& states)
 {
-    for (const list_head* link = list.next; link != &list; link = link->next) {
-        const tagITEM_NODE_S& item = *item_of(link);
+    for (list_head* link = list.next; link != &list; link = link->next) {
+        tagITEM_NODE_S& item = *item_of(link);
         states.push_back({text_of_field(item.acItemIndex), text_of_field(item.acItemName), value_text(camera, item),
                           item.bActive == 1, item.bEditing == 1});
-        if (const list_head* below = shown_list(item)) {
+        if (list_head* below = shown_list(item)) {
             add_items(camera, *below, states);
         }
     }
@@ -99,7 +93,7 @@ void select_icon(const tagPAGE_NODE_S& page, std::vector<ItemState>& items)
     }
 }
 
-PageState state_of(Camera& camera, const tagPAGE_NODE_S& page)
+PageState state_of(Camera& camera, tagPAGE_NODE_S& page)
 {
     PageState state;
     state.name = text_of_field(page.acPageName);

@@ -23,8 +23,7 @@ struct ItemList {
         while (head.next != &head) {
             list_head* link = head.next;
             head.next = link->next;
-            auto* item = reinterpret_cast<char*>(link) - offsetof(tagITEM_NODE_S, stNode);
-            osdMenuReleaseItem(reinterpret_cast<tagITEM_NODE_S*>(item));
+            osdMenuReleaseItem(item_of(link));
         }
     }
     ItemList(const ItemList&) = delete;

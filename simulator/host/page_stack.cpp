@@ -16,11 +16,6 @@ struct OpenPage {
     std::string selected; ///< key of the item with the cursor
 };
 
-tagITEM_NODE_S* item_of(list_head* link, std::size_t place)
-{
-    return reinterpret_cast<tagITEM_NODE_S*>(reinterpret_cast<char*>(link) - place);
-}
-
 std::vector<tagITEM_NODE_S*> items_of(list_head& head, std::size_t place)
 {
     std::vector<tagITEM_NODE_S*> items;

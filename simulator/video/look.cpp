@@ -23,6 +23,12 @@ struct SwitchKey {
 };
 constexpr SwitchKey switch_keys[] = {{"Mirror", &Look::mirror}, {"Flip", &Look::flip}};
 
+/// What an option stands for.
+struct NumberOption {
+    const char* option;
+    double number;
+};
+
 /// What an exposure mode leaves to the operator; all else the camera sets by itself.
 struct ExposureMode {
     const char* option;
@@ -45,11 +51,7 @@ constexpr double decibels_per_gain_limit = 2;
 /// The share of the light that an operator's shutter or iris takes away, or gives, for which the camera makes up.
 constexpr double automatic_share = 0.5;
 
-struct WdrOption {
-    const char* option;
-    double light;
-};
-constexpr WdrOption wdr_options[] = {{"Low", 0.33}, {"Medium", 0.66}, {"High", 1}};
+constexpr NumberOption wdr_options[] = {{"Low", 0.33}, {"Medium", 0.66}, {"High", 1}};
 
 /// Grain of the sensor, in steps of a component.
 constexpr double noise_at_rest = 4;
@@ -59,13 +61,9 @@ constexpr double automatic_rest = 0.5;
 constexpr double nr2d_per_step = 0.1;
 constexpr double nr3d_per_step = 0.08;
 
-/// The light for which a mode makes white; the scene lies in daylight.
-struct WhiteOption {
-    const char* option;
-    double kelvin;
-};
+/// In kelvin: the light for which a mode makes white; the scene lies in daylight.
 constexpr double daylight = 5600;
-constexpr WhiteOption white_options[] = {{"Indoor", 3200}, {"Outdoor", 6500}};
+constexpr NumberOption white_options[] = {{"Indoor", 3200}, {"Outdoor", 6500}};
 /// What a measurement of the whole scene finds, which takes sky and grass for white: the means of red, green and blue
 /// become alike.
 constexpr double measured_red = 1.5;
@@ -92,11 +90,7 @@ struct CornerOption {
 constexpr CornerOption corner_options[] = {
     {"TopLeft", false, false}, {"TopRight", true, false}, {"BottomLeft", false, true}, {"BottomRight", true, true}};
 
-struct WidthOption {
-    const char* option;
-    double width;
-};
-constexpr WidthOption width_options[] = {{"SizeSmall", 0.2}, {"Medium", 0.25}, {"SizeLarge", 0.33}};
+constexpr NumberOption width_options[] = {{"SizeSmall", 0.2}, {"Medium", 0.25}, {"SizeLarge", 0.33}};
 
 struct PatternOption {
     const char* option;
@@ -254,8 +248,8 @@ void read_exposure(const Settings& settings, Look& look)
     }
     look.tones.stops = light.stops;
     look.noise = noise_of(settings, light.decibels);
-    if (const WdrOption* row = find_row(wdr_options, option_of(settings, "Wdr"))) {
-        look.tones.shadow_light = row->light;
+    if (const NumberOption* row = find_row(wdr_options, option_of(settings, "Wdr"))) {
+        look.tones.shadow_light = row->number;
     }
 }
 
@@ -269,8 +263,8 @@ void balance_for(double kelvin, Tones& tones)
 void read_white_balance(const Settings& settings, Tones& tones)
 {
     const std::string mode = option_of(settings, "WbMode");
-    if (const WhiteOption* row = find_row(white_options, mode)) {
-        balance_for(row->kelvin, tones);
+    if (const NumberOption* row = find_row(white_options, mode)) {
+        balance_for(row->number, tones);
     } else if (mode == "ColorTempMode") {
         balance_for(number_or(settings, "ColorTemp", daylight), tones);
     } else if (mode == "OnePush") {
@@ -317,8 +311,8 @@ void read_arrangement(const Settings& settings, Look& look)
         inset.right = row->right;
         inset.bottom = row->bottom;
     }
-    if (const WidthOption* row = find_row(width_options, option_of(settings, "PipSize"))) {
-        inset.width = row->width;
+    if (const NumberOption* row = find_row(width_options, option_of(settings, "PipSize"))) {
+        inset.width = row->number;
     }
 }
 
