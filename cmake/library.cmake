@@ -53,6 +53,7 @@ target_include_directories(osdmenu
 target_link_libraries(osdmenu
   PUBLIC PkgConfig::SDL2 PkgConfig::SDL2_TTF Threads::Threads
   PRIVATE $<BUILD_INTERFACE:osd_flags> PkgConfig::SDL2_IMAGE PkgConfig::SDL2_GFX PkgConfig::TINYXML2)
+osd_unite_folders(osdmenu)
 target_compile_definitions(osdmenu PRIVATE OSD_RESOURCE_DIR="${OSD_RESOURCE_DIR}")
 # Nobody replaces single functions of the library, so calls within a file need no detour.
 target_compile_options(osdmenu PRIVATE -fno-semantic-interposition)

@@ -1,15 +1,14 @@
 #include "simulator/core/bitmap_file.h"
 
 #include <SDL_image.h>
-#include <memory>
 #include <stdexcept>
 #include <string>
 #include <system_error>
 
+#include "simulator/core/surface.h"
+
 namespace sim {
 namespace {
-
-using Surface = std::unique_ptr<SDL_Surface, decltype(&SDL_FreeSurface)>;
 
 [[noreturn]] void fail(const char* doing, const std::filesystem::path& path, const std::string& reason)
 {
@@ -21,11 +20,11 @@ using Surface = std::unique_ptr<SDL_Surface, decltype(&SDL_FreeSurface)>;
 void convert_to_bitmap(const std::filesystem::path& picture, const std::filesystem::path& bitmap)
 {
     SDL_RWops* file = SDL_RWFromFile(picture.c_str(), "rb");
-    const Surface loaded(file == nullptr ? nullptr : IMG_Load_RW(file, 1), &SDL_FreeSurface);
+    const Surface loaded(file == nullptr ? nullptr : IMG_Load_RW(file, 1));
     if (loaded == nullptr) {
         fail("read", picture, SDL_GetError());
     }
-    const Surface argb(SDL_ConvertSurfaceFormat(loaded.get(), SDL_PIXELFORMAT_ARGB8888, 0), &SDL_FreeSurface);
+    const Surface argb(SDL_ConvertSurfaceFormat(loaded.get(), SDL_PIXELFORMAT_ARGB8888, 0));
     if (argb == nullptr) {
         fail("convert", picture, SDL_GetError());
     }

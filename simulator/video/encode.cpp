@@ -1,6 +1,5 @@
 #include "simulator/video/encode.h"
 
-#include <SDL.h>
 #include <SDL_image.h>
 #include <array>
 #include <csetjmp>
@@ -11,6 +10,8 @@
 #include <stdexcept>
 
 #include <jpeglib.h>
+
+#include "simulator/core/surface.h"
 
 namespace sim {
 namespace {
@@ -74,10 +75,6 @@ bool compress(JpegWork& work, const Image& image, int quality)
     return true;
 }
 
-struct FreeSurface {
-    void operator()(SDL_Surface* surface) const { SDL_FreeSurface(surface); }
-};
-
 struct FreeStream {
     void operator()(SDL_RWops* stream) const { SDL_FreeRW(stream); }
 };
@@ -110,9 +107,8 @@ std::string encode_png(const Image& image, bool alpha)
 {
     const std::uint32_t format = alpha ? SDL_PIXELFORMAT_ARGB8888 : SDL_PIXELFORMAT_RGB888;
     // SDL takes the pixels without const, but only reads them when it saves.
-    const std::unique_ptr<SDL_Surface, FreeSurface> surface(
-        SDL_CreateRGBSurfaceWithFormatFrom(const_cast<Color*>(image.pixels.data()), image.size.width, image.size.height,
-                                           32, image.size.width * 4, format));
+    const Surface surface(SDL_CreateRGBSurfaceWithFormatFrom(const_cast<Color*>(image.pixels.data()), image.size.width,
+                                                             image.size.height, 32, image.size.width * 4, format));
     const std::unique_ptr<SDL_RWops, FreeStream> stream(SDL_AllocRW());
     std::string file;
     if (surface == nullptr || stream == nullptr) {

@@ -1,26 +1,21 @@
 #include "simulator/video/snapshot.h"
 
-#include <SDL.h>
 #include <SDL_image.h>
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
 #include <fstream>
-#include <memory>
 #include <stdexcept>
 #include <string>
 #include <unistd.h>
 
 #include "simulator/core/errors.h"
+#include "simulator/core/surface.h"
 #include "simulator/video/encode.h"
 
 namespace sim {
 namespace {
-
-struct FreeSurface {
-    void operator()(SDL_Surface* surface) const { SDL_FreeSurface(surface); }
-};
 
 /// In the same folder as the picture, so that renaming it is one step.
 std::string temporary_name(const std::filesystem::path& path)
@@ -67,7 +62,6 @@ void save_png(const Image& image, const std::filesystem::path& path)
 
 Image load_png(const std::filesystem::path& path)
 {
-    using Surface = std::unique_ptr<SDL_Surface, FreeSurface>;
     const Surface file(IMG_Load(path.c_str()));
     const Surface surface(file == nullptr ? nullptr
                                           : SDL_ConvertSurfaceFormat(file.get(), SDL_PIXELFORMAT_ARGB8888, 0));

@@ -4,7 +4,9 @@
 #include <optional>
 #include <string>
 
-#include <httplib.h>
+namespace httplib {
+struct Request; // its header is a large one, and the start's options need none of it
+}
 
 namespace sim {
 
