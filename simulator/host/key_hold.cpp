@@ -7,7 +7,7 @@ namespace {
 
 constexpr std::chrono::milliseconds first_repeat{300};
 constexpr std::chrono::milliseconds next_repeat{100};
-constexpr std::chrono::seconds longest_hold{30};
+constexpr std::chrono::seconds longest_silence{3};
 
 } // namespace
 
@@ -15,7 +15,14 @@ void KeyHold::begin(const Key& key, Clock::time_point now)
 {
     key_ = &key;
     next_ = now + first_repeat;
-    last_ = now + longest_hold;
+    last_ = now + longest_silence;
+}
+
+void KeyHold::renew(const Key& key, Clock::time_point now)
+{
+    if (key_ == &key) {
+        last_ = now + longest_silence;
+    }
 }
 
 void KeyHold::end(const Key& key)

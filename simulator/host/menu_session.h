@@ -40,9 +40,13 @@ public:
     std::size_t import(const nlohmann::json& values);
 
     void press(const Key& key);
-    /// Presses a key and again and again, until it is released or another key is pressed.
+    /// Presses a key and again and again, until it is released, another key is pressed, or nobody has renewed the hold
+    /// for a while, see KeyHold.
     void hold(const Key& key);
+    void renew(const Key& key) { hold_.renew(key, KeyHold::Clock::now()); }
     void release(const Key& key) { hold_.end(key); }
+    /// The key that is held; null for none.
+    const Key* held() const { return hold_.key(); }
 
     /// Presses a held key and takes away overlays whose time is over. Says when there will be more to do.
     std::optional<KeyHold::Clock::time_point> tick();

@@ -277,19 +277,23 @@ std::size_t Api::press_keys(const json& names)
 void Api::post_keys(const Call& call)
 {
     const json body = read_object(call.request);
-    refuse_other_fields(body, {"keys", "press", "release"});
+    refuse_other_fields(body, {"keys", "press", "renew", "release"});
     if (body.size() != 1) {
-        throw HttpError(400, "expected one of 'keys', 'press' and 'release'");
+        throw HttpError(400, "expected one of 'keys', 'press', 'renew' and 'release'");
     }
     if (body.contains("keys")) {
         answer_json(call.response, {{"keys", press_keys(body["keys"])}});
         return;
     }
-    const char* verb = body.contains("press") ? "press" : "release";
-    const Key& key = find_key(text_field(body, verb));
-    const bool down = body.contains("press");
-    parts_.loop.call([&] { down ? parts_.session.hold(key) : parts_.session.release(key); });
-    answer_json(call.response, {{verb, key.name}});
+    constexpr std::pair<const char*, void (MenuSession::*)(const Key&)> verbs[] = {
+        {"press", &MenuSession::hold}, {"renew", &MenuSession::renew}, {"release", &MenuSession::release}};
+    for (const auto& [verb, act] : verbs) {
+        if (body.contains(verb)) {
+            const Key& key = find_key(text_field(body, verb));
+            parts_.loop.call([&, act = act] { (parts_.session.*act)(key); });
+            answer_json(call.response, {{verb, key.name}});
+        }
+    }
 }
 
 void Api::get_state(const Call& call)

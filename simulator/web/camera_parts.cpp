@@ -77,8 +77,10 @@ json state_json(const CameraParts& parts)
         list.push_back(page_json(page));
     }
     const MenuConfig& config = parts.session.config();
+    const Key* held = parts.session.held();
     return {{"menu", parts.session.has_menu()},
             {"open", !pages.empty()},
+            {"held", held == nullptr ? json() : json(held->name)},
             {"language", parts.camera.language()},
             {"languages", languages_json(parts.camera)},
             {"style", config.style},

@@ -4,6 +4,7 @@
 #include <nlohmann/json.hpp>
 #include <sys/socket.h>
 
+#include "simulator/host/key_hold.h"
 #include "tests/simulator/running_camera.h"
 
 using nlohmann::json;
@@ -81,7 +82,7 @@ TEST_F(WebTest, RefusesInWords)
         {"POST", "/keys", {json_type}, R"({"keys": )" + std::string(250000, '['), 400, "nests deeper than 32 levels"},
         {"GET", "/state", {{"Sec-Fetch-Site", "cross-site"}, {"Sec-Fetch-Mode", "no-cors"}}, "", 403, "other sites"},
         {"POST", "/keys", {json_type}, R"({"kees": []})", 400, "unknown field 'kees', expected 'keys'"},
-        {"POST", "/keys", {json_type}, "{}", 400, "expected one of 'keys', 'press' and 'release'"},
+        {"POST", "/keys", {json_type}, "{}", 400, "expected one of 'keys', 'press', 'renew' and 'release'"},
         {"POST", "/keys", {json_type}, std::string(std::size_t{100} << 20, ' '), 413, "too large"},
         {"PUT", "/settings/Colour", {json_type}, R"({"value": "1"})", 404, "no setting 'Colour'"},
         {"PUT", "/settings/Zoom", {json_type}, R"({"value": 99})", 400, "no whole number from 100 to 2000"},
@@ -175,10 +176,12 @@ TEST_F(WebTest, KeysMoveTheMenu)
     EXPECT_EQ(state["focus"]["label"], "Contrast");
     EXPECT_EQ(state["focus"]["value"], "50");
     send("POST", "/keys", {{"press", "right"}});
+    EXPECT_EQ(get("/state")["held"], "right");
     const auto contrast = [] { return std::stoi(value_of("ImageParam.Contrast")); };
     while (contrast() < 54) { // the camera repeats the key by itself
     }
     send("POST", "/keys", {{"release", "right"}});
+    EXPECT_EQ(get("/state")["held"], nullptr);
     const int held = contrast();
     press({"left"});
     EXPECT_EQ(contrast(), held - 1);
@@ -191,6 +194,28 @@ TEST_F(WebTest, KeysMoveTheMenu)
     EXPECT_EQ(get("/state")["channels"][0]["width"], 3840);
     send("POST", "/menu", {{"style", 0}, {"size", "1080p"}});
     send("POST", "/language", {{"language", "English"}});
+}
+
+TEST(KeyHold, LastsWhileItIsRenewed)
+{
+    using std::chrono::milliseconds;
+    const sim::Key& right = sim::find_key("right");
+    const std::tuple<std::set<int>, const char*, int> cases[] = {
+        {{}, "right", 28}, {{1000, 2000}, "right", 48}, {{2000}, "left", 28}, {{3500}, "right", 28}};
+    for (const auto& [renewals, key, expected] : cases) {
+        sim::KeyHold hold;
+        const sim::KeyHold::Clock::time_point start;
+        hold.begin(right, start);
+        int presses = 0;
+        for (int time = 0; time < 9000; time += 50) {
+            if (renewals.count(time) > 0) {
+                hold.renew(sim::find_key(key), start + milliseconds(time));
+            }
+            presses += hold.due(start + milliseconds(time)) == &right ? 1 : 0;
+        }
+        EXPECT_EQ(presses, expected);
+        EXPECT_EQ(hold.key(), nullptr);
+    }
 }
 
 TEST_F(WebTest, SettingsGoOutAndIn)

@@ -42,6 +42,10 @@ export function makeQueue(send) {
       waiting.push(message);
       pump();
     },
+    /** For what is worth nothing later: dropped while something else is on its way. */
+    addWhenIdle(message) {
+      if (!sending) this.add(message);
+    },
     /** Sends at once what still waits: the page is going away and won't see an answer. */
     flush() {
       for (const message of waiting.splice(0)) send(message).catch(() => {});

@@ -26,21 +26,27 @@ const once = new Set(["menu", "home", "advanced", "return", "close", "apply", "p
 
 const queue = makeQueue(message => request("POST", "keys", message, { keepalive: true }));
 const buttons = new Map();
-let held = null; // {name, source}: the key that the camera repeats, and the finger or key that holds it
+let held = null; // {name, source, timer}: the key that the camera repeats, and the finger or key that holds it
 
 function hold(name, source) {
   if (held?.source === source) return;
-  if (held) buttons.get(held.name).classList.remove("held"); // a second press replaces the first
-  held = { name, source };
+  if (held) forget(); // a second press replaces the first
+  // The camera lets go of a key that isn't renewed, so that a page that dies doesn't hold it for ever.
+  held = { name, source, timer: setInterval(() => queue.addWhenIdle({ renew: name }), 1000) };
   buttons.get(name).classList.add("held");
   queue.add({ press: name });
 }
 
+function forget() {
+  buttons.get(held.name).classList.remove("held");
+  clearInterval(held.timer);
+  held = null;
+}
+
 function release(source = held?.source) {
   if (!held || held.source !== source) return;
-  buttons.get(held.name).classList.remove("held");
   queue.add({ release: held.name });
-  held = null;
+  forget();
 }
 
 function tap(name) {
