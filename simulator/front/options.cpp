@@ -7,8 +7,8 @@
 #include <sstream>
 
 #include "simulator/core/errors.h"
-#include "simulator/core/page_files.h"
 #include "simulator/core/resources.h"
+#include "simulator/host/menu_session.h"
 #include "simulator/video/snapshot.h"
 
 namespace sim {
@@ -151,19 +151,6 @@ void declare(CLI::App& app, Options& options, Words& words)
         ->type_name("DIR");
 }
 
-void check_page(const std::string& page, const std::filesystem::path& resources)
-{
-    const std::vector<std::string> names = page_names(resources);
-    if (page.empty() || std::count(names.begin(), names.end(), page) > 0) {
-        return;
-    }
-    std::string known;
-    for (const std::string& name : names) {
-        known += " " + name;
-    }
-    throw BadInput("unknown page '" + page + "', expected one of:" + known);
-}
-
 void check_combinations(const CLI::App& app)
 {
     constexpr std::pair<const char*, const char*> enemies[] = {{"--window", "--snapshot"},
@@ -273,7 +260,9 @@ void take_over(const CLI::App& app, const Words& words, Options& options)
     options.uhd = sizes.at(words.size);
     options.pixel_format = formats.at(words.format);
     options.data = app.count("--data") > 0 ? std::filesystem::path(words.data) : default_data_folder();
-    check_page(options.page, options.resources);
+    if (app.count("--page") > 0) {
+        require_page(options.page, options.resources);
+    }
 }
 
 std::string first_line(const std::string& text) { return text.substr(0, text.find('\n')); }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <chrono>
+#include <filesystem>
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <stdexcept>
@@ -18,6 +19,9 @@ public:
     NoMenu() : std::runtime_error("the menu could not start, see the log; choosing a skin or a size starts it again") {}
 };
 
+/// Throws BadInput, which lists the pages, when the resources have none of this name.
+void require_page(const std::string& name, const std::filesystem::path& resources);
+
 /// All calls on the menu thread.
 class MenuSession {
 public:
@@ -32,6 +36,8 @@ public:
 
     /// Starts the menu anew, closed, with another skin or size.
     void restart(const MenuConfig& config);
+    /// Opens the menu anew with one page, see MenuHost::show_over_main(). Throws NoMenu.
+    void show_page(const std::string& name);
 
     /// Stores the value of a setting, for somebody who doesn't use the menu; what the menu shows of it follows. Throws
     /// as Settings::set() does.

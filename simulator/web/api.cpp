@@ -1,7 +1,6 @@
 #include "simulator/web/api.h"
 
 #include <algorithm>
-#include <sstream>
 #include <utility>
 
 #include "simulator/core/errors.h"
@@ -29,35 +28,6 @@ constexpr FileKind file_kinds[] = {{".html", "text/html; charset=utf-8"},
                                    {".css", "text/css; charset=utf-8"},
                                    {".js", "text/javascript; charset=utf-8"},
                                    {".svg", "image/svg+xml"}};
-
-std::vector<std::string> split_path(const std::string& path)
-{
-    std::istringstream stream(path);
-    std::vector<std::string> parts;
-    for (std::string part; std::getline(stream, part, '/');) {
-        parts.push_back(part);
-    }
-    return parts;
-}
-
-/// What stands for the "*" of the pattern; none when the path doesn't fit it.
-std::optional<std::vector<std::string>> match(const std::string& pattern, const std::string& path)
-{
-    const std::vector<std::string> wanted = split_path(pattern);
-    const std::vector<std::string> given = split_path(path);
-    if (wanted.size() != given.size() || path.back() == '/') {
-        return std::nullopt;
-    }
-    std::vector<std::string> arguments;
-    for (std::size_t i = 0; i < wanted.size(); ++i) {
-        if (wanted[i] == "*") {
-            arguments.push_back(given[i]);
-        } else if (wanted[i] != given[i]) {
-            return std::nullopt;
-        }
-    }
-    return arguments;
-}
 
 /// A name as our own files have it: no folder, no "..".
 bool is_file_name(const std::string& name)
@@ -144,7 +114,7 @@ void Api::dispatch(const httplib::Request& request, httplib::Response& response)
     const std::string method = request.method == "HEAD" ? "GET" : request.method;
     std::string allowed;
     for (const Route& route : routes()) {
-        const auto arguments = match(route.path, request.path);
+        const auto arguments = match_path(route.path, request.path);
         if (arguments && method == route.method) {
             (this->*route.answer)({request, response, *arguments});
             return;
@@ -334,8 +304,12 @@ void Api::get_export(const Call& call)
 void Api::put_import(const Call& call)
 {
     const json values = read_object(call.request);
-    const std::size_t count = parts_.loop.call([&] { return parts_.session.import(values); });
-    answer_json(call.response, {{"settings", count}});
+    try {
+        const std::size_t count = parts_.loop.call([&] { return parts_.session.import(values); });
+        answer_json(call.response, {{"settings", count}});
+    } catch (const UnknownSetting& error) { // of the body: what the path names is there
+        throw HttpError(400, error.what());
+    }
 }
 
 void Api::post_language(const Call& call)
@@ -353,18 +327,29 @@ void Api::post_language(const Call& call)
 void Api::post_menu(const Call& call)
 {
     const json body = read_object(call.request);
-    refuse_other_fields(body, {"style", "size"});
+    refuse_other_fields(body, {"style", "size", "page"});
     const json style = body.value("style", json(0));
     const json size = body.value("size", json("1080p"));
-    if (!style.is_number_integer() || style < 0 || style > 2 || (size != "1080p" && size != "4k")) {
-        throw HttpError(400, "expected a 'style' of 0, 1 or 2, and a 'size' of \"1080p\" or \"4k\"");
+    if (body.empty() || !style.is_number_integer() || style < 0 || style > 2 || (size != "1080p" && size != "4k")) {
+        throw HttpError(400, "expected a 'style' of 0, 1 or 2, a 'size' of \"1080p\" or \"4k\", or a 'page'");
     }
+    const std::optional<std::string> page =
+        body.contains("page") ? std::optional(text_field(body, "page")) : std::nullopt;
     const MenuConfig config = parts_.loop.call([&] {
+        if (page) {
+            require_page(*page, parts_.camera.resources());
+        }
         MenuConfig wanted = parts_.session.config();
         wanted.style = body.contains("style") ? style.get<std::uint32_t>() : wanted.style;
         wanted.uhd = body.contains("size") ? size == "4k" : wanted.uhd;
-        parts_.session.restart(wanted);
-        return parts_.session.has_menu() ? wanted : throw NoMenu();
+        if (body.contains("style") || body.contains("size")) {
+            parts_.session.restart(wanted);
+        }
+        (void)parts_.session.menu(); // or there is none
+        if (page) {
+            parts_.session.show_page(*page);
+        }
+        return wanted;
     });
     answer_json(call.response, {{"style", config.style}, {"size", config.uhd ? "4k" : "1080p"}});
 }

@@ -1,5 +1,6 @@
 #include "simulator/web/camera_parts.h"
 
+#include "simulator/core/page_files.h"
 #include "simulator/host/menu_state.h"
 
 namespace sim {
@@ -87,6 +88,7 @@ json state_json(const CameraParts& parts)
             {"size", config.uhd ? "4k" : "1080p"},
             {"channels", channels_json(parts.camera)},
             {"pages", std::move(list)},
+            {"all_pages", page_names(parts.camera.resources())},
             {"focus", focus_json(pages)},
             {"problems", problems_json(parts.reload)},
             {"faults", parts.camera.faults().names()}};

@@ -1,6 +1,9 @@
 #include "simulator/web/http.h"
 
 #include <algorithm>
+#include <sstream>
+
+#include "simulator/core/json_file.h"
 
 namespace sim {
 
@@ -19,9 +22,37 @@ bool refuse_deep(int depth, json::parse_event_t /*event*/, const json& /*parsed*
     return true;
 }
 
+std::vector<std::string> split_path(const std::string& path)
+{
+    std::istringstream stream(path);
+    std::vector<std::string> parts;
+    for (std::string part; std::getline(stream, part, '/');) {
+        parts.push_back(part);
+    }
+    return parts;
+}
+
 } // namespace
 
 std::string to_text(const json& value) { return value.dump(-1, ' ', false, json::error_handler_t::replace); }
+
+std::optional<std::vector<std::string>> match_path(const std::string& pattern, const std::string& path)
+{
+    const std::vector<std::string> wanted = split_path(pattern);
+    const std::vector<std::string> given = split_path(path);
+    if (wanted.size() != given.size() || path.back() == '/') {
+        return std::nullopt;
+    }
+    std::vector<std::string> arguments;
+    for (std::size_t i = 0; i < wanted.size(); ++i) {
+        if (wanted[i] == "*") {
+            arguments.push_back(given[i]);
+        } else if (wanted[i] != given[i]) {
+            return std::nullopt;
+        }
+    }
+    return arguments;
+}
 
 void answer_json(httplib::Response& response, const json& value)
 {
@@ -36,16 +67,8 @@ void answer_error(httplib::Response& response, int status, const std::string& wo
 
 json read_object(const httplib::Request& request)
 {
-    try {
-        json object = json::parse(request.body, refuse_deep);
-        if (object.is_object()) {
-            return object;
-        }
-    } catch (const json::parse_error& error) {
-        throw HttpError(400,
-                        "the body is no JSON: byte " + std::to_string(error.byte) + " is not what was expected there");
-    }
-    throw HttpError(400, "the body must be a JSON object, { ... }");
+    [[maybe_unused]] const json ignored = json::parse(request.body, refuse_deep, false); // looks how deep it goes
+    return parse_json_object(request.body, "body");
 }
 
 std::string text_field(const json& object, const char* name)

@@ -2,8 +2,10 @@
 #pragma once
 
 #include <nlohmann/json.hpp>
+#include <optional>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #include <httplib.h>
 
@@ -26,7 +28,10 @@ std::string to_text(const nlohmann::json& value);
 void answer_json(httplib::Response& response, const nlohmann::json& value);
 void answer_error(httplib::Response& response, int status, const std::string& words);
 
-/// The object in the body of a request. Throws HttpError when there is none.
+/// What stands for each "*" of the pattern; none when the path doesn't fit it.
+std::optional<std::vector<std::string>> match_path(const std::string& pattern, const std::string& path);
+
+/// The object in the body of a request. Throws HttpError or BadInput when there is none, or when it has a field twice.
 nlohmann::json read_object(const httplib::Request& request);
 
 /// A field that is a text; throws HttpError when it is missing or no text.

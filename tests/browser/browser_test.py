@@ -70,6 +70,8 @@ class PageTest(unittest.TestCase):
             eventually(lambda: browser.run(PIXELS) != pixels, "the picture changes")
         titles = [page["title"] or page["name"] for page in camera.get("state")["pages"]]
         self.assertEqual(browser.text("#pages").split("\n"), titles)
+        browser.click("#page option[value='network']")
+        eventually(lambda: camera.focus()[0] == "network", "the camera opens the chosen page")
         browser.click("[data-key='close']")
         eventually(lambda: "closed" in browser.text("#menu-note"), "the menu is closed")
         camera.put("settings.json", defaults)

@@ -76,7 +76,7 @@ TEST_F(WebTest, RefusesInWords)
         {"POST", "/", {json_type}, "{}", 405, "takes GET"},
         {"GET", "/keys", {}, "", 405, "takes POST"},
         {"POST", "/keys", {{"Content-Type", "text/plain"}}, "{}", 415, "application/json"},
-        {"POST", "/keys", {json_type}, "menu", 400, "the body is no JSON: byte 1"},
+        {"POST", "/keys", {json_type}, "menu", 400, "body:1: syntax error"},
         {"POST", "/keys", {json_type}, R"({"keys": ["menu", "jump"]})", 400, "unknown key 'jump', expected one of"},
         {"POST", "/keys", {json_type}, R"({"keys": "menu"})", 400, "must be a list"},
         {"POST", "/keys", {json_type}, R"({"keys": )" + std::string(250000, '['), 400, "nests deeper than 32 levels"},
@@ -88,8 +88,13 @@ TEST_F(WebTest, RefusesInWords)
         {"PUT", "/settings/Zoom", {json_type}, R"({"value": 99})", 400, "no whole number from 100 to 2000"},
         {"PUT", "/settings/Zoom", {json_type}, R"({"value": []})", 400, "a text or a whole number"},
         {"PUT", "/settings.json", {json_type}, R"({"Zoom": "300", "Mirror": "Up"})", 400, "Mirror"},
+        {"PUT", "/settings.json", {json_type}, R"({"Zoom": "300", "Colour": "1"})", 400, "no setting 'Colour'"},
+        {"PUT", "/settings.json", {json_type}, R"({"Zoom": "300", "Zoom": "300"})", 400, "'Zoom' stands twice"},
+        {"PUT", "/settings/Zoom", {json_type}, R"({"value": 1e999})", 400, "out of range"},
         {"POST", "/language", {json_type}, R"({"language": "Klingon"})", 400, "expected one of English"},
         {"POST", "/menu", {json_type}, R"({"style": 3})", 400, "'style' of 0, 1 or 2"},
+        {"POST", "/menu", {json_type}, "{}", 400, "expected a 'style'"},
+        {"POST", "/menu", {json_type}, R"({"page": "nowhere", "style": 1})", 400, "expected one of: advanced"},
         {"PUT", "/faults", {json_type}, R"({"on": ["all"]})", 400, "settings-slow"},
         {"GET", "/state", {{"Host", "camera.example"}}, "", 403, "serves this machine only"},
         {"POST", "/keys", {json_type, {"Origin", "http://camera.example"}}, "{}", 403, "may not use this camera"},
@@ -192,7 +197,10 @@ TEST_F(WebTest, KeysMoveTheMenu)
     EXPECT_EQ(get("/state")["focus"]["value"], "70");
     EXPECT_EQ(send("POST", "/menu", {{"style", 1}, {"size", "4k"}})["size"], "4k");
     EXPECT_EQ(get("/state")["channels"][0]["width"], 3840);
-    send("POST", "/menu", {{"style", 0}, {"size", "1080p"}});
+    send("POST", "/menu", {{"style", 0}, {"size", "1080p"}, {"page", "network"}});
+    EXPECT_EQ(get("/state")["pages"][1]["name"], "network");
+    EXPECT_EQ(send("POST", "/menu", {{"page", "main"}})["style"], 0);
+    EXPECT_EQ(get("/state")["pages"].size(), 1);
     send("POST", "/language", {{"language", "English"}});
 }
 

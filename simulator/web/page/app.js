@@ -83,12 +83,14 @@ function itemLine({ label, value, selected, editing }) {
   return line;
 }
 
-function showMenu({ open, menu, pages, language }) {
+function showMenu({ open, menu, pages, all_pages: names, language }) {
   const items = byId("items");
   const top = pages.at(-1);
   byId("pages").lang = items.lang = byId("spoken").lang = codes[language] ?? "";
   byId("pages").replaceChildren(...pages.map(({ name, title }) => make("li", { title: name }, title || name)));
   byId("pages").lastElementChild?.setAttribute("aria-current", "page");
+  setOptions(byId("page"), [["", "no page"], ...names.map(name => [name, name])]);
+  byId("page").value = top?.name ?? "";
   items.replaceChildren(...(top?.items ?? []).map(itemLine));
   items.hidden = !top;
   byId("menu-note").textContent = menu === false ? "The menu could not start, see the log. Keys do nothing."
@@ -156,12 +158,12 @@ function showFaults({ faults }) {
 
 // --- switches ---
 
-function wireSwitch(id, path, bodyOf) {
+function wireSwitch(id, requestOf) {
   byId(id).addEventListener("change", async event => {
     try {
-      await request("POST", path, bodyOf(event.target.value));
+      await request("POST", ...requestOf(event.target.value));
     } catch (error) {
-      if (state) showView(state);
+      if (state) showState(state);
       trouble(error);
     }
   });
@@ -216,9 +218,10 @@ wireRemote(() => Boolean(state?.open));
 wireSettings();
 wireLog();
 wireStream();
-wireSwitch("language", "language", language => ({ language }));
-wireSwitch("style", "menu", style => ({ style: Number(style) }));
-wireSwitch("size", "menu", size => ({ size }));
+wireSwitch("language", language => ["language", { language }]);
+wireSwitch("style", style => ["menu", { style: Number(style) }]);
+wireSwitch("size", size => ["menu", { size }]);
+wireSwitch("page", page => (page ? ["menu", { page }] : ["keys", { keys: ["close"] }]));
 listen({
   state: showState,
   key: ({ what }) => flash(what),
