@@ -151,16 +151,34 @@ void declare(CLI::App& app, Options& options, Words& words)
         ->type_name("DIR");
 }
 
+/// What would be ignored beside another option.
+struct Enemies {
+    const char* option;
+    std::vector<const char*> others;
+};
+
+const std::vector<Enemies> all_enemies = {
+    {"--window", {"--snapshot"}},
+    {"--keys", {"--keys-file"}},
+    {"--contact-sheet",
+     {"--window", "--snapshot", "--export", "--import", "--keys", "--keys-file", "--record", "--channel", "--page",
+      "--data", "--faults", "--prompt", "--reloading"}},
+    {"--export",
+     {"--window", "--snapshot", "--keys", "--keys-file", "--record", "--channel", "--page", "--style", "--size",
+      "--format", "--language", "--prompt", "--reloading"}},
+};
+
 void check_combinations(const CLI::App& app)
 {
-    constexpr std::pair<const char*, const char*> enemies[] = {{"--window", "--snapshot"},
-                                                               {"--keys", "--keys-file"},
-                                                               {"--contact-sheet", "--window"},
-                                                               {"--contact-sheet", "--snapshot"}};
-    for (const auto& [one, other] : enemies) {
-        if (app.count(one) > 0 && app.count(other) > 0) {
-            throw BadInput(std::string(one) + " and " + other + " can't be used together");
+    for (const auto& [one, others] : all_enemies) {
+        for (const char* other : others) {
+            if (app.count(one) > 0 && app.count(other) > 0) {
+                throw BadInput(std::string(one) + " and " + other + " can't be used together");
+            }
         }
+    }
+    if (app.count("--channel") > 0 && app.count("--window") + app.count("--snapshot") == 0) {
+        throw BadInput("--channel is for --window and --snapshot; the web page shows all channels");
     }
     for (const char* web : {"--listen", "--open", "--token"}) {
         for (const char* other : {"--window", "--snapshot", "--contact-sheet", "--export"}) {
@@ -249,6 +267,10 @@ void take_over(const CLI::App& app, const Words& words, Options& options)
     }
     if (app.count("--contact-sheet") > 0) {
         options.contact_sheet = words.contact_sheet;
+        if (options.contact_sheet->extension() != ".png" && app.count("--style") + app.count("--language") > 0) {
+            throw BadInput(
+                "--contact-sheet writes all styles and languages into a folder; for one of them name a .png");
+        }
     }
     if (app.count("--snapshot") > 0) {
         options.snapshot = words.snapshot;

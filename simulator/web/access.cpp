@@ -12,8 +12,6 @@
 namespace sim {
 namespace {
 
-constexpr const char* cookie_name = "camera_token";
-
 /// The host of "HOST", "HOST:PORT" or "[HOST]:PORT".
 std::string host_of(const std::string& place)
 {
@@ -21,6 +19,15 @@ std::string host_of(const std::string& place)
         return place.substr(1, place.find(']') - 1);
     }
     return place.substr(0, place.rfind(':'));
+}
+
+/// Cookies belong to a host, whatever its port: each camera of a machine needs a name of its own for them. The port is
+/// the one that the browser sees.
+std::string cookie_name(const httplib::Request& request)
+{
+    const std::string place = request.get_header_value("Host");
+    const std::size_t begin = place.find_last_not_of("0123456789") + 1;
+    return "camera_token_" + (begin > 1 && place[begin - 1] == ':' ? place.substr(begin) : "80");
 }
 
 std::string to_lower(std::string text)
@@ -43,7 +50,7 @@ bool equal_tokens(const std::string& a, const std::string& b)
 std::string cookie_of(const httplib::Request& request)
 {
     const std::string cookies = "; " + request.get_header_value("Cookie");
-    const std::string name = std::string("; ") + cookie_name + "=";
+    const std::string name = "; " + cookie_name(request) + "=";
     const std::size_t place = cookies.find(name);
     if (place == std::string::npos) {
         return "";
@@ -58,6 +65,12 @@ bool has_token(const httplib::Request& request, const std::string& token)
            equal_tokens(cookie_of(request), token) || equal_tokens(request.get_param_value("token"), token);
 }
 
+bool is_numeric_address(const std::string& host)
+{
+    in6_addr address{}; // room for both kinds
+    return ::inet_pton(AF_INET, host.c_str(), &address) == 1 || ::inet_pton(AF_INET6, host.c_str(), &address) == 1;
+}
+
 } // namespace
 
 ListenAddress parse_listen_address(const std::string& text)
@@ -68,9 +81,15 @@ ListenAddress parse_listen_address(const std::string& text)
     const char* end = text.c_str() + text.size();
     int port = -1;
     const auto result = std::from_chars(begin, end, port);
-    if (host.empty() || result.ec != std::errc() || result.ptr != end || port < 0 || port > 65535) {
+    const bool is_half_bracketed = colon != std::string::npos && text.front() == '[' && text[colon - 1] != ']';
+    if (host.empty() || is_half_bracketed || result.ec != std::errc() || result.ptr != end || port < 0 ||
+        port > 65535) {
         throw BadInput("--listen '" + text +
                        "': expected ADDRESS:PORT, such as 127.0.0.1:8080, [::1]:8080 or 0.0.0.0:80");
+    }
+    if (!is_numeric_address(host) && to_lower(host) != "localhost") {
+        throw BadInput("--listen '" + text + "': '" + host +
+                       "' is neither an address in numbers, such as 192.168.0.5 or [::1], nor localhost");
     }
     return {host, port};
 }
@@ -111,9 +130,9 @@ void check_access(const httplib::Request& request, const std::optional<std::stri
 
 bool brings_token_in_address(const httplib::Request& request) { return request.has_param("token"); }
 
-std::string token_cookie(const std::string& token)
+std::string token_cookie(const httplib::Request& request, const std::string& token)
 {
-    return std::string(cookie_name) + "=" + token + "; Path=/; HttpOnly; SameSite=Strict";
+    return cookie_name(request) + "=" + token + "; Path=/; HttpOnly; SameSite=Strict";
 }
 
 bool is_usable_token(const std::string& token)

@@ -35,7 +35,7 @@ void check_access(const httplib::Request& request, const std::optional<std::stri
 /// and later ones come without.
 bool brings_token_in_address(const httplib::Request& request);
 /// The value of the header Set-Cookie for it.
-std::string token_cookie(const std::string& token);
+std::string token_cookie(const httplib::Request& request, const std::string& token);
 
 /// Whether a token can be sent as it is in headers, cookies and addresses; an empty one can't.
 bool is_usable_token(const std::string& token);

@@ -90,7 +90,7 @@ void Api::serve(const httplib::Request& request, httplib::Response& response)
 {
     try {
         if (token_ && brings_token_in_address(request)) {
-            response.set_header("Set-Cookie", token_cookie(*token_));
+            response.set_header("Set-Cookie", token_cookie(request, *token_));
         }
         dispatch(request, response);
     } catch (const HttpError& error) {

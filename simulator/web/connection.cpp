@@ -23,6 +23,33 @@ int milliseconds_until(std::chrono::steady_clock::time_point end)
 
 } // namespace
 
+void OpenSockets::add(int socket)
+{
+    const std::lock_guard<std::mutex> lock(mutex_);
+    sockets_.insert(socket);
+    if (ended_) {
+        ::shutdown(socket, SHUT_RDWR);
+    }
+}
+
+void OpenSockets::close(int socket)
+{
+    const std::lock_guard<std::mutex> lock(mutex_);
+    sockets_.erase(socket);
+    ::close(socket);
+    changed_.notify_all();
+}
+
+void OpenSockets::end(std::chrono::milliseconds patience)
+{
+    std::unique_lock<std::mutex> lock(mutex_);
+    changed_.wait_for(lock, patience, [this] { return sockets_.empty(); });
+    ended_ = true;
+    for (const int socket : sockets_) {
+        ::shutdown(socket, SHUT_RDWR);
+    }
+}
+
 Connection::~Connection()
 {
     // Closing with bytes unread would reset the connection, and the answer with it.
@@ -37,7 +64,7 @@ Connection::~Connection()
         }
         dropped += static_cast<std::size_t>(count);
     }
-    ::close(socket_);
+    sockets_.close(socket_);
 }
 
 bool Connection::wait_for(short events, Clock::time_point end) const

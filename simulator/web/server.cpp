@@ -15,7 +15,8 @@ namespace {
 
 constexpr std::size_t most_workers = 160; ///< the viewers and some more
 constexpr std::size_t longest_path = 300;
-constexpr int send_buffer_bytes = 256 * 1024; ///< about two pictures: a slow viewer must not lag behind by seconds
+constexpr std::chrono::milliseconds farewell{500}; ///< for the last answers when the server ends
+constexpr int send_buffer_bytes = 256 * 1024;      ///< about two pictures: a slow viewer must not lag behind by seconds
 
 /// Bodies are read by the server for paths that fit this pattern; it matches all paths that check_form() lets pass.
 constexpr const char* any_path = "[^\n]{1,300}";
@@ -99,6 +100,13 @@ public:
                              {"Cross-Origin-Resource-Policy", "same-origin"}});
     }
 
+    /// Takes no more connections, and ends those that are open.
+    void end()
+    {
+        stop();
+        sockets_.end(farewell);
+    }
+
 private:
     static HandlerResponse serve_without_body(Api& api, const httplib::Request& request, httplib::Response& response)
     {
@@ -126,12 +134,14 @@ private:
             ::close(socket);
             return false;
         }
-        Connection connection(socket);
+        Connection connection(socket, sockets_);
         bool closed = false;
         return process_request(connection, true, closed, [](httplib::Request& request) {
             request.ranges.clear(); // all answers are short or endless
         });
     }
+
+    OpenSockets sockets_;
 };
 
 WebServer::WebServer(Api& api, const ListenAddress& listen)
@@ -160,7 +170,7 @@ WebServer::~WebServer()
     while (!http_->is_running() && !ended_) { // a stop before the start would not be noticed
         std::this_thread::yield();
     }
-    http_->stop();
+    http_->end();
     thread_.join();
 }
 

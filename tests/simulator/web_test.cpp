@@ -271,12 +271,15 @@ TEST(Web, NeedsTheTokenBeyondThisMachine)
 {
     const RunningCamera camera({"--token", "s3cret", "--still"});
     EXPECT_THAT(camera.address, testing::EndsWith("/?token=s3cret\n"));
+    const std::string name = "camera_token_" + std::to_string(camera.port);
     const std::tuple<const char*, httplib::Headers, int> cases[] = {
         {"/state", {}, 401},
         {"/state?token=s3cre", {}, 401},
         {"/state", {{"Authorization", "Bearer secret"}}, 401},
         {"/state", {{"Authorization", "Bearer s3cret"}, {"Host", "camera.example"}}, 200},
-        {"/state", {{"Cookie", "a=b; camera_token=s3cret"}}, 200},
+        {"/state", {{"Cookie", "camera_token_1=other; camera_token_80=s3cret"}}, 401},
+        {"/state", {{"Cookie", "a=b; " + name + "=s3cret"}}, 200},
+        {"/state", {{"Cookie", "camera_token_80=s3cret"}, {"Host", "camera.example"}}, 200},
         {"/?token=s3cret", {}, 200},
         {"/", {}, 401},
         {"/style.css", {}, 401},
@@ -285,6 +288,8 @@ TEST(Web, NeedsTheTokenBeyondThisMachine)
         const auto result = camera.client().Get(path, headers);
         ASSERT_TRUE(result) << path;
         EXPECT_EQ(result->status, status) << path;
-        EXPECT_EQ(result->has_header("Set-Cookie"), std::string(path) == "/?token=s3cret");
+        const bool brings_it = std::string(path) == "/?token=s3cret";
+        EXPECT_THAT(result->get_header_value("Set-Cookie"), StartsWith(brings_it ? name + "=s3cret; " : ""));
+        EXPECT_EQ(result->has_header("Set-Cookie"), brings_it);
     }
 }

@@ -6,9 +6,15 @@ import { flash, wireRemote } from "./remote.js";
 import { loadSettings, settingChanged, wireSettings } from "./settings.js";
 import { addLine, expectReplay, wireLog } from "./log.js";
 
+// The camera has put the token into a cookie; it needs to be in no bookmark and on no screen.
+const address = new URL(location);
+address.searchParams.delete("token");
+history.replaceState(null, "", address);
+
 const codes = { English: "en", German: "de", SimplifiedChinese: "zh-Hans", TraditionalChinese: "zh-Hant" };
 let state = null;
-let connected = false;
+let link = null;
+let connected = null; // not known before the first answer
 
 // --- picture ---
 
