@@ -16,6 +16,7 @@ namespace {
 using nlohmann::json;
 
 constexpr int most_viewers = 128;
+constexpr std::size_t longest_viewer_name = 40;
 constexpr int snapshot_quality = 92;
 constexpr std::chrono::seconds event_patience{1};
 constexpr std::size_t most_keys = 1000;
@@ -59,6 +60,7 @@ Api::Api(CameraParts parts, std::filesystem::path page, std::optional<std::strin
 const std::vector<Api::Route>& Api::routes()
 {
     static const std::vector<Route> table = {
+        {"GET", "/channels", &Api::get_channels},
         {"GET", "/channels/*/stream.mjpg", &Api::get_stream},
         {"GET", "/channels/*/snapshot.jpg", &Api::get_jpeg},
         {"GET", "/channels/*/snapshot.png", &Api::get_png},
@@ -178,9 +180,13 @@ std::shared_ptr<void> Api::take_viewer_place()
 void Api::get_stream(const Call& call)
 {
     ChannelStream& stream = stream_of(call.arguments[0]);
+    const std::string name = call.request.get_param_value("viewer");
+    if (name.size() > longest_viewer_name) {
+        throw HttpError(400, "the name of a viewer has at most " + std::to_string(longest_viewer_name) + " bytes");
+    }
     const auto place = take_viewer_place();
     parts_.loop.call([&] { parts_.camera.attach(stream.channel()); });
-    const auto viewer = std::make_shared<ChannelStream::Viewer>(stream);
+    const auto viewer = std::make_shared<ChannelStream::Viewer>(stream, name);
     call.response.set_header("Cache-Control", "no-store");
     // The boundary stands right behind each picture: a browser shows a picture when it has seen the next boundary.
     auto write = [place, viewer, first = true](std::size_t, httplib::DataSink& sink) mutable {
@@ -268,13 +274,19 @@ void Api::post_keys(const Call& call)
 
 void Api::get_state(const Call& call)
 {
-    json state = parts_.loop.call([&] { return state_json(parts_); });
+    answer_json(call.response, parts_.loop.call([&] { return state_json(parts_); }));
+}
+
+/// At once, also while a key takes long: who asks finds out whether the camera and a stream of it live.
+void Api::get_channels(const Call& call)
+{
+    json channels = channels_json(parts_.camera);
     for (const auto& stream : streams_) {
-        json& channel = state["channels"][static_cast<std::size_t>(stream->channel())];
+        json& channel = channels[static_cast<std::size_t>(stream->channel())];
         channel["viewers"] = stream->viewers();
         channel["encoded"] = stream->encoded();
     }
-    answer_json(call.response, state);
+    answer_json(call.response, {{"channels", channels}});
 }
 
 void Api::get_settings(const Call& call)

@@ -48,6 +48,7 @@ private:
     void dispatch(const httplib::Request& request, httplib::Response& response);
     bool serve_file(const httplib::Request& request, httplib::Response& response) const;
 
+    void get_channels(const Call& call);
     void get_stream(const Call& call);
     void get_jpeg(const Call& call);
     void get_png(const Call& call);

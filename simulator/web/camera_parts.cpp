@@ -17,17 +17,6 @@ json languages_json(const Camera& camera)
     return names;
 }
 
-json channels_json(Camera& camera)
-{
-    json channels = json::array();
-    for (int i = 0; i < channel_count; ++i) {
-        const Size size = camera.channels().size(i);
-        channels.push_back(
-            {{"name", channel_names.at(static_cast<std::size_t>(i))}, {"width", size.width}, {"height", size.height}});
-    }
-    return channels;
-}
-
 json page_json(const PageState& page)
 {
     json items = json::array();
@@ -69,6 +58,17 @@ json problems_json(const LiveReload& reload)
 }
 
 } // namespace
+
+json channels_json(Camera& camera)
+{
+    json channels = json::array();
+    for (int i = 0; i < channel_count; ++i) {
+        const Size size = camera.channels().size(i);
+        channels.push_back(
+            {{"name", channel_names.at(static_cast<std::size_t>(i))}, {"width", size.width}, {"height", size.height}});
+    }
+    return channels;
+}
 
 json state_json(const CameraParts& parts)
 {

@@ -21,6 +21,9 @@ struct CameraParts {
 /// The camera as GET /state tells it. On the menu thread.
 nlohmann::json state_json(const CameraParts& parts);
 
+/// The channels with name and size. On any thread.
+nlohmann::json channels_json(Camera& camera);
+
 /// The faults as GET /faults tells them.
 nlohmann::json faults_json(const Faults& faults);
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <utility>
 
 #include "simulator/core/log.h"
 #include "simulator/video/encode.h"
@@ -37,7 +38,7 @@ void ChannelStream::close()
     camera_.channels().wake();
 }
 
-int ChannelStream::viewers() const
+std::multiset<std::string> ChannelStream::viewers() const
 {
     const std::lock_guard<std::mutex> lock(mutex_);
     return viewers_;
@@ -53,7 +54,7 @@ std::uint64_t ChannelStream::encoded() const
 bool ChannelStream::wait_for_viewers()
 {
     std::unique_lock<std::mutex> lock(mutex_);
-    changed_.wait(lock, [this] { return closed_ || viewers_ > 0; });
+    changed_.wait(lock, [this] { return closed_ || !viewers_.empty(); });
     return !closed_;
 }
 
@@ -96,19 +97,20 @@ void ChannelStream::work()
     }
 }
 
-ChannelStream::Viewer::Viewer(ChannelStream& stream) : stream_(stream)
+ChannelStream::Viewer::Viewer(ChannelStream& stream, std::string name) : stream_(stream), name_(std::move(name))
 {
     const std::lock_guard<std::mutex> lock(stream_.mutex_);
-    if (stream_.viewers_++ == 0) {
+    if (stream_.viewers_.empty()) {
         stream_.frame_ = nullptr; // of the time when somebody watched last
         stream_.changed_.notify_all();
     }
+    stream_.viewers_.insert(name_);
 }
 
 ChannelStream::Viewer::~Viewer()
 {
     const std::lock_guard<std::mutex> lock(stream_.mutex_);
-    --stream_.viewers_;
+    stream_.viewers_.erase(stream_.viewers_.find(name_));
 }
 
 std::shared_ptr<const ChannelStream::Frame> ChannelStream::Viewer::next()

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <memory>
 #include <mutex>
+#include <set>
 #include <string>
 #include <thread>
 
@@ -33,7 +34,8 @@ public:
     /// Somebody who watches, as long as the object lives; it must not outlive the stream.
     class Viewer {
     public:
-        explicit Viewer(ChannelStream& stream);
+        /// The name needs not be the only one of its kind.
+        Viewer(ChannelStream& stream, std::string name);
         ~Viewer();
         Viewer(const Viewer&) = delete;
         Viewer& operator=(const Viewer&) = delete;
@@ -44,13 +46,15 @@ public:
 
     private:
         ChannelStream& stream_;
+        const std::string name_;
         std::uint64_t seen_ = 0;
     };
 
     /// Ends the waiting of all viewers, now and later.
     void close();
 
-    int viewers() const;
+    /// The names of those who watch.
+    std::multiset<std::string> viewers() const;
     std::uint64_t encoded() const;
 
 private:
@@ -66,7 +70,7 @@ private:
     mutable std::mutex mutex_; ///< guards the members below
     std::condition_variable changed_;
     std::shared_ptr<const Frame> frame_;
-    int viewers_ = 0;
+    std::multiset<std::string> viewers_;
     std::uint64_t encoded_ = 0;
     bool closed_ = false;
     std::thread thread_;

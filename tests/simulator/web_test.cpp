@@ -90,7 +90,7 @@ TEST_F(WebTest, RefusesInWords)
         {"PUT", "/settings.json", {json_type}, R"({"Zoom": "300", "Mirror": "Up"})", 400, "Mirror"},
         {"PUT", "/settings.json", {json_type}, R"({"Zoom": "300", "Colour": "1"})", 400, "no setting 'Colour'"},
         {"PUT", "/settings.json", {json_type}, R"({"Zoom": "300", "Zoom": "300"})", 400, "'Zoom' stands twice"},
-        {"PUT", "/settings/Zoom", {json_type}, R"({"value": 1e999})", 400, "out of range"},
+        {"PUT", "/settings/Zoom", {json_type}, R"({"value": 1e999})", 400, "number overflow"},
         {"POST", "/language", {json_type}, R"({"language": "Klingon"})", 400, "expected one of English"},
         {"POST", "/menu", {json_type}, R"({"style": 3})", 400, "'style' of 0, 1 or 2"},
         {"POST", "/menu", {json_type}, "{}", 400, "expected a 'style'"},
@@ -237,32 +237,41 @@ TEST_F(WebTest, SettingsGoOutAndIn)
     EXPECT_EQ(value_of("ImageParam.Flip"), "Off");
 }
 
-/// Reads an endless answer until the text has been seen.
-static std::string read_until(const RunningCamera& camera, const std::string& path, const std::string& text)
+/// Reads an endless answer until what was read is enough.
+static std::string read_until(const RunningCamera& camera, const std::string& path,
+                              const std::function<bool(const std::string&)>& enough)
 {
     std::string read;
     (void)camera.client().Get(path, [&](const char* bytes, std::size_t size) {
         read.append(bytes, size);
-        return read.find(text) == std::string::npos;
+        return !enough(read);
     });
     return read;
 }
 
 TEST_F(WebTest, StreamsPicturesAndEvents)
 {
-    const auto encoded = [] { return get("/state")["channels"][2]["encoded"].get<long>(); };
+    const auto encoded = [] { return get("/channels")["channels"][2]["encoded"].get<long>(); };
     const long before = encoded();
-    EXPECT_THAT(read_until(*camera, "/channels/2/stream.mjpg", "\xFF\xD9\r\n--frame\r\n"),
+    json viewers;
+    const auto end = [&viewers](const std::string& read) {
+        viewers = get("/channels")["channels"][2]["viewers"];
+        return read.find("\xFF\xD9\r\n--frame\r\n") != std::string::npos;
+    };
+    EXPECT_THAT(read_until(*camera, "/channels/2/stream.mjpg?viewer=me", end),
                 StartsWith("--frame\r\nContent-Type: image/jpeg\r\nContent-Length: "));
+    EXPECT_EQ(viewers, json({"me"}));
     EXPECT_GT(encoded(), before);
-    while (get("/state")["channels"][2]["viewers"] != 0) { // found gone with the next picture
+    while (!get("/channels")["channels"][2]["viewers"].empty()) { // found gone with the next picture
     }
     const long watched = encoded();
     send("PUT", "/settings/Mirror", {{"value", "On"}});
     EXPECT_NE(camera->client().Get("/channels/2/snapshot.png")->body.size(), 0U);
     EXPECT_EQ(encoded(), watched) << "nobody watches";
     std::thread press_menu([] { press({"close", "zoom+"}); });
-    const std::string events = read_until(*camera, "/events", R"({"name":"Zoom","value":"150"})");
+    const std::string events = read_until(*camera, "/events", [](const std::string& read) {
+        return read.find(R"({"name":"Zoom","value":"150"})") != std::string::npos;
+    });
     press_menu.join();
     EXPECT_THAT(events, StartsWith("event: state\ndata: {"));
 }

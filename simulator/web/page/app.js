@@ -18,34 +18,57 @@ let connected = null; // not known before the first answer
 
 // --- picture ---
 
+const page = Math.random().toString(36).slice(2);
 const streamPause = makePause();
 let streamTimer = 0;
+let streamBroken = false;
+let viewer = ""; // the name under which the camera counts this stream
+let starts = 0;
+let missed = 0;
 
 function startStream() {
   clearTimeout(streamTimer);
+  missed = 0;
+  viewer = `${page}.${++starts}`;
   const channel = byId("channel").value || "0";
   if (document.hidden) byId("stream").removeAttribute("src"); // a page that nobody sees needs no frames
-  else byId("stream").src = `channels/${channel}/stream.mjpg?at=${Date.now()}`;
+  else byId("stream").src = `channels/${channel}/stream.mjpg?viewer=${viewer}`;
   byId("snapshot-png").href = `channels/${channel}/snapshot.png`;
   byId("snapshot-jpg").href = `channels/${channel}/snapshot.jpg`;
 }
 
-// A stream that ends leaves its last frame in the browser, and no error; but the camera then counts no viewer.
+function showVeil() {
+  byId("veil").hidden = !streamBroken && connected !== false;
+  byId("veil").textContent = connected === false ? "Connection lost. Trying again…" : "No picture. Trying again…";
+}
+
+// A stream that ends leaves its last frame in the browser, and no error; but the camera then doesn't name its viewer.
+// Once may be too early, while the camera opens the stream.
 async function checkStream() {
   if (document.hidden || !connected) return;
-  const { channels } = await request("GET", "state");
-  if (channels[byId("channel").value].viewers === 0) startStream();
+  const asked = viewer;
+  try {
+    const { channels } = await request("GET", "channels", undefined, { signal: AbortSignal.timeout(5000) });
+    const lives = channels.some(({ viewers }) => viewers.includes(asked));
+    if (asked !== viewer) return;
+    missed = lives ? 0 : missed + 1;
+    if (missed === 2) startStream();
+  } catch {
+    if (connected) link.renew(); // events that come no more are silence, and no error
+  }
 }
 
 function wireStream() {
   const picture = byId("stream");
   picture.addEventListener("load", () => {
     streamPause.reset();
-    byId("stream-trouble").hidden = true;
+    streamBroken = false;
+    showVeil();
   });
   picture.addEventListener("error", () => {
     if (document.hidden) return;
-    byId("stream-trouble").hidden = false;
+    streamBroken = true;
+    showVeil();
     clearTimeout(streamTimer);
     streamTimer = setTimeout(startStream, streamPause.next());
   });
@@ -54,7 +77,7 @@ function wireStream() {
     startStream();
     showView(state);
   });
-  setInterval(() => checkStream().catch(() => {}), 5000); // a lost connection is told by its own line
+  setInterval(checkStream, 3000);
 }
 
 // --- what a screen reader says ---
@@ -83,8 +106,9 @@ function speak({ focus }) {
 // --- panels ---
 
 function itemLine({ label, value, selected, editing }) {
-  const line = make("li", {}, make("span", {}, label), make("span", { className: "value" }, value));
-  if (editing) line.append(make("em", {}, "editing"));
+  const shown = make("span", {}, value);
+  if (editing) shown.append(make("em", {}, "editing"));
+  const line = make("li", {}, make("span", {}, label), shown);
   if (selected) line.ariaCurrent = "true";
   return line;
 }
@@ -209,8 +233,9 @@ async function loadFaults() {
 function onLink(now) {
   connected = now;
   const line = byId("connection");
-  line.textContent = connected ? "Connected" : "Connection lost, trying again…";
+  line.textContent = connected ? "Connected" : "Connection lost";
   line.classList.toggle("lost", !connected);
+  showVeil();
   if (!connected) return;
   expectReplay();
   startStream(); // a stream that broke off leaves its last frame behind, and no error
@@ -228,7 +253,7 @@ wireSwitch("language", language => ["language", { language }]);
 wireSwitch("style", style => ["menu", { style: Number(style) }]);
 wireSwitch("size", size => ["menu", { size }]);
 wireSwitch("page", page => (page ? ["menu", { page }] : ["keys", { keys: ["close"] }]));
-listen({
+link = listen({
   state: showState,
   key: ({ what }) => flash(what),
   setting: settingChanged,

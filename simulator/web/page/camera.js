@@ -62,23 +62,31 @@ export function makePause() {
   };
 }
 
-/** Listens to the camera's events for good: a lost connection is told to onLink and made again. */
+/**
+ * Listens to the camera's events for good: a lost connection is told to onLink and made again. renew() is for who has
+ * noticed the loss first.
+ */
 export function listen(handlers, onLink) {
   const pause = makePause();
+  let source = null;
+  let timer = 0;
+  const renew = () => {
+    source.close();
+    onLink(false);
+    clearTimeout(timer);
+    timer = setTimeout(connect, pause.next());
+  };
   const connect = () => {
-    const source = new EventSource("events");
+    source = new EventSource("events");
     source.onopen = () => {
       pause.reset();
       onLink(true);
     };
-    source.onerror = () => { // one way for a lost connection and for an answer that isn't a stream of events
-      source.close();
-      onLink(false);
-      setTimeout(connect, pause.next());
-    };
+    source.onerror = renew; // one way for a lost connection and for an answer that isn't a stream of events
     for (const [name, handle] of Object.entries(handlers)) {
       source.addEventListener(name, event => handle(JSON.parse(event.data)));
     }
   };
   connect();
+  return { renew };
 }
