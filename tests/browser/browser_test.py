@@ -6,12 +6,15 @@ browser_test.py CAMERA_SIM [--screenshot FILE.png] [UNITTEST OPTION...]
 import argparse
 import json
 import re
+import signal
+import socket
 import sys
 import time
 import unittest
+import urllib.request
 from pathlib import Path
 
-from camera import Camera
+from camera import Camera, Relay
 from webdriver import Browser, eventually
 
 UP, DOWN, LEFT, RIGHT, ENTER, ESCAPE, BACKSPACE = "\ue013\ue015\ue012\ue014\ue007\ue00c\ue003"
@@ -19,6 +22,7 @@ BRIGHTNESS = "[id='setting-ImageParam.Brightness']"
 PIXELS = """const stream = document.getElementById('stream'), brush = document.createElement('canvas').getContext('2d');
 brush.drawImage(stream, 0, 0, 160, 90);
 return stream.naturalWidth ? [...brush.getImageData(0, 0, 160, 90).data].join() : ''"""
+VEILED = "const { hidden, innerText } = document.getElementById('veil'); return !hidden && innerText.includes('lost')"
 VISIBLE_CONTROLS = """return [...document.querySelectorAll('button, select, input, a[href], [tabindex="0"]')]
     .filter(element => element.checkVisibility())"""
 
@@ -97,9 +101,15 @@ class PageTest(unittest.TestCase):
         self.wait_value("51")
         browser.fill(BRIGHTNESS, "70" + ENTER)
         self.wait_focus("image", "Brightness", "70")
+        browser.fill(BRIGHTNESS, "8")
+        camera.put("settings/ImageParam.Brightness", {"value": 60})
+        self.wait_focus("image", "Brightness", "60")
+        self.wait_value("8")  # what somebody types stays
+        browser.keys(ESCAPE)
+        self.wait_value("60")
         browser.fill(BRIGHTNESS, "700" + ENTER)
         eventually(lambda: "Brightness" in browser.text("#toasts"), "a refused value is told")
-        self.wait_value("70")
+        self.wait_value("60")
         file = camera.folder / "import.json"
         file.write_text(json.dumps({**camera.get("settings.json"), "ImageParam.Brightness": "33"}), "utf-8")
         browser.fill("#import-file", str(file))
@@ -172,14 +182,33 @@ class PageTest(unittest.TestCase):
 
     def test_comes_back_after_the_camera(self):
         camera.stop()
-        eventually(lambda: "lost" in browser.text("#connection"), "the page says that the camera is gone")
+        eventually(lambda: browser.run(VEILED), "the page says that the camera is gone")
         browser.click("[data-key='menu']")
         eventually(lambda: browser.text("#toasts"), "a key without an answer is told")
         camera.start(camera.address.split("/")[2])
         eventually(lambda: browser.text("#connection") == "Connected", "the page finds the camera again")
+        self.wait_moving_picture()
+
+    def wait_moving_picture(self):
         pixels = eventually(lambda: browser.run(PIXELS), "a picture")
         camera.keys("menu")
         eventually(lambda: browser.run(PIXELS) != pixels, "the picture shows the menu")
+        self.assertFalse(browser.run(VEILED))
+
+    def test_notices_what_ends_without_an_error(self):
+        relay = Relay(camera)
+        self.addCleanup(relay.stop)
+        browser.open(relay.address, 1280, 800)
+        eventually(lambda: browser.run(PIXELS), "a picture")
+        with urllib.request.urlopen(camera.address + "channels/0/stream.mjpg") as other:
+            self.assertTrue(other.read(100))  # the channel keeps a viewer
+            relay.streams[-1].shutdown(socket.SHUT_RDWR)
+            self.wait_moving_picture()
+        camera.process.send_signal(signal.SIGSTOP)
+        eventually(lambda: browser.run(VEILED), "the page says that the camera is silent")
+        camera.process.send_signal(signal.SIGCONT)
+        eventually(lambda: browser.text("#connection") == "Connected", "the page hears the camera again")
+        self.wait_moving_picture()
 
 
 if __name__ == "__main__":

@@ -1,9 +1,13 @@
 """camera-sim as a process of its own, on settings and resources that may be spoilt."""
 import atexit
+import contextlib
 import json
 import shutil
+import socket
+import socketserver
 import subprocess
 import tempfile
+import threading
 from pathlib import Path
 
 from webdriver import fetch
@@ -50,3 +54,28 @@ class Camera:
         """Page, label and value of the row with the cursor; nothing while the menu is closed."""
         focus = self.get("state")["focus"]
         return (focus["page"], focus["label"], focus["value"]) if focus else ()
+
+
+class Relay(socketserver.ThreadingTCPServer):
+    """Stands between browser and camera, so that a stream can end there. It passes on the first packet of a request."""
+    daemon_threads = True
+
+    def __init__(self, camera):
+        super().__init__(("127.0.0.1", 0), None)
+        self.address = f"http://127.0.0.1:{self.server_address[1]}/"
+        self.target = camera.address.split("/")[2].split(":")
+        self.streams = []
+        threading.Thread(target=self.serve_forever).start()
+
+    def stop(self):
+        self.shutdown()
+        self.server_close()
+
+    def finish_request(self, client, _):
+        with socket.create_connection(self.target) as server, contextlib.suppress(OSError):  # either end may go
+            request = client.recv(65536)
+            if b"stream.mjpg" in request:
+                self.streams.append(server)
+            server.sendall(request)
+            while data := server.recv(65536):
+                client.sendall(data)

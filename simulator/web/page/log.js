@@ -1,6 +1,6 @@
 // The camera's log: bounded, filtered, and silent for screen readers.
 
-import { byId, make } from "./dom.js";
+import { byId, make, stored } from "./dom.js";
 
 const kept = 1000;
 const replayed = 200; // the camera sends this many again after a lost connection
@@ -64,7 +64,11 @@ export function expectReplay() {
 /** Makes filter, pause and clear work. */
 export function wireLog() {
   const filter = () => entries.forEach(({ entry, line }) => { line.hidden = !isShown(entry); });
-  byId("log-level").addEventListener("change", filter);
+  byId("log-level").value = stored.get("log", "INFO"); // the library's trace is for those who ask
+  byId("log-level").addEventListener("change", () => {
+    stored.set("log", byId("log-level").value);
+    filter();
+  });
   byId("log-search").addEventListener("input", filter);
   byId("log-pause").addEventListener("click", () => {
     paused = !paused;

@@ -3,8 +3,9 @@
 import { byId, make, mark } from "./dom.js";
 import { makeQueue, request, trouble } from "./camera.js";
 
-const rows = new Map(); // name: {setting, row, control, reset}
-let meanwhile = null; // changes that came while all settings are read: the answer may be older
+const rows = new Map(); // name: {setting, row, control, reset, typing}
+let definitions = ""; // what the rows are made of
+let meanwhile = null; // changes since the newest reading of all settings began: its answer may be older
 const narrow = matchMedia("(max-width: 699px)");
 
 // kind: how its control is made, and its value as the control has it
@@ -30,8 +31,8 @@ const queue = makeQueue(async ({ name, value }) => {
 function show(name) {
   const held = rows.get(name);
   if (!held) return;
-  const { setting, row, control, reset } = held;
-  control.value = toControl(setting.kind, setting.value);
+  const { setting, row, control, reset, typing } = held;
+  if (!typing) control.value = toControl(setting.kind, setting.value);
   row.classList.toggle("differs", setting.value !== setting.default);
   reset.hidden = setting.value === setting.default;
 }
@@ -59,7 +60,19 @@ function makeRow(setting) {
   const control = (kinds[setting.kind] ?? kinds.text)(setting);
   control.id = `setting-${setting.name}`;
   const send = value => queue.add({ name: setting.name, value });
-  control.addEventListener("change", () => send(fromControl(setting.kind, control.value)));
+  const held = { setting, control, typing: false };
+  control.addEventListener("input", () => { held.typing = true; });
+  control.addEventListener("change", () => {
+    held.typing = false;
+    send(fromControl(setting.kind, control.value));
+  });
+  const drop = () => {
+    if (!held.typing) return;
+    held.typing = false;
+    show(setting.name);
+  };
+  control.addEventListener("blur", drop); // behind "change", if what was typed is another value
+  control.addEventListener("keydown", event => { if (event.key === "Escape") drop(); });
   const reset = make("button", { className: "reset", title: `Back to ${setting.default || "nothing"}` }, "↺");
   reset.setAttribute("aria-label", `${setting.key} back to its default, ${setting.default}`);
   reset.addEventListener("click", () => send(setting.default));
@@ -67,7 +80,7 @@ function makeRow(setting) {
   control.setAttribute("aria-describedby", range.id);
   const row = make("div", { className: "setting", title: setting.name },
     make("label", { htmlFor: control.id }, ...breakable(setting.key)), control, range, reset);
-  rows.set(setting.name, { setting, row, control, reset });
+  rows.set(setting.name, Object.assign(held, { row, reset }));
   show(setting.name);
   return row;
 }
@@ -79,12 +92,10 @@ function search() {
     group.hidden = !group.querySelector(".setting:not([hidden])");
     if (wanted) group.open = true;
   }
+  byId("settings-none").hidden = [...rows.values()].some(({ row }) => !row.hidden);
 }
 
-/** Reads all settings anew: at the start, and when their definitions changed. */
-export async function loadSettings() {
-  meanwhile = [];
-  const { settings } = await request("GET", "settings");
+function makeRows(settings) {
   const groups = new Map();
   for (const setting of settings) {
     const parent = setting.parent || "Camera";
@@ -93,10 +104,30 @@ export async function loadSettings() {
   rows.clear();
   byId("settings-list").replaceChildren(...[...groups].map(([parent, members]) =>
     make("details", { open: !narrow.matches }, make("summary", {}, parent), ...members.map(makeRow))));
-  const late = meanwhile ?? [];
-  meanwhile = null;
-  late.forEach(settingChanged);
   search();
+}
+
+// Rows whose definitions are what they were stay, with the focus and what is typed.
+function takeAll(settings) {
+  const wanted = JSON.stringify(settings.map(({ value, ...definition }) => definition));
+  if (wanted === definitions) settings.forEach(settingChanged);
+  else makeRows(settings);
+  definitions = wanted;
+}
+
+/** Reads all settings anew: at the start, and when their definitions may have changed. */
+export async function loadSettings() {
+  const late = [];
+  meanwhile = late; // an older reading under way is worth nothing any more
+  try {
+    const { settings } = await request("GET", "settings");
+    if (meanwhile !== late) return;
+    meanwhile = null;
+    takeAll(settings);
+    late.forEach(settingChanged);
+  } finally {
+    if (meanwhile === late) meanwhile = null;
+  }
 }
 
 /** Makes search and import work. */
