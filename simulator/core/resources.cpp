@@ -13,4 +13,10 @@ std::filesystem::path default_resources()
 
 std::filesystem::path staged_pictures() { return std::filesystem::path(OSD_RESOURCE_DIR) / "pic"; }
 
+std::filesystem::path plain_path(const std::filesystem::path& folder)
+{
+    const std::filesystem::path path = std::filesystem::absolute(folder).lexically_normal();
+    return path.has_filename() ? path : path.parent_path();
+}
+
 } // namespace sim

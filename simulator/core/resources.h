@@ -11,4 +11,8 @@ std::filesystem::path default_resources();
 /// The folder from which the menu loads its pictures.
 std::filesystem::path staged_pictures();
 
+/// The folder with its path from the root, with no "." and ".." in it and no slash at its end: two paths of one folder
+/// are equal then, links aside.
+std::filesystem::path plain_path(const std::filesystem::path& folder);
+
 } // namespace sim

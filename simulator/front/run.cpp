@@ -3,6 +3,7 @@
 #include <iostream>
 
 #include "simulator/core/errors.h"
+#include "simulator/core/guard.h"
 #include "simulator/core/settings_json.h"
 #include "simulator/front/contact_sheet.h"
 #include "simulator/front/scenario.h"
@@ -49,7 +50,18 @@ void transfer_settings(Camera& camera, const Options& options)
     }
 }
 
-void run_camera(const Options& options)
+/// For a camera without live reload: the pictures as they are now.
+void take_pictures(Pictures& pictures)
+{
+    for (const std::filesystem::path& file : pictures.outdated()) {
+        (void)guarded("resources", false, [&] {
+            pictures.take(file);
+            return true;
+        });
+    }
+}
+
+void run_camera(const Options& options, Pictures& pictures)
 {
     std::optional<ReloadingMarker> marker;
     if (options.reloading) {
@@ -68,7 +80,7 @@ void run_camera(const Options& options)
     const MenuConfig menu{options.pixel_format, options.style, options.uhd, options.page,
                           options.prompt.value_or(default_prompt)};
     if (options.web) {
-        serve_camera(camera, menu, options);
+        serve_camera(camera, pictures, menu, options);
     } else if (!options.export_file) {
         MenuHost host(camera, menu);
         if (options.prompt) {
@@ -84,10 +96,16 @@ void run(const Options& options)
 {
     if (options.scenario) {
         play_scenario(*options.scenario, options.update_scenario);
-    } else if (options.contact_sheet) {
+        return;
+    }
+    Pictures pictures(options.resources);
+    if (!options.web) {
+        take_pictures(pictures);
+    }
+    if (options.contact_sheet) {
         write_contact_sheets(*options.contact_sheet, options);
     } else {
-        run_camera(options);
+        run_camera(options, pictures);
     }
 }
 

@@ -11,7 +11,6 @@
 #include "simulator/core/folder_watch.h"
 #include "simulator/core/log.h"
 #include "simulator/core/output_capture.h"
-#include "simulator/core/resources.h"
 #include "simulator/front/stop_signals.h"
 #include "simulator/host/key_script.h"
 #include "simulator/host/live_reload.h"
@@ -121,7 +120,7 @@ std::unique_ptr<WebServer> start_server(Api& api, const Options& options)
 
 } // namespace
 
-void serve_camera(Camera& camera, const MenuConfig& menu, const Options& options)
+void serve_camera(Camera& camera, Pictures& pictures, const MenuConfig& menu, const Options& options)
 {
     MenuLoop loop;
     const StopSignals signals([&loop] { loop.stop(); });
@@ -129,7 +128,7 @@ void serve_camera(Camera& camera, const MenuConfig& menu, const Options& options
     EventHub hub;
     EventBridge bridge(camera, hub);
     MenuSession session(camera, menu);
-    LiveReload reload(camera, staged_pictures());
+    LiveReload reload(camera, pictures);
     const CameraParts parts{camera, session, reload, loop, hub};
     Api api(parts, OSD_WEB_DIR, options.token);
     const FolderWatch watch(reload.folders(), [&](const std::set<std::filesystem::path>& files) {

@@ -1,19 +1,16 @@
 #include "simulator/host/live_reload.h"
 
 #include <algorithm>
-#include <chrono>
 #include <sstream>
-#include <stdexcept>
 #include <system_error>
 #include <utility>
 
 #include "osd_menu.h"
-#include "simulator/core/bitmap_file.h"
-#include "simulator/core/child_program.h"
 #include "simulator/core/errors.h"
 #include "simulator/core/json_file.h"
 #include "simulator/core/log.h"
 #include "simulator/core/page_files.h"
+#include "simulator/core/resources.h"
 #include "simulator/core/text_file.h"
 #include "simulator/host/page_check.h"
 #include "simulator/host/page_stack.h"
@@ -23,46 +20,21 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::chrono::seconds drawing_limit{5};
-
-/// As a FolderWatch names it.
-fs::path plain(const fs::path& folder)
-{
-    const fs::path path = fs::absolute(folder).lexically_normal();
-    return path.has_filename() ? path : path.parent_path();
-}
-
-bool is_older(const fs::path& file, const fs::path& other)
-{
-    std::error_code error;
-    const auto time = fs::last_write_time(file, error);
-    return error || time < fs::last_write_time(other, error);
-}
-
-void draw_picture(const fs::path& svg, const fs::path& bitmap)
-{
-    const TemporaryFolder folder;
-    const fs::path png = folder.path() / "picture.png";
-    const std::string problem = run_program({"rsvg-convert", "--output", png.string(), svg.string()}, drawing_limit);
-    if (!problem.empty()) {
-        throw std::runtime_error(problem);
-    }
-    convert_to_bitmap(png, bitmap);
-}
-
 void say_read(const std::string& file) { log_line(LogLevel::Info, "resources", file + " was read again"); }
 
 } // namespace
 
-LiveReload::LiveReload(Camera& camera, const fs::path& bitmaps)
-    : camera_(camera), root_(plain(camera.resources())), pages_(page_folder(root_)), languages_(root_ / "lang"),
-      pictures_(root_ / "pic"), bitmaps_(plain(bitmaps))
+LiveReload::LiveReload(Camera& camera, Pictures& pictures)
+    : camera_(camera), pictures_(pictures), root_(plain_path(camera.resources())), pages_(page_folder(root_)),
+      languages_(root_ / "lang")
 {
     check_pages();
-    draw_new_pictures();
+    for (const fs::path& file : pictures_.outdated()) {
+        (void)take_picture(file);
+    }
 }
 
-std::vector<fs::path> LiveReload::folders() const { return {root_, pages_, languages_, pictures_}; }
+std::vector<fs::path> LiveReload::folders() const { return {root_, pages_, languages_, pictures_.folder()}; }
 
 void LiveReload::reload(const std::set<fs::path>& changed)
 {
@@ -127,8 +99,7 @@ LiveReload::Effect LiveReload::take(const fs::path& file)
     if (folder == pages_ && is_page_file(file)) {
         return take_page(file);
     }
-    const bool picture = file.extension() == ".svg" || file.extension() == ".bmp";
-    return folder == pictures_ && picture ? take_picture(file) : Effect::None;
+    return pictures_.has_name_of_one(file) ? take_picture(file) : Effect::None;
 }
 
 /// Runs the body, which throws when the file is broken, and keeps the list of problems.
@@ -235,25 +206,7 @@ void LiveReload::check_pages()
 
 LiveReload::Effect LiveReload::take_picture(const fs::path& file)
 {
-    const fs::path bitmap = bitmaps_ / (file.stem().string() + ".bmp");
-    if (file == bitmap) {
-        return Effect::Redraw; // the menu loads it as it is
-    }
-    const bool good = in_order(
-        file, [&] { file.extension() == ".svg" ? draw_picture(file, bitmap) : convert_to_bitmap(file, bitmap); });
-    return good ? Effect::Redraw : Effect::None;
-}
-
-void LiveReload::draw_new_pictures()
-{
-    std::set<fs::path> files;
-    add_files(pictures_, files);
-    for (const fs::path& file : files) {
-        const fs::path bitmap = bitmaps_ / (file.stem().string() + ".bmp");
-        if (file.extension() == ".svg" && is_older(bitmap, file)) {
-            (void)take_picture(file);
-        }
-    }
+    return in_order(file, [&] { pictures_.take(file); }) ? Effect::Redraw : Effect::None;
 }
 
 } // namespace sim

@@ -8,6 +8,7 @@
 
 #include "simulator/core/camera.h"
 #include "simulator/core/problems.h"
+#include "simulator/host/pictures.h"
 
 namespace sim {
 
@@ -17,9 +18,8 @@ namespace sim {
 class LiveReload {
 public:
     /// Looks at the camera's resources as they are now: each page that is in order is the one the menu reads from now on,
-    /// each other one a problem, and a picture that is newer than its bitmap is drawn. bitmaps: the folder from which the
-    /// menu loads its pictures.
-    LiveReload(Camera& camera, const std::filesystem::path& bitmaps);
+    /// each other one a problem, and the pictures are those of the resources.
+    LiveReload(Camera& camera, Pictures& pictures);
 
     /// The folders whose changes belong here, for a FolderWatch.
     std::vector<std::filesystem::path> folders() const;
@@ -46,7 +46,6 @@ private:
     void refuse_lost_texts(const Path& file) const;
     /// Pages depend on the texts, so a new text can mend or break one.
     void check_pages();
-    void draw_new_pictures();
 
     template <typename Body>
     bool in_order(const Path& file, Body body);
@@ -54,11 +53,10 @@ private:
     std::string name_of_file(const Path& file) const;
 
     Camera& camera_;
+    Pictures& pictures_;
     Path root_;
     Path pages_;
     Path languages_;
-    Path pictures_;
-    Path bitmaps_;
     Problems problems_;
 };
 

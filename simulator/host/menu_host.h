@@ -7,7 +7,7 @@
 #include <string>
 
 #include "simulator/core/camera.h"
-#include "simulator/host/graphics_faults.h"
+#include "simulator/host/graphics_calls.h"
 #include "simulator/host/overlays.h"
 
 namespace sim {

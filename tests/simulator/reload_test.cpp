@@ -1,4 +1,5 @@
 // Changed files of the resources: noticed, checked, and shown or refused.
+#include <SDL_image.h>
 #include <condition_variable>
 #include <functional>
 #include <gmock/gmock.h>
@@ -71,7 +72,6 @@ struct Reload : testing::Test {
         fs::copy(OSD_RESOURCE_DIR "/menu", folder.path("pages"));
         fs::copy(OSD_RESOURCE_DIR "/lang", folder.path("lang"));
         fs::copy(OSD_RESOURCE_DIR "/settings.json", folder.path("settings.json"));
-        fs::create_directories(folder.path("bitmaps"));
         folder.write("pages/broken_page.xml", "<Page"); // from the start
         return {folder.path(), folder.path("data"), false, false, true, "English", {}};
     }
@@ -97,7 +97,8 @@ struct Reload : testing::Test {
     TempFolder folder;
     Camera camera{config()};
     MenuHost host{camera, {2, 0, false, "", ""}};
-    LiveReload live{camera, folder.path("bitmaps")};
+    Pictures pictures{folder.path()};
+    LiveReload live{camera, pictures};
 };
 
 TEST_F(Reload, KeepsTheLastGoodPageAndNamesTheMistake)
@@ -204,22 +205,33 @@ TEST_F(Reload, TakesTextsAndDefinitionsOver)
               camera.settings().by_name("ImageParam.Brightness").default_text);
 }
 
-TEST_F(Reload, DrawsPicturesAndKeepsTheOldOne)
+/// The color of a picture that the menu loads; 0 when there is none.
+static Color color_of(const std::string& name)
+{
+    SDL_Surface* picture = IMG_Load((OSD_RESOURCE_DIR "/pic/" + name + ".bmp").c_str());
+    const Color color = picture == nullptr ? 0 : *static_cast<const Color*>(picture->pixels);
+    SDL_FreeSurface(picture);
+    return color;
+}
+
+TEST_F(Reload, DrawsPicturesForThisCameraAloneAndKeepsTheOldOne)
 {
     const auto svg = [](const char* color) {
         return std::string("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"4\" height=\"3\"><rect width=\"4\" "
                            "height=\"3\" fill=\"") +
                color + "\"/></svg>";
     };
-    EXPECT_EQ(change("pic/dot.svg", svg("#ff0000")), "");
-    const std::string red = folder.read("bitmaps/dot.bmp");
-    EXPECT_THAT(change("pic/dot.svg", "<svg"), HasSubstr("pic/dot.svg:0: "));
-    EXPECT_EQ(folder.read("bitmaps/dot.bmp"), red);
-    EXPECT_EQ(change("pic/dot.svg", svg("#00ff00")), "");
-    EXPECT_EQ(folder.read("bitmaps/dot.bmp").size(), red.size());
-    EXPECT_NE(folder.read("bitmaps/dot.bmp"), red);
-    EXPECT_EQ(red.substr(0, 2), "BM");
+    const Color staged = color_of("bar");
+    EXPECT_EQ(change("pic/bar.svg", svg("#ff0000")), "");
+    EXPECT_EQ(color_of("bar"), 0xFFFF0000U);
+    EXPECT_THAT(change("pic/bar.svg", "<svg"), HasSubstr("pic/bar.svg:0: "));
+    EXPECT_EQ(color_of("bar"), 0xFFFF0000U);
+    EXPECT_EQ(change("pic/bar.svg", svg("#00ff00")), "");
+    EXPECT_EQ(color_of("bar"), 0xFF00FF00U);
     folder.write("pic/late.svg", svg("#0000ff")); // while no camera looked
-    const LiveReload next_start(camera, folder.path("bitmaps"));
-    EXPECT_TRUE(fs::exists(folder.path("bitmaps/late.bmp")));
+    const LiveReload next_start(camera, pictures);
+    EXPECT_EQ(color_of("late"), 0xFF0000FFU);
+    fs::remove(folder.path("pic/bar.svg"));
+    live.reload({folder.path("pic/bar.svg")});
+    EXPECT_EQ(color_of("bar"), staged);
 }

@@ -1,0 +1,92 @@
+#include "simulator/host/pictures.h"
+
+#include <algorithm>
+#include <chrono>
+#include <stdexcept>
+#include <string>
+#include <system_error>
+
+#include "simulator/core/bitmap_file.h"
+#include "simulator/core/child_program.h"
+#include "simulator/core/resources.h"
+#include "simulator/core/text_file.h"
+
+namespace sim {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::chrono::seconds drawing_limit{5};
+
+bool is_older(const fs::path& file, const fs::path& other)
+{
+    std::error_code error;
+    const auto time = fs::last_write_time(file, error);
+    return error || time < fs::last_write_time(other, error);
+}
+
+bool are_equal(const fs::path& file, const fs::path& other)
+{
+    std::error_code ignored; // what can't be read is no copy of anything
+    return fs::is_regular_file(other, ignored) && read_text_file(file) == read_text_file(other);
+}
+
+bool is_staged(const fs::path& file)
+{
+    const fs::path bitmap = staged_pictures() / file.stem().concat(".bmp");
+    if (file.extension() == ".bmp") {
+        return are_equal(file, bitmap);
+    }
+    const fs::path source = default_resources() / "pic" / file.filename();
+    return are_equal(file, source) && !is_older(bitmap, source);
+}
+
+void draw_picture(const fs::path& svg, const fs::path& bitmap)
+{
+    const TemporaryFolder folder;
+    const fs::path png = folder.path() / "picture.png";
+    const std::string problem = run_program({"rsvg-convert", "--output", png.string(), svg.string()}, drawing_limit);
+    if (!problem.empty()) {
+        throw std::runtime_error(problem);
+    }
+    convert_to_bitmap(png, bitmap);
+}
+
+} // namespace
+
+Pictures::Pictures(const fs::path& resources) : folder_(plain_path(resources) / "pic") {}
+
+bool Pictures::has_name_of_one(const fs::path& file) const
+{
+    return file.parent_path() == folder_ && (file.extension() == ".svg" || file.extension() == ".bmp");
+}
+
+std::vector<fs::path> Pictures::outdated() const
+{
+    std::vector<fs::path> files;
+    std::error_code error; // a folder that isn't there has none
+    for (const auto& entry : fs::directory_iterator(folder_, error)) {
+        if (has_name_of_one(entry.path()) && !is_staged(entry.path())) {
+            files.push_back(entry.path());
+        }
+    }
+    std::sort(files.begin(), files.end());
+    return files;
+}
+
+void Pictures::take(const fs::path& file)
+{
+    if (!own_) {
+        own_.emplace();
+    }
+    const fs::path bitmap = own_->folder.path() / file.stem().concat(".bmp");
+    if (!fs::exists(fs::symlink_status(file))) {
+        fs::remove(bitmap);
+    } else if (file.extension() == ".svg") {
+        draw_picture(file, bitmap);
+    } else {
+        convert_to_bitmap(file, bitmap);
+    }
+}
+
+} // namespace sim
