@@ -3,7 +3,8 @@
 
 Every text that a page or a setting asks for must be there in all languages, and every item that shows a value must
 have a setting or a device fact behind it. Every page must have a file, be reached by keys, and never be the sixth that
-is open, and it must keep the rules of its layout. Errors go to standard error, each with its file and line or key.
+is open, and it must keep the rules of its layout. It must not be higher than the menu, and no item may stand twice among those that
+show together. Errors go to standard error, each with its file and line or key.
 """
 import argparse
 import json
@@ -24,10 +25,15 @@ WORDS_OF_THE_MENU = ("StaticIp", "DhcpIp", "AutoMode", "Confirm", "Finish", "Loa
 
 # Room for texts on the smallest menu, half of a picture of 1920 by 1080, and the sizes of the texts, all in pixels.
 MENU_WIDTH = 960
+MENU_HEIGHT = 1080
 CAPTION_SIZE = {"English": 28}
 CAPTION_SIZE_OF_OTHERS = 32
 POPUPS = {"horizontal_align": (230, 32), "horizontal_align_keth": (630, 28)} # width inside the frame, size
 PAGED = "vertical_align_keth"
+LINE_HEIGHT = 1.448 # of a text, as part of its size
+LISTS = {"vertical_align": (32, 0.01, 0.02, 0.95), # size of a label; then parts of the height: gap above the first row,
+         "vertical_tolvane_align": (32.4, 0.01, 0.02, 0.88), # gap between rows, foot
+         PAGED: (28, 0.14, 0.01, 0.88)} # the title is above the first row
 LAYOUTS = ("icon", "vertical_align", "vertical_tolvane_align", PAGED, *POPUPS)
 PAGED_ATTRIBUTES = ("CurPagesNum", "NextPage", "PrevPage", "Line")
 ICON_ATTRIBUTES = ("Pic", "SelectPic")
@@ -93,18 +99,27 @@ def width_of(letter):
                 CAPITAL_WIDTH if letter.isupper() else OTHER_WIDTH)
 
 
+def rows_of(items):
+    """How many rows items take with those options chosen that have the most sub-items."""
+    return sum(1 + max((rows_of(option.children) for option in item.children), default=0) for item in items)
+
+
 class Checker:
     def __init__(self, folder):
         self.errors = []
         self.settings_file = folder / "settings.json"
-        definitions = self.read(read_json, self.settings_file) or {}
+        definitions = self.read(read_json, self.settings_file)
+        self.languages = {path: self.read(read_json, path) for path in sorted(folder.glob("lang/*.json"))}
+        self.can_compare = None not in (definitions, *self.languages.values())
+        definitions = definitions or {}
         self.facts = definitions.get("facts", {})
         self.zones = definitions.get("zones", {})
         self.settings = {(s.get("parent", ""), s.get("key")): s for s in definitions.get("settings", [])}
-        self.languages = {path: self.read(read_json, path) or {} for path in sorted(folder.glob("lang/*.json"))}
-        self.pages = {path: self.read(read_page, path) for path in sorted(folder.glob("pages/*" + PAGE_ENDING))}
+        written = (folder / "pages").is_dir() # else it is a staged folder
+        files = folder.glob(("pages/*" if written else "menu/*") + PAGE_ENDING)
+        self.pages = {path: self.read(read_page, path) for path in sorted(files)}
         self.by_name = {path.name.removesuffix(PAGE_ENDING): page for path, page in self.pages.items() if page}
-        self.pictures = {path.stem for path in folder.glob("pic/*.svg")}
+        self.pictures = {path.stem for path in folder.glob("pic/*.svg" if written else "pic/*.bmp")}
 
     def error(self, place, text):
         self.errors.append(f"{place}: {text}")
@@ -121,13 +136,18 @@ class Checker:
     def check(self):
         if not self.pages or not self.languages:
             self.error(self.settings_file.parent, "expected page files in pages/ and languages in lang/")
+        if not self.can_compare:
+            return # what else could be said follows from the file that can't be read
         self.check_languages()
-        for word in WORDS_OF_THE_MENU:
-            self.need_text("the menu itself", word)
+        for path in self.languages:
+            for word in WORDS_OF_THE_MENU:
+                self.need_text(f"{path}: for the menu itself", word)
         self.need_text(f"{self.settings_file}: fact 'NdiStatus'", self.facts.get("NdiStatus", ""))
         for name, page in self.by_name.items():
             self.check_texts(page)
             self.check_layout(name, page)
+            self.check_twins(page.children, {})
+            self.check_height(page)
             for element in page.descendants():
                 self.check_texts(element)
                 self.check_value(element)
@@ -144,6 +164,12 @@ class Checker:
                 elif len(text.encode()) > MAX_TEXT_BYTES:
                     self.error(path, f"key '{key}': '{text}' has {len(text.encode())} bytes, "
                                      f"at most {MAX_TEXT_BYTES} fit")
+
+    def check_glyphs(self, fonts):
+        from fonts.check_glyphs import missing_glyphs # pylint: disable=import-outside-toplevel # needs fontTools
+        for path, texts in self.languages.items():
+            strings = {key: text for key, text in (texts or {}).items() if isinstance(text, str)}
+            self.errors += [f"{path}: {words}" for words in missing_glyphs(fonts, strings)]
 
     def need_text(self, place, key):
         for path, texts in self.languages.items():
@@ -188,9 +214,32 @@ class Checker:
                     else:
                         higher.setdefault(target, stack + [target])
             stacks = higher
+        if len(pages) < len(self.pages):
+            return # the others may be reached from one that can't be read
         for name in sorted(pages.keys() - reached):
             self.error(pages[name].place, f"page '{name}' is reached from nowhere, expected an item of a page that "
                                           f"{' or '.join(ROOT_PAGES)} leads to")
+
+    def check_twins(self, items, above):
+        """Options of an item exclude each other, all else shows together."""
+        known = dict(above)
+        for item in items:
+            key = item["ItemIndex"]
+            if key in known:
+                self.error(item.place, f"item '{key}' stands on line {known[key]} already, and both show")
+            known[key] = item.place.rpartition(":")[2]
+        for item in items:
+            for option in item.children:
+                self.check_twins(option.children, known)
+
+    def check_height(self, page):
+        if page["Layout"] not in LISTS:
+            return
+        size, above, gap, foot = LISTS[page["Layout"]]
+        rows = rows_of(page.children) + ("Title" in page.attributes and page["Layout"] != PAGED)
+        fit = int(((foot - above + gap) * MENU_HEIGHT) / (size * LINE_HEIGHT + gap * MENU_HEIGHT))
+        if rows > fit:
+            self.error(page.place, f"{rows} rows show at most, about {fit} fit in layout '{page['Layout']}'")
 
     def check_layout(self, name, page):
         layout = page["Layout"]
@@ -311,8 +360,12 @@ class Checker:
 def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("folder", type=Path, help="folder with pages/, lang/ and settings.json")
-    checker = Checker(parser.parse_args().folder)
+    parser.add_argument("--fonts", nargs="+", type=Path, default=[], help="fonts that need a glyph for every character")
+    args = parser.parse_args()
+    checker = Checker(args.folder)
     checker.check()
+    if args.fonts:
+        checker.check_glyphs(args.fonts)
     for error in dict.fromkeys(checker.errors):
         print(error, file=sys.stderr)
     return 1 if checker.errors else 0

@@ -117,6 +117,12 @@ FAULTS = {
     "a page turns in a layout that doesn't": (
         edit_page("vertical_align_keth", "vertical_align"),
         ["image_page.xml:1: NextPage does nothing in layout 'vertical_align'"]),
+    "an item stands twice where both show": (
+        edit_page('ItemIndex="Gain"', 'ItemIndex="Mode"'),
+        ["image_page.xml:5: item 'Mode' stands on line 2 already, and both show"]),
+    "a page is too high": (
+        edit_page("    </Option>\n", '      <Item ItemIndex="On"/>\n' * 14 + "    </Option>\n"),
+        ["image_page.xml:1: 18 rows show at most, about 15 fit in layout 'vertical_align_keth'"]),
     "the cursor begins where it isn't seen": (
         edit_page("COMMON", "STATUS", "second"), ["second_page.xml:2: a STATUS item comes first"]),
     "a page is no XML": (edit_page("</Page>", "</Pag>"), ["image_page.xml:10: mismatched tag"]),

@@ -8,6 +8,16 @@ from pathlib import Path
 from fontTools.ttLib import TTFont
 
 
+def missing_glyphs(fonts, texts):
+    """Tells for each character of texts, by their keys, which of the font files lacks it."""
+    for font in fonts:
+        with_glyph = TTFont(font, lazy=True).getBestCmap().keys()
+        for key, text in texts.items():
+            for character in sorted(set(text)):
+                if ord(character) not in with_glyph:
+                    yield f"key '{key}': {font.name} has no glyph for '{character}' (U+{ord(character):04X})"
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--fonts", nargs="+", type=Path, required=True)
@@ -15,15 +25,10 @@ def main():
     args = parser.parse_args()
 
     missing = False
-    for font in args.fonts:
-        with_glyph = TTFont(font, lazy=True).getBestCmap().keys()
-        for file in args.texts:
-            for key, text in json.loads(file.read_text(encoding="utf-8")).items():
-                for character in sorted(set(text)):
-                    if ord(character) not in with_glyph:
-                        missing = True
-                        print(f"{file}: key '{key}': {font.name} has no glyph for '{character}' "
-                              f"(U+{ord(character):04X})", file=sys.stderr)
+    for file in args.texts:
+        for words in missing_glyphs(args.fonts, json.loads(file.read_text(encoding="utf-8"))):
+            missing = True
+            print(f"{file}: {words}", file=sys.stderr)
     return 1 if missing else 0
 
 

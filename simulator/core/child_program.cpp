@@ -18,7 +18,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr std::size_t max_words = 500; // of a program that has much to say
+constexpr std::size_t max_words = 65536; // of a program that has much to say
 
 /// Both ends of a pipe; the one to write to can be closed before.
 struct Pipe {

@@ -29,7 +29,8 @@ bool is_page_file(const std::filesystem::path& path)
 std::filesystem::path page_folder(const std::filesystem::path& resources)
 {
     const std::filesystem::path written = resources / "pages";
-    return std::filesystem::is_directory(written) ? written : resources / "menu";
+    std::error_code ignored; // what can't be looked at isn't there
+    return std::filesystem::is_directory(written, ignored) ? written : resources / "menu";
 }
 
 std::filesystem::path page_file(const std::filesystem::path& folder, const std::string& name)

@@ -14,17 +14,21 @@ struct Problem {
     std::string reason;
 };
 
-/// At most one problem a file. The log tells when one comes, becomes another one, and goes.
+/// At most one file that is broken a file, and what was found in files that can be used all the same. The log tells when
+/// a problem comes, becomes another one, and goes.
 class Problems {
 public:
     void set(const Problem& problem);
     void clear(const std::string& file);
     bool has(const std::string& file) const { return by_file_.count(file) > 0; }
-    /// All of them, by file.
+    /// Puts these findings in the place of the earlier ones.
+    void set_findings(std::vector<Problem> findings);
+    /// All of them, those of broken files first. What was found in a broken file isn't among them: one line says it.
     std::vector<Problem> list() const;
 
 private:
     std::map<std::string, Problem> by_file_;
+    std::vector<Problem> findings_;
 };
 
 /// The problem in the words of an error that begins with the path of the file, perhaps with ":LINE".

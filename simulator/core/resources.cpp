@@ -2,6 +2,9 @@
 
 #include <system_error>
 
+#include "simulator/core/errors.h"
+#include "simulator/core/page_files.h"
+
 namespace sim {
 
 std::filesystem::path default_resources()
@@ -12,6 +15,22 @@ std::filesystem::path default_resources()
 }
 
 std::filesystem::path staged_pictures() { return std::filesystem::path(OSD_RESOURCE_DIR) / "pic"; }
+
+std::filesystem::path staged_fonts() { return std::filesystem::path(OSD_RESOURCE_DIR) / "ttf"; }
+
+std::filesystem::path resource_checker()
+{
+    return std::filesystem::path(OSD_RESOURCE_SOURCE_DIR) / "check_resources.py";
+}
+
+void check_resource_folder(const std::filesystem::path& folder)
+{
+    std::error_code ignored; // what can't be looked at can't be used
+    if (!std::filesystem::is_directory(page_folder(folder), ignored)) {
+        throw BadInput("resources " + folder.string() +
+                       ": expected a folder with pages/, lang/ and settings.json; pages/ is missing");
+    }
+}
 
 std::filesystem::path plain_path(const std::filesystem::path& folder)
 {

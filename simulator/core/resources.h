@@ -11,6 +11,15 @@ std::filesystem::path default_resources();
 /// The folder from which the menu loads its pictures.
 std::filesystem::path staged_pictures();
 
+/// The folder from which the menu loads its fonts.
+std::filesystem::path staged_fonts();
+
+/// The program with which the build checks resources; it has gone with the checkout.
+std::filesystem::path resource_checker();
+
+/// Throws BadInput for what is no folder of resources.
+void check_resource_folder(const std::filesystem::path& folder);
+
 /// The folder with its path from the root, with no "." and ".." in it and no slash at its end: two paths of one folder
 /// are equal then, links aside.
 std::filesystem::path plain_path(const std::filesystem::path& folder);

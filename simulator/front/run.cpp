@@ -4,6 +4,7 @@
 
 #include "simulator/core/errors.h"
 #include "simulator/core/guard.h"
+#include "simulator/core/resources.h"
 #include "simulator/core/settings_json.h"
 #include "simulator/front/contact_sheet.h"
 #include "simulator/front/scenario.h"
@@ -98,6 +99,7 @@ void run(const Options& options)
         play_scenario(*options.scenario, options.update_scenario);
         return;
     }
+    check_resource_folder(options.resources);
     Pictures pictures(options.resources);
     if (!options.web) {
         take_pictures(pictures);

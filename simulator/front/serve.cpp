@@ -11,6 +11,7 @@
 #include "simulator/core/folder_watch.h"
 #include "simulator/core/log.h"
 #include "simulator/core/output_capture.h"
+#include "simulator/core/resource_check.h"
 #include "simulator/front/stop_signals.h"
 #include "simulator/host/key_script.h"
 #include "simulator/host/live_reload.h"
@@ -131,8 +132,12 @@ void serve_camera(Camera& camera, Pictures& pictures, const MenuConfig& menu, co
     LiveReload reload(camera, pictures);
     const CameraParts parts{camera, session, reload, loop, hub};
     Api api(parts, OSD_WEB_DIR, options.token);
+    ResourceCheck check(camera.resources(), [&](const std::vector<Problem>& found) {
+        loop.post([&reload, found] { reload.set_findings(found); });
+    });
     const FolderWatch watch(reload.folders(), [&](const std::set<std::filesystem::path>& files) {
         loop.post([&reload, files] { reload.reload(files); });
+        check.check_again();
     });
     if (options.prompt && session.has_menu()) {
         session.menu().overlays().show_prompt(*options.prompt);

@@ -161,24 +161,12 @@ LiveReload::Effect LiveReload::take_page(const fs::path& file)
         problems_.set({name_of_file(file), mistake->line, mistake->reason});
         return Effect::None;
     }
-    check_other_languages(file, text);
+    problems_.clear(name_of_file(file));
     if (!camera_.keep_page(name, text)) {
         return Effect::None;
     }
     const std::vector<std::string> open = open_page_names();
     return std::count(open.begin(), open.end(), name) > 0 ? Effect::Reopen : Effect::None;
-}
-
-/// A page that the present language can show is shown, and what another one lacks is told all the same.
-void LiveReload::check_other_languages(const fs::path& file, const std::string& text)
-{
-    for (const auto& [option, language] : camera_.definitions().languages) {
-        if (const auto mistake = find_page_mistake(camera_, language, page_name(file), text)) {
-            problems_.set({name_of_file(file), mistake->line, mistake->reason});
-            return;
-        }
-    }
-    problems_.clear(name_of_file(file));
 }
 
 /// A page that was good must not lose rows to a translation.

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "simulator/core/camera.h"
@@ -28,7 +29,10 @@ public:
     /// screen follows at once, see reopen_pages(). A picture takes as long as drawing it does.
     void reload(const std::set<std::filesystem::path>& changed);
 
-    /// What is broken at present, by file.
+    /// Takes over what a check of the resources has found.
+    void set_findings(std::vector<Problem> findings) { problems_.set_findings(std::move(findings)); }
+
+    /// What is wrong at present.
     std::vector<Problem> problems() const { return problems_.list(); }
 
 private:
@@ -42,7 +46,6 @@ private:
     Effect take_language(const Path& file);
     Effect take_page(const Path& file);
     Effect take_picture(const Path& file);
-    void check_other_languages(const Path& file, const std::string& text);
     void refuse_lost_texts(const Path& file) const;
     /// Pages depend on the texts, so a new text can mend or break one.
     void check_pages();
