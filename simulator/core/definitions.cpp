@@ -122,12 +122,12 @@ void read_kind_fields(FieldReader& reader, Setting& setting)
     }
 }
 
-Setting read_setting(const json& object, const std::string& file)
+Setting read_setting(const json& object, const std::string& place)
 {
     Setting setting;
-    FieldReader first(object, file + ": a setting");
+    FieldReader first(object, place + ": a setting");
     setting.id.key = first.text("key", 1, max_text_bytes);
-    FieldReader reader(object, file + ": setting '" + setting.id.key + "'");
+    FieldReader reader(object, place + ": setting '" + setting.id.key + "'");
     (void)reader.field("key");
     if (reader.has("parent")) {
         setting.id.parent = reader.text("parent", 0, max_text_bytes);
@@ -144,23 +144,24 @@ Setting read_setting(const json& object, const std::string& file)
     return setting;
 }
 
-void read_settings(const json& list, const std::string& file, Definitions& definitions)
+void read_settings(const json& list, const JsonPlaces& places, Definitions& definitions)
 {
     if (!list.is_array()) {
-        throw BadInput(file + ": 'settings' must be a list, [ ... ]");
+        throw BadInput(places.of("/settings") + ": 'settings' must be a list, [ ... ]");
     }
-    for (const json& object : list) {
-        Setting setting = read_setting(object, file);
+    for (std::size_t i = 0; i < list.size(); ++i) {
+        const std::string place = places.of("/settings/" + std::to_string(i));
+        Setting setting = read_setting(list[i], place);
         const SettingId id = setting.id;
         if (!definitions.settings.emplace(id, std::move(setting)).second) {
-            throw BadInput(file + ": setting " + to_string(id) + " is defined twice");
+            throw BadInput(place + ": setting " + to_string(id) + " is defined twice");
         }
     }
 }
 
-std::map<std::string, std::string> read_facts(const json& object, const std::string& file)
+std::map<std::string, std::string> read_facts(const json& object, const std::string& place)
 {
-    FieldReader reader(object, file + ": 'facts'");
+    FieldReader reader(object, place + ": 'facts'");
     std::map<std::string, std::string> facts;
     for (const char* name : fact_names) {
         facts[name] = reader.text(name, 0, max_text_bytes);
@@ -218,13 +219,14 @@ std::string option_of_language(const Definitions& definitions, const std::string
 Definitions load_definitions(const std::filesystem::path& path)
 {
     const std::string file = path.string();
-    const json root = load_json_object(path);
+    JsonPlaces places(file);
+    const json root = load_json_object(path, &places);
     FieldReader reader(root, file);
     Definitions definitions;
-    definitions.languages = read_text_map(reader.field("languages"), file + ": 'languages'");
-    definitions.facts = read_facts(reader.field("facts"), file);
-    definitions.zones = read_text_map(reader.field("zones"), file + ": 'zones'");
-    read_settings(reader.field("settings"), file, definitions);
+    definitions.languages = read_text_map(reader.field("languages"), places.of("/languages") + ": 'languages'");
+    definitions.facts = read_facts(reader.field("facts"), places.of("/facts"));
+    definitions.zones = read_text_map(reader.field("zones"), places.of("/zones") + ": 'zones'");
+    read_settings(reader.field("settings"), places, definitions);
     reader.refuse_other_fields();
     check_languages(definitions, file);
     check_zones(definitions, file);

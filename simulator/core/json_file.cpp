@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <cstring>
 #include <functional>
+#include <istream>
+#include <set>
+#include <sstream>
 #include <utility>
 #include <vector>
 
@@ -14,26 +17,76 @@ namespace {
 
 using nlohmann::json;
 
-/// Notices fields that stand twice in one object; the parser itself would keep the last one and say nothing.
-class DuplicateFinder {
+/// Follows the parser: learns where parts stand, and notices fields that stand twice in one object; the parser itself
+/// would keep the last one and say nothing.
+class Follower {
 public:
-    explicit DuplicateFinder(std::string file) : file_(std::move(file)) {}
+    Follower(const std::string& text, std::istream& stream, JsonPlaces& places)
+        : text_(text), stream_(stream), places_(places)
+    {
+    }
 
     bool operator()(int /*depth*/, json::parse_event_t event, json& parsed)
     {
-        if (event == json::parse_event_t::object_start) {
-            open_.emplace_back();
-        } else if (event == json::parse_event_t::object_end) {
+        using Event = json::parse_event_t;
+        if (event == Event::key) {
+            take_key(parsed.get<std::string>());
+        } else if (event == Event::object_end || event == Event::array_end) {
             open_.pop_back();
-        } else if (event == json::parse_event_t::key && !open_.back().insert(parsed.get<std::string>()).second) {
-            throw BadInput(file_ + ": '" + parsed.get<std::string>() + "' stands twice in one object");
+        } else {
+            begin_element();
+            if (event != Event::value) {
+                open_.push_back({event == Event::array_start, open_.empty() ? "" : open_.back().part, {}, {}, 0});
+            }
         }
         return true;
     }
 
 private:
-    std::string file_;
-    std::vector<std::set<std::string>> open_;
+    /// An object or a list that is read at present.
+    struct Level {
+        bool is_list;
+        std::string name;
+        std::string part; ///< the name of what is read in it
+        std::set<std::string> keys;
+        std::size_t count;
+    };
+
+    void take_key(const std::string& key)
+    {
+        Level& level = open_.back();
+        level.part = level.name + "/" + key;
+        places_.add(level.part, line());
+        if (!level.keys.insert(key).second) {
+            throw BadInput(places_.of(level.part) + ": '" + key + "' stands twice in one object");
+        }
+    }
+
+    void begin_element()
+    {
+        if (!open_.empty() && open_.back().is_list) {
+            Level& level = open_.back();
+            level.part = level.name + "/" + std::to_string(level.count++);
+            places_.add(level.part, line());
+        }
+    }
+
+    /// The line up to which the parser has read: that of what it tells of.
+    int line()
+    {
+        const auto read = static_cast<std::size_t>(stream_.rdbuf()->pubseekoff(0, std::ios::cur, std::ios::in));
+        for (; counted_ < std::min(read, text_.size()); ++counted_) {
+            line_ += text_[counted_] == '\n' ? 1 : 0;
+        }
+        return line_;
+    }
+
+    const std::string& text_;
+    std::istream& stream_; ///< of the text
+    JsonPlaces& places_;
+    std::vector<Level> open_;
+    std::size_t counted_ = 0;
+    int line_ = 1;
 };
 
 /// What stands behind a mark in the parser's message; all of it when the mark is missing.
@@ -53,18 +106,22 @@ std::string line_of(const json::parse_error& error, const std::string& text)
 
 } // namespace
 
-json load_json_object(const std::filesystem::path& path)
+std::string JsonPlaces::of(const std::string& part) const
 {
-    return parse_json_object(read_text_file(path), path.string());
+    const auto found = lines_.find(part);
+    return found == lines_.end() ? file_ : file_ + ":" + std::to_string(found->second);
 }
 
-json parse_json_object(const std::string& text, const std::string& place)
+json load_json_object(const std::filesystem::path& path, JsonPlaces* places)
 {
+    const std::string place = path.string();
+    const std::string text = read_text_file(path);
+    JsonPlaces own(place);
     json root;
     try {
-        // The finder is handed over by reference: the parser copies its callback.
-        DuplicateFinder finder(place);
-        root = json::parse(text, std::ref(finder));
+        std::istringstream stream(text);
+        Follower follower(text, stream, places == nullptr ? own : *places);
+        root = json::parse(stream, std::ref(follower)); // by reference: the parser copies its callback
     } catch (const json::parse_error& error) {
         throw BadInput(place + line_of(error, text) + ": " + words_behind(": ", error));
     } catch (const json::exception& error) { // well formed, but no value of this machine: 1e999

@@ -3,17 +3,32 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <map>
 #include <nlohmann/json.hpp>
 #include <set>
 #include <string>
+#include <utility>
 
 namespace sim {
 
+/// Where the parts of a file stand.
+class JsonPlaces {
+public:
+    explicit JsonPlaces(std::string file) : file_(std::move(file)) {}
+
+    /// A part is named by the keys and indices on the way to it, each behind a slash: "/settings/12/key".
+    void add(const std::string& part, int line) { lines_[part] = line; }
+    /// "FILE:LINE"; "FILE" for a part that isn't there.
+    std::string of(const std::string& part) const;
+
+private:
+    std::string file_;
+    std::map<std::string, int> lines_;
+};
+
 /// Reads a file whose top level is an object. Throws BadInput with the file and the reason, and the line of a syntax
-/// error; a field given twice is an error too.
-nlohmann::json load_json_object(const std::filesystem::path& path);
-/// The same from a text; its errors begin with the place.
-nlohmann::json parse_json_object(const std::string& text, const std::string& place);
+/// error; a field given twice is an error too. The places, if wanted, learn where each part stands.
+nlohmann::json load_json_object(const std::filesystem::path& path, JsonPlaces* places = nullptr);
 
 /// Reads the fields of one object. Each complaint is a BadInput that begins with the place, such as
 /// "settings.json: setting 'Zoom'".

@@ -10,10 +10,11 @@ constexpr std::size_t max_bytes = OSD_TEXT_LEN - 1;
 
 std::map<std::string, std::string> load_language(const std::filesystem::path& path)
 {
-    const nlohmann::json root = load_json_object(path);
-    FieldReader reader(root, path.string());
+    JsonPlaces places(path.string());
+    const nlohmann::json root = load_json_object(path, &places);
     std::map<std::string, std::string> texts;
     for (const auto& [key, value] : root.items()) {
+        FieldReader reader(root, places.of("/" + key));
         if (key.size() > max_bytes) {
             reader.complain("key '" + key + "' has " + std::to_string(key.size()) + " bytes, at most 31 fit the menu");
         }

@@ -34,6 +34,9 @@ struct ItemList {
 
 PageMistake syntax_mistake(const tinyxml2::XMLDocument& document)
 {
+    if (document.ErrorID() == tinyxml2::XML_ERROR_MISMATCHED_ELEMENT) { // the parser tells where it begins
+        return {document.ErrorLineNum(), "no well formed XML: what begins here isn't closed by an end tag of its name"};
+    }
     constexpr std::string_view prefix = "XML_ERROR_";
     std::string words = document.ErrorName();
     words.erase(0, words.compare(0, prefix.size(), prefix) == 0 ? prefix.size() : 0);

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cstdlib>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <system_error>
 
 #include "simulator/core/bitmap_file.h"
@@ -41,13 +43,28 @@ bool is_staged(const fs::path& file)
     return are_equal(file, source) && !is_older(bitmap, source);
 }
 
+/// The words of the program that draws, with the place before them as in all problems.
+std::string problem_with(const fs::path& svg, const std::string& words)
+{
+    constexpr std::string_view mark = " on line ";
+    const std::string& path = svg.string();
+    const std::size_t number = words.find(mark);
+    const std::string line = number == words.npos ? "" : ":" + std::to_string(std::atoi(&words[number + mark.size()]));
+    std::string reason = words.substr(0, words.find('\n'));
+    if (const std::size_t place = reason.find(path); place != reason.npos) {
+        const std::size_t behind = place + path.size();
+        reason.compare(behind, 2, ": ") == 0 ? reason.erase(0, behind + 2) : reason.replace(place, path.size(), "here");
+    }
+    return path + line + ": " + reason;
+}
+
 void draw_picture(const fs::path& svg, const fs::path& bitmap)
 {
     const TemporaryFolder folder;
     const fs::path png = folder.path() / "picture.png";
     const std::string problem = run_program({"rsvg-convert", "--output", png.string(), svg.string()}, drawing_limit);
     if (!problem.empty()) {
-        throw std::runtime_error(problem);
+        throw std::runtime_error(problem_with(svg, problem));
     }
     convert_to_bitmap(png, bitmap);
 }

@@ -33,7 +33,7 @@ TEST(Definitions, AreRefusedInWords)
         {"settings.json", setting(R"("kind": "option", "options": [)" + long_list + "]"), "at most 271 bytes"},
         {"settings.json", setting(R"("kind": "color", "default": "-12345")"), "six hexadecimal digits"},
         {"settings.json", setting(R"("kind": "color", "default": "000000", "step": 0)"), "a 'step' of 1 or more"},
-        {"Deutsch.json", R"({"Title": "Bildeinstellungen: Helligkeit 12"})", "Deutsch.json: 'Title' has 32 bytes"},
+        {"Deutsch.json", "{\n\"Title\": \"Bildeinstellungen: Helligkeit 12\"}", "Deutsch.json:2: 'Title' has 32 bytes"},
         {"Deutsch.json/x", "", "Deutsch.json: is a folder, expected a file"},
     };
     for (const auto& [file, text, words] : cases) {

@@ -113,7 +113,7 @@ TEST_F(Reload, KeepsTheLastGoodPageAndNamesTheMistake)
         return "<Page Layout=\"vertical_align\">\n\n<Item " + attributes;
     };
     const std::tuple<std::string, const char*> broken[] = {
-        {"<Page>\n<Item>\n</Page>", "2: no well formed XML: mismatched element"},
+        {"<Page>\n<Item>\n</Page>", "2: no well formed XML: what begins here isn't closed"},
         {"", "0: no well formed XML: empty document"},
         {"<Page Layout=\"heap\"/>", "1: the menu refuses the page: its Layout"},
         {item("ItemIndex=\"Mirror\" Ctx=\"VAL\" Attr=\"COMMON\"/></Page>"),
@@ -224,14 +224,17 @@ TEST_F(Reload, DrawsPicturesForThisCameraAloneAndKeepsTheOldOne)
     const Color staged = color_of("bar");
     EXPECT_EQ(change("pic/bar.svg", svg("#ff0000")), "");
     EXPECT_EQ(color_of("bar"), 0xFFFF0000U);
-    EXPECT_THAT(change("pic/bar.svg", "<svg"), HasSubstr("pic/bar.svg:0: "));
+    EXPECT_THAT(change("pic/bar.svg", "<svg>\n<"), StartsWith("pic/bar.svg:2: XML parse error"));
     EXPECT_EQ(color_of("bar"), 0xFFFF0000U);
     EXPECT_EQ(change("pic/bar.svg", svg("#00ff00")), "");
     EXPECT_EQ(color_of("bar"), 0xFF00FF00U);
     folder.write("pic/late.svg", svg("#0000ff")); // while no camera looked
     const LiveReload next_start(camera, pictures);
     EXPECT_EQ(color_of("late"), 0xFF0000FFU);
-    fs::remove(folder.path("pic/bar.svg"));
-    live.reload({folder.path("pic/bar.svg")});
+    EXPECT_NE(change("pic/bar.svg", ""), "");
+    fs::remove(folder.path("pic/bar.svg")); // and its problem with it
+    EXPECT_EQ(change("pic/late.svg", svg("#ff0000")), "") << "before the camera knows";
+    live.reload({folder.path("pic")});
+    EXPECT_EQ(live.problems().size(), 1U);
     EXPECT_EQ(color_of("bar"), staged);
 }
