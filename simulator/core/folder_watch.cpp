@@ -26,13 +26,19 @@ constexpr auto quiet_time = 50ms;    // an editor or a checkout makes many chang
 constexpr auto longest_wait = 500ms; // but somebody who never stops writing isn't waited for
 
 constexpr std::uint32_t gone = IN_DELETE_SELF | IN_MOVE_SELF | IN_UNMOUNT;
-constexpr std::uint32_t wanted =
-    IN_CLOSE_WRITE | IN_MOVED_TO | IN_MOVED_FROM | IN_DELETE | IN_CREATE | IN_DELETE_SELF | IN_MOVE_SELF | IN_ONLYDIR;
+constexpr std::uint32_t wanted = IN_ATTRIB | IN_CLOSE_WRITE | IN_MOVED_TO | IN_MOVED_FROM | IN_DELETE | IN_CREATE |
+                                 IN_DELETE_SELF | IN_MOVE_SELF | IN_ONLYDIR;
+
+/// Only what may be read may be watched; the folder above tells when that changes.
+bool can_be_watched(const fs::path& path)
+{
+    std::error_code ignored; // what can't be looked at isn't there
+    return fs::is_directory(path, ignored) && ::access(path.c_str(), R_OK) == 0;
+}
 
 fs::path nearest_folder(fs::path path)
 {
-    std::error_code ignored; // what can't be looked at isn't there
-    while (!fs::is_directory(path, ignored) && path.has_relative_path()) {
+    while (!can_be_watched(path) && path.has_relative_path()) {
         path = path.parent_path();
     }
     return path;
@@ -135,6 +141,9 @@ void FolderWatch::take(int watch, std::uint32_t what, const fs::path& name)
         if (is_on_the_way(path)) {
             watch_all();
         }
+        if (name.empty() && seen_.count(place->second) > 0) {
+            note(place->second); // its files may be readable again
+        }
     } else if (seen_.count(place->second) > 0 && ((what & IN_CREATE) == 0 || has_its_content(path))) {
         note(path);
     }
@@ -169,7 +178,7 @@ void FolderWatch::watch_one(const fs::path& folder)
         const fs::path nearest = nearest_folder(folder);
         const int watch = ::inotify_add_watch(events_.number(), nearest.c_str(), wanted);
         const int error = errno;
-        if (watch < 0 && error != ENOENT && error != ENOTDIR) {
+        if (watch < 0 && error != ENOENT && error != ENOTDIR && error != EACCES) {
             throw std::runtime_error("folder " + nearest.string() +
                                      " can't be watched: " + std::generic_category().message(error));
         }

@@ -11,8 +11,8 @@
 
 namespace sim {
 
-/// Watches whole folders on a thread of its own: files that are written, made, renamed, replaced or deleted in them. A
-/// folder may be missing, go and come back. What is in folders below them doesn't count.
+/// Watches whole folders on a thread of its own: files that are written, made, renamed, replaced or deleted in them, or
+/// get other permissions. A folder may be missing, go and come back. What is in folders below them doesn't count.
 class FolderWatch {
 public:
     /// What changed: paths of files, "folder / name"; the path of a folder itself where anything in it may have changed.

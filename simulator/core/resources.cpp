@@ -23,6 +23,12 @@ std::filesystem::path resource_checker()
     return std::filesystem::path(OSD_RESOURCE_SOURCE_DIR) / "check_resources.py";
 }
 
+std::vector<std::filesystem::path> resource_folders(const std::filesystem::path& resources)
+{
+    const std::filesystem::path root = plain_path(resources);
+    return {root, page_folder(root), root / "lang", root / "pic"};
+}
+
 void check_resource_folder(const std::filesystem::path& folder)
 {
     std::error_code ignored; // what can't be looked at can't be used

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <vector>
 
 namespace sim {
 
@@ -16,6 +17,9 @@ std::filesystem::path staged_fonts();
 
 /// The program with which the build checks resources; it has gone with the checkout.
 std::filesystem::path resource_checker();
+
+/// The folders with files of the resources, beginning with their own.
+std::vector<std::filesystem::path> resource_folders(const std::filesystem::path& resources);
 
 /// Throws BadInput for what is no folder of resources.
 void check_resource_folder(const std::filesystem::path& folder);

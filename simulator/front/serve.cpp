@@ -12,6 +12,7 @@
 #include "simulator/core/log.h"
 #include "simulator/core/output_capture.h"
 #include "simulator/core/resource_check.h"
+#include "simulator/core/resources.h"
 #include "simulator/front/stop_signals.h"
 #include "simulator/host/key_script.h"
 #include "simulator/host/live_reload.h"
@@ -129,16 +130,18 @@ void serve_camera(Camera& camera, Pictures& pictures, const MenuConfig& menu, co
     EventHub hub;
     EventBridge bridge(camera, hub);
     MenuSession session(camera, menu);
-    LiveReload reload(camera, pictures);
-    const CameraParts parts{camera, session, reload, loop, hub};
-    Api api(parts, OSD_WEB_DIR, options.token);
+    // From before the first look at the resources, so that no change falls between; the loop runs when all stands.
+    std::optional<LiveReload> reload;
     ResourceCheck check(camera.resources(), [&](const std::vector<Problem>& found) {
-        loop.post([&reload, found] { reload.set_findings(found); });
+        loop.post([&reload, found] { reload->set_findings(found); });
     });
-    const FolderWatch watch(reload.folders(), [&](const std::set<std::filesystem::path>& files) {
-        loop.post([&reload, files] { reload.reload(files); });
+    const FolderWatch watch(resource_folders(camera.resources()), [&](const std::set<std::filesystem::path>& files) {
+        loop.post([&reload, files] { reload->reload(files); });
         check.check_again();
     });
+    reload.emplace(camera, pictures);
+    const CameraParts parts{camera, session, *reload, loop, hub};
+    Api api(parts, OSD_WEB_DIR, options.token);
     if (options.prompt && session.has_menu()) {
         session.menu().overlays().show_prompt(*options.prompt);
     }

@@ -34,8 +34,6 @@ LiveReload::LiveReload(Camera& camera, Pictures& pictures)
     }
 }
 
-std::vector<fs::path> LiveReload::folders() const { return {root_, pages_, languages_, pictures_.folder()}; }
-
 void LiveReload::reload(const std::set<fs::path>& changed)
 {
     Effect most = Effect::None;
@@ -52,7 +50,7 @@ void LiveReload::reload(const std::set<fs::path>& changed)
 std::set<fs::path> LiveReload::files_of(const std::set<fs::path>& changed) const
 {
     std::set<fs::path> files;
-    const std::vector<fs::path> known = folders();
+    const std::vector<fs::path> known = resource_folders(root_);
     for (const fs::path& path : changed) {
         if (std::count(known.begin(), known.end(), path) > 0) {
             add_files(path, files);

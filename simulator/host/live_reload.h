@@ -22,10 +22,7 @@ public:
     /// each other one a problem, and the pictures are those of the resources.
     LiveReload(Camera& camera, Pictures& pictures);
 
-    /// The folders whose changes belong here, for a FolderWatch.
-    std::vector<std::filesystem::path> folders() const;
-
-    /// Takes over what has changed: files in these folders, or a folder of them for all that is in it. What is on
+    /// Takes over what has changed: files in the resource_folders(), or a folder of them for all that is in it. What is on
     /// screen follows at once, see reopen_pages(). A picture takes as long as drawing it does.
     void reload(const std::set<std::filesystem::path>& changed);
 

@@ -37,6 +37,8 @@ TEST(FolderWatch, TellsWhatChanged)
     const std::tuple<const char*, std::function<void()>, fs::path> steps[] = {
         {"written in place", [&] { folder.write("pages/a.xml", "2"); }, pages / "a.xml"},
         {"replaced", [&] { fs::rename(folder.write("b.tmp", "3"), path("pages/a.xml")); }, pages / "a.xml"},
+        {"readable again", [&] { fs::permissions(path("pages/a.xml"), fs::perms::owner_all); }, pages / "a.xml"},
+        {"all readable again", [&] { fs::permissions(pages, fs::perms::owner_all); }, pages},
         {"made", [&] { folder.write("pages/new.xml", "4"); }, pages / "new.xml"},
         {"linked", [&] { fs::create_symlink("a.xml", path("pages/link.xml")); }, pages / "link.xml"},
         {"deleted", [&] { fs::remove(path("pages/new.xml")); }, pages / "new.xml"},
