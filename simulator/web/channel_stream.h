@@ -3,6 +3,7 @@
 
 #include <chrono>
 #include <condition_variable>
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <mutex>
@@ -62,6 +63,7 @@ private:
     bool wait_for_viewers();
     bool has_frame() const;
     void encode();
+    std::size_t encode_or_tell(std::size_t before);
 
     Camera& camera_;
     const int channel_;
