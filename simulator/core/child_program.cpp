@@ -11,6 +11,7 @@
 #include <stdexcept>
 #include <sys/wait.h>
 #include <system_error>
+#include <thread>
 #include <unistd.h>
 
 namespace sim {
@@ -46,21 +47,44 @@ struct Pipe {
     std::array<int, 2> ends{-1, -1};
 };
 
-/// Starts the program with its standard error in the pipe and nothing else; 0 or the number of the error.
-int start(const std::vector<std::string>& command, int errors, pid_t& child)
+/// What a program starts with: nothing to read, nowhere to write to but perhaps for its errors, none of the camera's
+/// files, and all signals, which a thread of the camera may have blocked.
+struct Surroundings {
+    explicit Surroundings(int errors)
+    {
+        posix_spawn_file_actions_init(&files);
+        posix_spawn_file_actions_addopen(&files, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+        posix_spawn_file_actions_addopen(&files, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
+        posix_spawn_file_actions_adddup2(&files, errors < 0 ? STDOUT_FILENO : errors, STDERR_FILENO);
+        posix_spawnattr_init(&attributes);
+        sigset_t none;
+        sigemptyset(&none);
+        posix_spawnattr_setsigmask(&attributes, &none);
+        posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK);
+    }
+    ~Surroundings()
+    {
+        posix_spawnattr_destroy(&attributes);
+        posix_spawn_file_actions_destroy(&files);
+    }
+    Surroundings(const Surroundings&) = delete;
+    Surroundings& operator=(const Surroundings&) = delete;
+
+    posix_spawn_file_actions_t files{};
+    posix_spawnattr_t attributes{};
+};
+
+/// Starts the program with its errors going to this file, or nowhere for -1. Why it can't be run; empty when it runs.
+std::string start(const std::vector<std::string>& command, int errors, pid_t& child)
 {
     std::vector<char*> arguments;
     std::transform(command.begin(), command.end(), std::back_inserter(arguments),
                    [](const std::string& word) { return const_cast<char*>(word.c_str()); });
     arguments.push_back(nullptr);
-    posix_spawn_file_actions_t files;
-    posix_spawn_file_actions_init(&files);
-    posix_spawn_file_actions_addopen(&files, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
-    posix_spawn_file_actions_addopen(&files, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
-    posix_spawn_file_actions_adddup2(&files, errors, STDERR_FILENO);
-    const int error = ::posix_spawnp(&child, arguments[0], &files, nullptr, arguments.data(), environ);
-    posix_spawn_file_actions_destroy(&files);
-    return error;
+    const Surroundings around(errors);
+    const int error =
+        ::posix_spawnp(&child, arguments[0], &around.files, &around.attributes, arguments.data(), environ);
+    return error == 0 ? "" : command[0] + " can't be run: " + std::generic_category().message(error);
 }
 
 /// Reads until the program has closed its standard error; false when that takes too long.
@@ -88,9 +112,8 @@ std::string run_program(const std::vector<std::string>& command, std::chrono::mi
 {
     Pipe errors;
     pid_t child = -1;
-    const int error = start(command, errors.ends[1], child);
-    if (error != 0) {
-        return command[0] + " can't be run: " + std::generic_category().message(error);
+    if (std::string problem = start(command, errors.ends[1], child); !problem.empty()) {
+        return problem;
     }
     errors.close_writing(); // what remains is the program's, so that its end can be seen
     std::string words;
@@ -108,6 +131,16 @@ std::string run_program(const std::vector<std::string>& command, std::chrono::mi
         return "";
     }
     return words.empty() ? command[0] + " failed" : words.substr(0, words.find_last_not_of(" \n") + 1);
+}
+
+std::string leave_program(const std::vector<std::string>& command)
+{
+    pid_t child = -1;
+    std::string problem = start(command, -1, child);
+    if (problem.empty()) {
+        std::thread([child] { ::waitpid(child, nullptr, 0); }).detach(); // no zombie is left behind
+    }
+    return problem;
 }
 
 } // namespace sim

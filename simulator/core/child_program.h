@@ -11,4 +11,7 @@ namespace sim {
 /// it wrote to standard error, or what became of it; empty when it succeeded. One that isn't done in time is killed.
 std::string run_program(const std::vector<std::string>& command, std::chrono::milliseconds limit);
 
+/// Starts a program that may outlive the camera and doesn't wait for it. Returns why it can't be run; empty when it runs.
+std::string leave_program(const std::vector<std::string>& command);
+
 } // namespace sim

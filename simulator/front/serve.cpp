@@ -1,12 +1,8 @@
 #include "simulator/front/serve.h"
 
-#include <csignal>
-#include <cstring>
-#include <fcntl.h>
-#include <spawn.h>
-#include <sys/wait.h>
-#include <unistd.h>
+#include <optional>
 
+#include "simulator/core/child_program.h"
 #include "simulator/core/errors.h"
 #include "simulator/core/folder_watch.h"
 #include "simulator/core/log.h"
@@ -60,49 +56,6 @@ private:
     json last_state_;
 };
 
-/// How a program starts that outlives the camera: it keeps none of its files open and gets the usual signals.
-struct Quietly {
-    Quietly()
-    {
-        posix_spawn_file_actions_init(&files);
-        for (const int file : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
-            posix_spawn_file_actions_addopen(&files, file, "/dev/null", O_RDWR, 0);
-        }
-        posix_spawnattr_init(&attributes);
-        sigset_t none;
-        sigemptyset(&none);
-        posix_spawnattr_setsigmask(&attributes, &none);
-        posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK);
-    }
-    ~Quietly()
-    {
-        posix_spawnattr_destroy(&attributes);
-        posix_spawn_file_actions_destroy(&files);
-    }
-    Quietly(const Quietly&) = delete;
-    Quietly& operator=(const Quietly&) = delete;
-
-    posix_spawn_file_actions_t files{};
-    posix_spawnattr_t attributes{};
-};
-
-/// Opens the address in the browser of whoever sits here.
-void open_browser(const std::string& address)
-{
-    char program[] = "xdg-open";
-    std::string argument = address;
-    char* const arguments[] = {program, argument.data(), nullptr};
-    pid_t child = 0;
-    const Quietly quietly;
-    const int problem = ::posix_spawnp(&child, program, &quietly.files, &quietly.attributes, arguments, environ);
-    if (problem != 0) {
-        log_line(LogLevel::Warning, "web",
-                 std::string("no browser can be opened: xdg-open: ") + std::strerror(problem));
-        return;
-    }
-    std::thread([child] { ::waitpid(child, nullptr, 0); }).detach(); // no zombie is left behind
-}
-
 std::string address_with_token(const ListenAddress& listen, const Options& options)
 {
     return address_of(listen) + (options.token ? "?token=" + *options.token : "");
@@ -151,7 +104,10 @@ void serve_camera(Camera& camera, Pictures& pictures, const MenuConfig& menu, co
     const auto server = start_server(api, options);
     output.print(address_with_token(server->listens_at(), options) + "\n");
     if (options.open) {
-        open_browser(address_with_token(server->listens_at(), options));
+        const std::string problem = leave_program({"xdg-open", address_with_token(server->listens_at(), options)});
+        if (!problem.empty()) {
+            log_line(LogLevel::Warning, "web", "no browser can be opened: " + problem);
+        }
     }
     loop.run([&] {
         const auto next = session.tick();

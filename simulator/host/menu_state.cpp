@@ -2,11 +2,10 @@
 
 #include <algorithm>
 #include <array>
-#include <cstddef>
 
 #include "osd_menu.h"
 #include "simulator/core/camera.h"
-#include "simulator/host/menu_exports.h"
+#include "simulator/host/page_stack.h"
 
 namespace sim {
 namespace {
@@ -61,36 +60,16 @@ std::string value_text(Camera& camera, const tagITEM_NODE_S& item)
     return in_range ? text_of_field(item.acValue[item.s32CurIdx]) : "";
 }
 
-/// The sub-items that show below an item: those of its option, which counts only when it is applied where it waits for
-/// that.
-list_head* shown_list(tagITEM_NODE_S& item)
+std::vector<ItemState> items_of(Camera& camera, tagPAGE_NODE_S& page)
 {
-    const bool waits = item.enAttr == MSG_WITH_SUBITEM;
-    if ((item.enAttr != SUBITEM && !waits) || item.enValType == NUMERICAL) {
-        return nullptr;
+    const bool icons = page.enLayout == PAGE_LAYOUT_ICON; // such a page knows its selected item by the place
+    std::vector<ItemState> states;
+    for (const tagITEM_NODE_S* item : visible_items(page)) {
+        const bool selected = icons ? page.s32SelIdx == static_cast<int>(states.size()) : item->bActive == 1;
+        states.push_back({text_of_field(item->acItemIndex), text_of_field(item->acItemName), value_text(camera, *item),
+                          selected, item->bEditing == 1});
     }
-    const int option = waits ? item.s32SavedIdx : item.s32CurIdx;
-    return option >= 0 && option < std::min<int>(item.s32ValCnt, OSD_OPTION_MAX) ? &item.astSubList[option] : nullptr;
-}
-
-void add_items(Camera& camera, list_head& list, std::vector<ItemState>& states)
-{
-    for (list_head* link = list.next; link != &list; link = link->next) {
-        tagITEM_NODE_S& item = *item_of(link);
-        states.push_back({text_of_field(item.acItemIndex), text_of_field(item.acItemName), value_text(camera, item),
-                          item.bActive == 1, item.bEditing == 1});
-        if (list_head* below = shown_list(item)) {
-            add_items(camera, *below, states);
-        }
-    }
-}
-
-/// An icon page knows its selected item by the place.
-void select_icon(const tagPAGE_NODE_S& page, std::vector<ItemState>& items)
-{
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        items[i].selected = static_cast<int>(i) == page.s32SelIdx;
-    }
+    return states;
 }
 
 PageState state_of(Camera& camera, tagPAGE_NODE_S& page)
@@ -101,10 +80,7 @@ PageState state_of(Camera& camera, tagPAGE_NODE_S& page)
     const auto layout = static_cast<std::size_t>(page.enLayout);
     state.layout = layout < layout_names.size() ? layout_names[layout] : "";
     state.message = page.bKeyMsg == 1 ? text_of_field(page.acKeyMsg) : text_of_field(page.acPageMsg);
-    add_items(camera, page.stItemList, state.items);
-    if (page.enLayout == PAGE_LAYOUT_ICON) {
-        select_icon(page, state.items);
-    }
+    state.items = items_of(camera, page);
     return state;
 }
 
