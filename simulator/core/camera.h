@@ -103,9 +103,10 @@ public:
     /// Reads the texts of a language again. False for a language that the camera doesn't speak; throws BadInput, with
     /// the old texts kept, for a file that can't be used.
     bool reload_language(const std::string& language);
-    bool has_text(const std::string& language, const std::string& key) const
+    /// The same for somebody who isn't the menu: nothing is reported.
+    const std::string* find_text(const std::string& language, const std::string& key) const
     {
-        return translations_.find(language, key) != nullptr;
+        return translations_.find(language, key);
     }
     /// Missing texts that were reported may be reported again.
     void forget_missing_texts() { missing_texts_.clear(); }

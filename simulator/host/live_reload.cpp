@@ -174,7 +174,7 @@ void LiveReload::refuse_lost_texts(const fs::path& file) const
     for (const auto& [name, page] : camera_.kept_pages()) {
         std::istringstream words(page);
         for (std::string word; std::getline(words, word, '"');) {
-            if (camera_.has_text(file.stem().string(), word) && !texts.contains(word)) {
+            if (camera_.find_text(file.stem().string(), word) != nullptr && !texts.contains(word)) {
                 throw BadInput(file.string() + ": the text '" + word + "' is missing, page '" + name + "' needs it");
             }
         }

@@ -38,7 +38,7 @@ std::string live_value(Camera& camera, const tagITEM_NODE_S& item)
         return "";
     }
     const std::string value = camera.settings().value(setting->id);
-    const std::string* text = camera.translate(camera.language(), value);
+    const std::string* text = camera.find_text(camera.language(), value);
     return text == nullptr ? value : *text;
 }
 
