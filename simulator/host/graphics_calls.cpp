@@ -6,8 +6,6 @@
 #include <SDL_ttf.h>
 #include <atomic>
 #include <dlfcn.h>
-#include <system_error>
-#include <utility>
 
 #include "simulator/core/resources.h"
 
@@ -15,7 +13,7 @@ namespace sim {
 namespace {
 
 std::atomic<const Faults*> graphics_faults{nullptr};
-std::atomic<const std::filesystem::path*> own_pictures{nullptr};
+std::atomic<const ReplacedPictures*> replaced_pictures{nullptr};
 
 bool is_on(Fault fault)
 {
@@ -23,15 +21,11 @@ bool is_on(Fault fault)
     return faults != nullptr && faults->is_on(fault);
 }
 
-std::filesystem::path picture_in_use(const std::filesystem::path& file)
+/// Null, as on every failure, for a content that is no picture.
+SDL_Surface* load_picture(const std::string& content)
 {
-    const std::filesystem::path* folder = own_pictures.load();
-    if (folder == nullptr || file.parent_path() != staged_pictures()) {
-        return file;
-    }
-    const std::filesystem::path own = *folder / file.filename();
-    std::error_code ignored; // what can't be looked at isn't there
-    return std::filesystem::exists(own, ignored) ? own : file;
+    SDL_RWops* stream = SDL_RWFromConstMem(content.data(), static_cast<int>(content.size()));
+    return stream == nullptr ? nullptr : IMG_Load_RW(stream, 1);
 }
 
 /// The function that stands behind the program's own one.
@@ -47,12 +41,15 @@ GraphicsFaults::GraphicsFaults(const Faults& faults) { graphics_faults = &faults
 
 GraphicsFaults::~GraphicsFaults() { graphics_faults = nullptr; }
 
-PictureRedirection::PictureRedirection(std::filesystem::path folder) : folder_(std::move(folder))
-{
-    own_pictures = &folder_;
-}
+ReplacedPictures::ReplacedPictures() { replaced_pictures = this; }
 
-PictureRedirection::~PictureRedirection() { own_pictures = nullptr; }
+ReplacedPictures::~ReplacedPictures() { replaced_pictures = nullptr; }
+
+const std::string* ReplacedPictures::find(const std::filesystem::path& file) const
+{
+    const auto found = contents_.find(file.filename().string());
+    return found == contents_.end() || file.parent_path() != staged_pictures() ? nullptr : &found->second;
+}
 
 } // namespace sim
 
@@ -73,7 +70,9 @@ SDL_Surface* IMG_Load(const char* file)
 {
     static auto* const next = sim::next_function<decltype(IMG_Load)>("IMG_Load");
     if (next != nullptr && !sim::is_on(sim::Fault::PicturesMissing)) {
-        return next(sim::picture_in_use(file).c_str());
+        const sim::ReplacedPictures* replaced = sim::replaced_pictures.load();
+        const std::string* content = replaced == nullptr ? nullptr : replaced->find(file);
+        return content == nullptr ? next(file) : sim::load_picture(*content);
     }
     SDL_SetError("%s is missing (fault pictures-missing)", file);
     return nullptr;

@@ -2,6 +2,9 @@
 #pragma once
 
 #include <filesystem>
+#include <map>
+#include <string>
+#include <utility>
 
 #include "simulator/core/faults.h"
 
@@ -17,17 +20,23 @@ public:
     GraphicsFaults& operator=(const GraphicsFaults&) = delete;
 };
 
-/// While one lives, whoever loads a staged picture gets the one of the same name in this folder, where there is one. One
-/// at a time.
-class PictureRedirection {
+/// While one lives, whoever loads a staged picture gets the one that was put in its place, if any. One at a time; the
+/// thread that loads pictures makes all calls.
+class ReplacedPictures {
 public:
-    explicit PictureRedirection(std::filesystem::path folder);
-    ~PictureRedirection();
-    PictureRedirection(const PictureRedirection&) = delete;
-    PictureRedirection& operator=(const PictureRedirection&) = delete;
+    ReplacedPictures();
+    ~ReplacedPictures();
+    ReplacedPictures(const ReplacedPictures&) = delete;
+    ReplacedPictures& operator=(const ReplacedPictures&) = delete;
+
+    /// name: of the staged file. content: of a picture file.
+    void replace(const std::string& name, std::string content) { contents_[name] = std::move(content); }
+    void restore(const std::string& name) { contents_.erase(name); }
+    /// Null for a path that isn't replaced.
+    const std::string* find(const std::filesystem::path& file) const;
 
 private:
-    std::filesystem::path folder_;
+    std::map<std::string, std::string> contents_;
 };
 
 } // namespace sim

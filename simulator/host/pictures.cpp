@@ -10,6 +10,8 @@
 
 #include "simulator/core/bitmap_file.h"
 #include "simulator/core/child_program.h"
+#include "simulator/core/data_folder.h"
+#include "simulator/core/errors.h"
 #include "simulator/core/resources.h"
 #include "simulator/core/text_file.h"
 
@@ -29,8 +31,11 @@ bool is_older(const fs::path& file, const fs::path& other)
 
 bool are_equal(const fs::path& file, const fs::path& other)
 {
-    std::error_code ignored; // what can't be read is no copy of anything
-    return fs::is_regular_file(other, ignored) && read_text_file(file) == read_text_file(other);
+    try {
+        return read_text_file(file) == read_text_file(other);
+    } catch (const BadInput&) { // what can't be read is no copy of anything
+        return false;
+    }
 }
 
 bool is_staged(const fs::path& file)
@@ -58,15 +63,22 @@ std::string problem_with(const fs::path& svg, const std::string& words)
     return path + line + ": " + reason;
 }
 
-void draw_picture(const fs::path& svg, const fs::path& bitmap)
+/// The picture as the bitmap file that the menu can load.
+std::string draw_picture(const fs::path& file)
 {
     const TemporaryFolder folder;
-    const fs::path png = folder.path() / "picture.png";
-    const std::string problem = run_program({"rsvg-convert", "--output", png.string(), svg.string()}, drawing_limit);
-    if (!problem.empty()) {
-        throw std::runtime_error(problem_with(svg, problem));
+    fs::path picture = file;
+    if (file.extension() == ".svg") {
+        picture = folder.path() / "picture.png";
+        const std::string words =
+            run_program({"rsvg-convert", "--output", picture.string(), file.string()}, drawing_limit);
+        if (!words.empty()) {
+            throw std::runtime_error(problem_with(file, words));
+        }
     }
-    convert_to_bitmap(png, bitmap);
+    const fs::path bitmap = folder.path() / "picture.bmp";
+    convert_to_bitmap(picture, bitmap);
+    return read_text_file(bitmap);
 }
 
 } // namespace
@@ -93,16 +105,11 @@ std::vector<fs::path> Pictures::outdated() const
 
 void Pictures::take(const fs::path& file)
 {
-    if (!own_) {
-        own_.emplace();
-    }
-    const fs::path bitmap = own_->folder.path() / file.stem().concat(".bmp");
-    if (!fs::exists(fs::symlink_status(file))) {
-        fs::remove(bitmap);
-    } else if (file.extension() == ".svg") {
-        draw_picture(file, bitmap);
+    const std::string name = file.stem().concat(".bmp").string();
+    if (fs::exists(fs::symlink_status(file))) {
+        replaced_.replace(name, draw_picture(file));
     } else {
-        convert_to_bitmap(file, bitmap);
+        replaced_.restore(name);
     }
 }
 

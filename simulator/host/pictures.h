@@ -2,17 +2,14 @@
 #pragma once
 
 #include <filesystem>
-#include <optional>
 #include <vector>
 
-#include "simulator/core/data_folder.h"
 #include "simulator/host/graphics_calls.h"
 
 namespace sim {
 
-/// Puts the pictures of one camera in the place of the staged ones. They lie in a temporary folder of its own, so that
-/// cameras with different resources, and the build tree, don't get each other's; the folder exists only when there is
-/// one that isn't staged. One at a time.
+/// Puts the pictures of one camera in the place of the staged ones. They lie in its memory, so that cameras with
+/// different resources, and the build tree, don't get each other's. One at a time.
 class Pictures {
 public:
     /// Takes nothing yet.
@@ -30,13 +27,8 @@ public:
     void take(const std::filesystem::path& file);
 
 private:
-    struct Own {
-        TemporaryFolder folder;
-        PictureRedirection redirection{folder.path()};
-    };
-
     std::filesystem::path folder_;
-    std::optional<Own> own_;
+    ReplacedPictures replaced_;
 };
 
 } // namespace sim
