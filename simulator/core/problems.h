@@ -14,8 +14,8 @@ struct Problem {
     std::string reason;
 };
 
-/// At most one file that is broken a file, and what was found in files that can be used all the same. The log tells when
-/// a problem comes, becomes another one, and goes.
+/// One problem for each file that is broken, and what was found in files that can be used all the same. The log tells
+/// when a problem comes, becomes another one, and goes.
 class Problems {
 public:
     void set(const Problem& problem);
