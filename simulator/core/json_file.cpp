@@ -114,8 +114,11 @@ std::string JsonPlaces::of(const std::string& part) const
 
 json load_json_object(const std::filesystem::path& path, JsonPlaces* places)
 {
-    const std::string place = path.string();
-    const std::string text = read_text_file(path);
+    return parse_json_object(read_text_file(path), path.string(), places);
+}
+
+json parse_json_object(const std::string& text, const std::string& place, JsonPlaces* places)
+{
     JsonPlaces own(place);
     json root;
     try {

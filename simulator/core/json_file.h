@@ -29,6 +29,8 @@ private:
 /// Reads a file whose top level is an object. Throws BadInput with the file and the reason, and the line of a syntax
 /// error; a field given twice is an error too. The places, if wanted, learn where each part stands.
 nlohmann::json load_json_object(const std::filesystem::path& path, JsonPlaces* places = nullptr);
+/// The same from a text; its errors begin with the place.
+nlohmann::json parse_json_object(const std::string& text, const std::string& place, JsonPlaces* places = nullptr);
 
 /// Reads the fields of one object. Each complaint is a BadInput that begins with the place, such as
 /// "settings.json: setting 'Zoom'".

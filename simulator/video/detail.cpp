@@ -15,8 +15,6 @@ constexpr std::size_t components = 4;
 
 std::uint8_t* bytes_of(Color* row) { return reinterpret_cast<std::uint8_t*>(row); }
 
-std::uint8_t clamped(int value) { return static_cast<std::uint8_t>(std::clamp(value, 0, 255)); }
-
 void make_opaque(Color* row, int width)
 {
     for (int x = 0; x < width; ++x) {

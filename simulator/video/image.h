@@ -1,6 +1,7 @@
 // Pixels in memory, as all parts of the picture pass them on.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -43,6 +44,9 @@ constexpr Color make_color(std::uint32_t alpha, std::uint32_t red, std::uint32_t
 {
     return alpha << 24 | red << 16 | green << 8 | blue;
 }
+
+/// What was computed for a component, within its range.
+constexpr std::uint8_t clamped(int value) { return static_cast<std::uint8_t>(std::clamp(value, 0, 255)); }
 
 /// value * factor / 255, rounded; both 0 to 255.
 constexpr std::uint32_t scale_byte(std::uint32_t value, std::uint32_t factor)

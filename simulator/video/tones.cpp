@@ -59,8 +59,6 @@ Parts parts_of(Color pixel)
             static_cast<int>(component(pixel, 0))};
 }
 
-std::uint32_t clamped(int value) { return static_cast<std::uint32_t>(std::clamp(value, 0, 255)); }
-
 /// Each component becomes a sum of itself, the one before it and the one behind it, in the ring of red, green and
 /// blue. The factors count in 256ths; together they are 256, so that a grey stays as it is.
 struct Turn {

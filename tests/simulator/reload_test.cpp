@@ -209,7 +209,7 @@ TEST_F(Reload, TakesTextsAndDefinitionsOver)
     EXPECT_EQ(change("settings.json", narrow), "");
     std::string wrong = narrow;
     wrong.replace(wrong.find("60", max), 2, "\"60\"");
-    const auto lines_above = std::count(wrong.begin(), wrong.begin() + wrong.rfind('{', max), '\n');
+    const auto lines_above = std::count(wrong.rend() - std::ptrdiff_t(wrong.rfind('{', max)), wrong.rend(), '\n');
     EXPECT_EQ(change("settings.json", wrong), "settings.json:" + std::to_string(lines_above + 1) +
                                                   ": setting 'Brightness': 'max' must be a whole number of 32 bits\n");
     EXPECT_EQ(change("settings.json", narrow), "");
