@@ -122,21 +122,18 @@ void FolderWatch::read_events()
 void FolderWatch::take(int watch, std::uint32_t what, const fs::path& name)
 {
     if ((what & IN_Q_OVERFLOW) != 0) {
-        unwatch_all(); // whatever was lost, all is looked at as if it were new
-        watch_all();
+        watch_anew(); // whatever was lost, all is looked at as if it were new
         return;
     }
     const auto place = watches_.find(watch);
     if (place == watches_.end()) {
         return; // the last events of a watch that has ended
     }
-    if ((what & gone) != 0) {
-        // The folders below it may have gone with it: they don't say so when it is renamed.
-        unwatch_all();
-        watch_all();
+    const fs::path path = place->second / name;
+    if ((what & gone) != 0 || ((what & IN_MOVED_FROM) != 0 && is_on_the_way(path))) {
+        watch_anew(); // the folders below it may have gone with it: they don't say so when it is renamed
         return;
     }
-    const fs::path path = place->second / name;
     if ((what & IN_ISDIR) != 0) {
         if (is_on_the_way(path)) {
             watch_all();
@@ -194,7 +191,7 @@ void FolderWatch::watch_one(const fs::path& folder)
     }
 }
 
-void FolderWatch::unwatch_all()
+void FolderWatch::watch_anew()
 {
     for (const auto& [watch, path] : watches_) {
         (void)::inotify_rm_watch(events_.number(), watch); // a deleted folder's has ended by itself
@@ -204,6 +201,7 @@ void FolderWatch::unwatch_all()
         note(folder);
     }
     seen_.clear();
+    watch_all();
 }
 
 /// Whether one of the folders is this path or lies below it.

@@ -54,7 +54,8 @@ private:
     /// Watches each folder, or where it is missing the nearest one above it, in which it will appear.
     void watch_all();
     void watch_one(const std::filesystem::path& folder);
-    void unwatch_all();
+    /// Forgets what is watched and begins again; whatever is in the folders counts as changed.
+    void watch_anew();
     bool is_on_the_way(const std::filesystem::path& path) const;
 
     const std::vector<std::filesystem::path> folders_;
