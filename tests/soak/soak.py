@@ -67,7 +67,7 @@ def press_keys(camera, dice):
     choice = dice.random()
     if choice < 0.8:
         return camera.ask("POST", "/keys", {"keys": dice.choices(KEYS, k=dice.choice([1, 3, 12]))})
-    return camera.ask("POST", "/keys", {dice.choice(["press", "release"]): dice.choice(KEYS)})
+    return camera.ask("POST", "/keys", {dice.choice(["press", "renew", "release"]): dice.choice(KEYS)})
 
 
 def switch(camera, dice):
@@ -75,7 +75,9 @@ def switch(camera, dice):
     if what == 0:
         return camera.ask("POST", "/language", {"language": dice.choice(LANGUAGES)})
     if what == 1:
-        return camera.ask("POST", "/menu", {"style": dice.randrange(3), "size": dice.choice(["1080p", "1080p", "4k"])})
+        page = dice.choice([{"page": path.stem.removesuffix("_page")} for path in camera.resources.glob("pages/*.xml")])
+        return camera.ask("POST", "/menu", {"style": dice.randrange(3), "size": dice.choice(["1080p", "1080p", "4k"])}
+                          if dice.random() < 0.7 else page)
     if what == 2:
         camera.ask("PUT", "/faults", {"on": dice.sample(FAULTS, 2)})
         camera.ask("POST", "/menu", {"style": 0})
