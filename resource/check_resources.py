@@ -3,8 +3,9 @@
 
 Every text that a page or a setting asks for must be there in all languages, and every item that shows a value must
 have a setting or a device fact behind it. Every page must have a file, be reached by keys, and never be the sixth that
-is open, and it must keep the rules of its layout. It must not be higher than the menu, and no item may stand twice among those that
-show together. Errors go to standard error, each with its file and line or key.
+is open, and it must keep the rules of its layout. It must not be higher than the menu, and no item may stand twice
+among those that show together. Attributes and their words must be known. Errors go to standard error, each with its
+file and line or key.
 """
 import argparse
 import json
@@ -34,6 +35,19 @@ LINE_HEIGHT = 1.448 # of a text, as part of its size
 LISTS = {"vertical_align": (32, 0.01, 0.02, 0.95), # size of a label; then parts of the height: gap above the first row,
          "vertical_tolvane_align": (32.4, 0.01, 0.02, 0.88), # gap between rows, foot
          PAGED: (28, 0.14, 0.01, 0.88)} # the title is above the first row
+KNOWN_ATTRIBUTES = frozenset(
+    "Attr ConfirmBtn ConfirmPage CountPerLine Ctx CurPagesNum DataZone ItemCnt ItemIndex ItemIndexOnLine ItemPos Layout "
+    "Line ModeIndex Msg NextPage NumOfChar Pic PicType PrevPage RdOnly SelectPic ShowValue SubPage Title TitlePos "
+    "ValType Value".split())
+WORDS = { # the menu refuses a page with another one, or takes another one for none
+    "Attr": "COMMON CONFIRM CONFIRM_POP CONFIRM_POP_BTN CONST_TXT EDITABLE KEY_WITH_MSG MSG_WITH_SUBITEM STATUS SUBITEM "
+            "SUBPAGE",
+    "ConfirmBtn": "Yes No",
+    "Ctx": "ICON ICON_TXT ICON_TXT_KETH NAME NAME_BAR_VAL NAME_IP_VAL NAME_VAL",
+    "ItemPos": "Center",
+    "PicType": "MAINTYPE SUBTYPE IPTYPE CONFIRMTYPE",
+    "TitlePos": "Left Right Center",
+    "ValType": "OPTTXT NUMERICAL EDITTXT"}
 LAYOUTS = ("icon", "vertical_align", "vertical_tolvane_align", PAGED, *POPUPS)
 PAGED_ATTRIBUTES = ("CurPagesNum", "NextPage", "PrevPage", "Line")
 ICON_ATTRIBUTES = ("Pic", "SelectPic")
@@ -148,7 +162,9 @@ class Checker:
             self.check_layout(name, page)
             self.check_twins(page.children, {})
             self.check_height(page)
+            self.check_words(page)
             for element in page.descendants():
+                self.check_words(element)
                 self.check_texts(element)
                 self.check_value(element)
         self.check_page_stack()
@@ -180,6 +196,13 @@ class Checker:
         for name in TRANSLATED_ATTRIBUTES:
             if name in element.attributes:
                 self.need_text(f"{element.place}: {name}", element[name])
+
+    def check_words(self, element):
+        for name, word in element.attributes.items():
+            if name not in KNOWN_ATTRIBUTES:
+                self.error(element.place, f"attribute '{name}' means nothing to the menu")
+            elif name in WORDS and word not in WORDS[name].split():
+                self.error(element.place, f"{name} '{word}', expected one of {', '.join(WORDS[name].split())}")
 
     def links_of(self, page):
         """Names of the pages that a page opens, each with the place that says so; pages without a file are errors."""

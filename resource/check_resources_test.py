@@ -95,6 +95,11 @@ FAULTS = {
          "expected at most 5 open pages"]),
     "a layout is unknown": (
         edit_page('"icon"', '"grid"', "main"), ["main_page.xml:1: Layout 'grid', expected one of icon, vertical"]),
+    "a word is misspelt": (
+        edit_page('Attr="COMMON"', 'Attr="Common"'), ["image_page.xml:5: Attr 'Common', expected one of COMMON, CONF"]),
+    "an attribute is misspelt": (
+        edit_page('ModeIndex="On"', 'Modeindex="On"'),
+        ["image_page.xml:4: attribute 'Modeindex' means nothing to the menu"]),
     "icons have no grid": (
         edit_page('"4"', '"0"', "main"), ["main_page.xml:1: CountPerLine '0', expected 1 or more"]),
     "an icon has no picture": (

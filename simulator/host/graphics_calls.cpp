@@ -1,4 +1,4 @@
-// The program's own functions of these names go before those of SDL's libraries, for the menu's library as well, because
+// The program's own functions of these names go before those of the libraries, for the menu's library as well, because
 // the program exports what it defines.
 #include "simulator/host/graphics_calls.h"
 
@@ -6,6 +6,8 @@
 #include <SDL_ttf.h>
 #include <atomic>
 #include <dlfcn.h>
+#include <fcntl.h>
+#include <unistd.h>
 
 #include "simulator/core/resources.h"
 
@@ -19,6 +21,12 @@ bool is_on(Fault fault)
 {
     const Faults* faults = graphics_faults.load();
     return faults != nullptr && faults->is_on(fault);
+}
+
+const std::string* replaced_content(const char* file)
+{
+    const ReplacedPictures* replaced = replaced_pictures.load();
+    return replaced == nullptr ? nullptr : replaced->find(file);
 }
 
 /// Null, as on every failure, for a content that is no picture.
@@ -47,8 +55,11 @@ ReplacedPictures::~ReplacedPictures() { replaced_pictures = nullptr; }
 
 const std::string* ReplacedPictures::find(const std::filesystem::path& file) const
 {
+    if (file.parent_path() != staged_pictures()) {
+        return nullptr; // other threads look at files as well, but at none of these
+    }
     const auto found = contents_.find(file.filename().string());
-    return found == contents_.end() || file.parent_path() != staged_pictures() ? nullptr : &found->second;
+    return found == contents_.end() ? nullptr : &found->second;
 }
 
 } // namespace sim
@@ -70,10 +81,15 @@ SDL_Surface* IMG_Load(const char* file)
 {
     static auto* const next = sim::next_function<decltype(IMG_Load)>("IMG_Load");
     if (next != nullptr && !sim::is_on(sim::Fault::PicturesMissing)) {
-        const sim::ReplacedPictures* replaced = sim::replaced_pictures.load();
-        const std::string* content = replaced == nullptr ? nullptr : replaced->find(file);
+        const std::string* content = sim::replaced_content(file);
         return content == nullptr ? next(file) : sim::load_picture(*content);
     }
     SDL_SetError("%s is missing (fault pictures-missing)", file);
     return nullptr;
+}
+
+/// The menu asks for a picture's file before it loads it; one of a new name has none.
+int access(const char* name, int type) noexcept
+{
+    return name != nullptr && sim::replaced_content(name) != nullptr ? 0 : ::faccessat(AT_FDCWD, name, type, 0);
 }
