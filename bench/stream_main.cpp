@@ -1,5 +1,6 @@
 // What the web front end costs: starts the simulated camera with its menu open, watches the main channel at 1920 by 1080
-// for some seconds, presses keys, and prints pictures a second, the share of a core, and how late a key is seen.
+// for some seconds, presses keys, and prints pictures a second, the share of a core, and how late a key is seen. Status 1
+// for a figure that is worse than its gate.
 //     bench_stream path/to/camera-sim
 #include <algorithm>
 #include <atomic>
@@ -27,11 +28,28 @@ constexpr std::chrono::seconds watch_time{10};
 constexpr int key_count = 30;
 constexpr double frame_ms = 40;
 
-/// A camera with settings of its own, which go with it. The menu's pixels have one bit of alpha, so that it hides the
-/// moving scene and every change there is a key's doing.
+/// Whether all figures so far were within their gates.
+bool all_hold = true;
+
+/// Prints what was measured, with the words behind it when it doesn't hold.
+void report(bool holds, const std::string& words, const char* gate)
+{
+    all_hold = all_hold && holds;
+    std::printf("%s%s\n", words.c_str(), holds ? "" : (std::string("  FAILED, expected ") + gate).c_str());
+}
+
+template <typename... Values>
+std::string format(const char* pattern, Values... values)
+{
+    char words[200];
+    std::snprintf(words, sizeof words, pattern, values...);
+    return words;
+}
+
+/// A camera with settings of its own, which go with it.
 class Camera {
 public:
-    explicit Camera(const char* program)
+    Camera(const char* program, const char* pixel_format)
     {
         int ends[2];
         if (mkdtemp(folder_) == nullptr || pipe(ends) != 0) {
@@ -42,7 +60,7 @@ public:
             dup2(ends[1], STDOUT_FILENO);
             close(ends[0]);
             (void)!freopen("/dev/null", "w", stderr);
-            execl(program, program, "--data", folder_, "--format", "argb1555", "--listen", "127.0.0.1:0", nullptr);
+            execl(program, program, "--data", folder_, "--format", pixel_format, "--listen", "127.0.0.1:0", nullptr);
             _exit(127);
         }
         close(ends[1]);
@@ -208,20 +226,34 @@ private:
     std::thread thread_;
 };
 
-void measure_load(const Camera& camera, const Viewer& viewer)
+void open_menu(const Camera& camera)
 {
+    for (const char* key : {"menu", "home"}) {
+        camera.press(key);
+    }
+}
+
+void measure_load(const Camera& camera)
+{
+    Viewer viewer(camera);
+    (void)viewer.wait_for_change(0);
     const double cpu = camera.cpu_seconds();
     const long frames = viewer.frames();
     const auto begin = Clock::now();
     std::this_thread::sleep_for(watch_time);
     const double seconds = std::chrono::duration<double>(Clock::now() - begin).count();
-    std::printf("1920 by 1080, menu open: %.1f pictures a second, %.2f of a core, %.0f MiB resident\n",
-                static_cast<double>(viewer.frames() - frames) / seconds, (camera.cpu_seconds() - cpu) / seconds,
-                camera.resident_mebibytes());
+    const double rate = static_cast<double>(viewer.frames() - frames) / seconds;
+    const double share = (camera.cpu_seconds() - cpu) / seconds;
+    report(rate > 24.5 && share < 1,
+           format("1920 by 1080, menu open: %.1f pictures a second, %.2f of a core, %.0f MiB resident", rate, share,
+                  camera.resident_mebibytes()),
+           "25 pictures a second below one core");
 }
 
-void measure_keys(const Camera& camera, Viewer& viewer)
+void measure_keys(const Camera& camera)
 {
+    Viewer viewer(camera);
+    (void)viewer.wait_for_change(0);
     std::vector<double> delays;
     for (int i = 0; i < key_count; ++i) {
         // Another part of the time between two pictures for each key.
@@ -232,10 +264,12 @@ void measure_keys(const Camera& camera, Viewer& viewer)
         delays.push_back(std::chrono::duration<double, std::milli>(viewer.wait_for_change(seen) - pressed).count());
     }
     std::sort(delays.begin(), delays.end());
-    std::printf(
-        "a key is in the stream after %.0f ms in the median, %.0f ms at most of %d keys: %.1f and %.1f frames\n",
-        delays[delays.size() / 2], delays.back(), key_count, delays[delays.size() / 2] / frame_ms,
-        delays.back() / frame_ms);
+    const double median = delays[delays.size() / 2];
+    report(
+        delays.back() <= 2 * frame_ms,
+        format("a key is in the stream after %.0f ms in the median, %.0f ms at most of %d keys: %.1f and %.1f frames",
+               median, delays.back(), key_count, median / frame_ms, delays.back() / frame_ms),
+        "at most two frames");
 }
 
 void measure_rest(const Camera& camera)
@@ -243,7 +277,8 @@ void measure_rest(const Camera& camera)
     std::this_thread::sleep_for(std::chrono::seconds(2));
     const double cpu = camera.cpu_seconds();
     std::this_thread::sleep_for(std::chrono::seconds(5));
-    std::printf("nobody watches: %.3f of a core\n", (camera.cpu_seconds() - cpu) / 5);
+    const double share = (camera.cpu_seconds() - cpu) / 5;
+    report(share < 0.01, format("nobody watches: %.3f of a core", share), "next to nothing");
 }
 
 } // namespace
@@ -254,18 +289,17 @@ int main(int argc, char** argv)
         if (argc != 2) {
             throw std::runtime_error("expected one argument, the path of camera-sim");
         }
-        const Camera camera(argv[1]);
-        for (const char* key : {"menu", "home"}) {
-            camera.press(key);
-        }
         {
-            Viewer viewer(camera);
-            (void)viewer.wait_for_change(0);
-            measure_load(camera, viewer);
-            measure_keys(camera, viewer);
+            const Camera camera(argv[1], "argb8888"); // as people have it
+            open_menu(camera);
+            measure_load(camera);
+            measure_rest(camera);
         }
-        measure_rest(camera);
-        return 0;
+        // Pixels with one bit of alpha, so that the menu hides the moving scene and every change there is a key's doing.
+        const Camera camera(argv[1], "argb1555");
+        open_menu(camera);
+        measure_keys(camera);
+        return all_hold ? 0 : 1;
     } catch (const std::exception& error) {
         std::fprintf(stderr, "bench_stream: %s\n", error.what());
         return 1;

@@ -9,6 +9,7 @@ file and line or key.
 """
 import argparse
 import json
+import signal
 import sys
 import unicodedata
 import xml.parsers.expat
@@ -385,6 +386,7 @@ def main():
     parser.add_argument("folder", type=Path, help="folder with pages/, lang/ and settings.json")
     parser.add_argument("--fonts", nargs="+", type=Path, default=[], help="fonts that need a glyph for every character")
     args = parser.parse_args()
+    signal.alarm(60) # whoever waits for an answer has gone by then
     checker = Checker(args.folder)
     checker.check()
     if args.fonts:

@@ -6,6 +6,7 @@
 #include <csignal>
 #include <fcntl.h>
 #include <iterator>
+#include <optional>
 #include <poll.h>
 #include <spawn.h>
 #include <stdexcept>
@@ -20,6 +21,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr std::size_t max_words = 65536; // of a program that has much to say
+constexpr int look_again_ms = 50;        // whether it is to be stopped
 
 /// Both ends of a pipe; the one to write to can be closed before.
 struct Pipe {
@@ -56,6 +58,7 @@ struct Surroundings {
         posix_spawn_file_actions_addopen(&files, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
         posix_spawn_file_actions_addopen(&files, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
         posix_spawn_file_actions_adddup2(&files, errors < 0 ? STDOUT_FILENO : errors, STDERR_FILENO);
+        posix_spawn_file_actions_addclosefrom_np(&files, STDERR_FILENO + 1);
         posix_spawnattr_init(&attributes);
         sigset_t none;
         sigemptyset(&none);
@@ -87,28 +90,53 @@ std::string start(const std::vector<std::string>& command, int errors, pid_t& ch
     return error == 0 ? "" : command[0] + " can't be run: " + std::generic_category().message(error);
 }
 
-/// Reads until the program has closed its standard error; false when that takes too long.
-bool read_words(int errors, Clock::time_point until, std::string& words)
+/// How long a program may run.
+struct Limit {
+    bool is_over() const { return Clock::now() >= until || (stop != nullptr && *stop); }
+
+    Clock::time_point until;
+    const std::atomic<bool>* stop;
+};
+
+/// Reads until the program has closed its standard error.
+std::string read_words(int errors, const Limit& limit)
 {
+    std::string words;
     std::array<char, 512> part{};
-    for (;;) {
-        const auto left = std::chrono::ceil<std::chrono::milliseconds>(until - Clock::now()).count();
+    while (!limit.is_over()) {
         pollfd source{errors, POLLIN, 0};
-        if (left <= 0 || ::poll(&source, 1, static_cast<int>(left)) == 0) {
-            return false;
+        if (::poll(&source, 1, look_again_ms) == 0) {
+            continue;
         }
         const ssize_t got = ::read(errors, part.data(), part.size());
         if (got == 0 || (got < 0 && errno != EINTR)) {
-            return true;
+            break;
         }
         words.append(part.data(),
                      std::min(static_cast<std::size_t>(std::max<ssize_t>(got, 0)), max_words - words.size()));
     }
+    return words;
+}
+
+/// Waits for the end of the program, or ends it. The status of one that has ended by itself.
+std::optional<int> wait_for_end(pid_t child, const Limit& limit)
+{
+    int status = 0;
+    while (::waitpid(child, &status, WNOHANG) == 0) {
+        if (limit.is_over()) {
+            ::kill(child, SIGKILL);
+            ::waitpid(child, &status, 0);
+            return std::nullopt;
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+    return status;
 }
 
 } // namespace
 
-std::string run_program(const std::vector<std::string>& command, std::chrono::milliseconds limit)
+std::string run_program(const std::vector<std::string>& command, std::chrono::milliseconds limit,
+                        const std::atomic<bool>* stop)
 {
     Pipe errors;
     pid_t child = -1;
@@ -116,18 +144,13 @@ std::string run_program(const std::vector<std::string>& command, std::chrono::mi
         return problem;
     }
     errors.close_writing(); // what remains is the program's, so that its end can be seen
-    std::string words;
-    const bool in_time = read_words(errors.ends[0], Clock::now() + limit, words);
-    if (!in_time) {
-        ::kill(child, SIGKILL);
+    const Limit while_it_may{Clock::now() + limit, stop};
+    const std::string words = read_words(errors.ends[0], while_it_may);
+    const std::optional<int> status = wait_for_end(child, while_it_may);
+    if (!status) {
+        return command[0] + " took longer than " + std::to_string(limit.count()) + " ms, or was no longer wanted";
     }
-    int status = 0;
-    while (::waitpid(child, &status, 0) < 0 && errno == EINTR) {
-    }
-    if (!in_time) {
-        return command[0] + " took longer than " + std::to_string(limit.count()) + " ms";
-    }
-    if (WIFEXITED(status) && WEXITSTATUS(status) == 0) {
+    if (WIFEXITED(*status) && WEXITSTATUS(*status) == 0) {
         return "";
     }
     return words.empty() ? command[0] + " failed" : words.substr(0, words.find_last_not_of(" \n") + 1);

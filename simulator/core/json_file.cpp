@@ -21,8 +21,9 @@ using nlohmann::json;
 /// would keep the last one and say nothing.
 class Follower {
 public:
-    Follower(const std::string& text, std::istream& stream, JsonPlaces& places)
-        : text_(text), stream_(stream), places_(places)
+    /// places: null where nobody wants them; they take many times the memory of the text.
+    Follower(const std::string& text, std::istream& stream, const std::string& place, JsonPlaces* places)
+        : text_(text), stream_(stream), place_(place), places_(places)
     {
     }
 
@@ -55,19 +56,24 @@ private:
     void take_key(const std::string& key)
     {
         Level& level = open_.back();
-        level.part = level.name + "/" + key;
-        places_.add(level.part, line());
+        name_part(level, key);
         if (!level.keys.insert(key).second) {
-            throw BadInput(places_.of(level.part) + ": '" + key + "' stands twice in one object");
+            throw BadInput(place_ + ":" + std::to_string(line()) + ": '" + key + "' stands twice in one object");
         }
     }
 
     void begin_element()
     {
         if (!open_.empty() && open_.back().is_list) {
-            Level& level = open_.back();
-            level.part = level.name + "/" + std::to_string(level.count++);
-            places_.add(level.part, line());
+            name_part(open_.back(), std::to_string(open_.back().count++));
+        }
+    }
+
+    void name_part(Level& level, const std::string& key)
+    {
+        if (places_ != nullptr) {
+            level.part = level.name + "/" + key;
+            places_->add(level.part, line());
         }
     }
 
@@ -83,7 +89,8 @@ private:
 
     const std::string& text_;
     std::istream& stream_; ///< of the text
-    JsonPlaces& places_;
+    const std::string& place_;
+    JsonPlaces* places_;
     std::vector<Level> open_;
     std::size_t counted_ = 0;
     int line_ = 1;
@@ -119,11 +126,10 @@ json load_json_object(const std::filesystem::path& path, JsonPlaces* places)
 
 json parse_json_object(const std::string& text, const std::string& place, JsonPlaces* places)
 {
-    JsonPlaces own(place);
     json root;
     try {
         std::istringstream stream(text);
-        Follower follower(text, stream, places == nullptr ? own : *places);
+        Follower follower(text, stream, place, places);
         root = json::parse(stream, std::ref(follower)); // by reference: the parser copies its callback
     } catch (const json::parse_error& error) {
         throw BadInput(place + line_of(error, text) + ": " + words_behind(": ", error));
@@ -188,11 +194,6 @@ void FieldReader::refuse_other_fields() const
     }
 }
 
-void FieldReader::complain(const std::string& what) const
-{
-    std::string words = place_ + ": " + what;
-    std::replace(words.begin(), words.end(), '\0', '?'); // the message would end there
-    throw BadInput(words);
-}
+void FieldReader::complain(const std::string& what) const { throw BadInput(place_ + ": " + what); }
 
 } // namespace sim

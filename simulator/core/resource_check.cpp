@@ -32,8 +32,8 @@ std::vector<std::string> command_for(const fs::path& resources, const fs::path& 
     return command;
 }
 
-/// The lines of the checker that begin with a file; others tell why it failed itself.
-std::vector<Problem> problems_in(const std::string& words, const fs::path& resources)
+/// The lines of the checker that begin with a file; none at all tell why it failed itself.
+std::optional<std::vector<Problem>> problems_in(const std::string& words, const fs::path& resources)
 {
     const std::string folder = resources.string() + "/";
     std::vector<Problem> problems;
@@ -42,24 +42,28 @@ std::vector<Problem> problems_in(const std::string& words, const fs::path& resou
         if (line.compare(0, folder.size(), folder) == 0) {
             const fs::path file = line.substr(0, line.find(':', folder.size()));
             problems.push_back(problem_in(file, file.lexically_relative(resources).string(), line));
-        } else if (lines.peek() == std::istringstream::traits_type::eof()) {
-            log_line(LogLevel::Warning, "resources", "they can't be checked against each other: " + line);
         }
+    }
+    if (problems.empty() && !words.empty()) {
+        log_line(LogLevel::Warning, "resources",
+                 "they can't be checked against each other: " + words.substr(words.rfind('\n') + 1));
+        return std::nullopt;
     }
     return problems;
 }
 
 } // namespace
 
-std::vector<Problem> check_resources(const fs::path& resources)
+std::optional<std::vector<Problem>> check_resources(const fs::path& resources, const std::atomic<bool>& stop)
 {
     const fs::path folder = plain_path(resources);
     const fs::path checker = resource_checker();
     std::error_code ignored; // what can't be looked at can't be run
     if (!fs::exists(checker, ignored)) {
-        return {};
+        return std::vector<Problem>();
     }
-    return problems_in(run_program(command_for(folder, checker), check_limit), folder);
+    const std::string words = run_program(command_for(folder, checker), check_limit, &stop);
+    return stop ? std::nullopt : problems_in(words, folder);
 }
 
 ResourceCheck::ResourceCheck(fs::path resources, std::function<void(std::vector<Problem>)> tell)
@@ -103,9 +107,9 @@ void ResourceCheck::run()
 {
     while (wait_for_request()) {
         (void)guarded("resources", false, [this] {
-            std::vector<Problem> found = check_resources(resources_);
-            if (!is_asked()) { // else it may tell of what has been mended since
-                tell_(std::move(found));
+            auto found = check_resources(resources_, ending_);
+            if (found && !is_asked()) { // else it may tell of what has been mended since
+                tell_(std::move(*found));
             }
             return true;
         });

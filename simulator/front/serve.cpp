@@ -73,6 +73,18 @@ std::unique_ptr<WebServer> start_server(Api& api, const Options& options)
     }
 }
 
+/// Null when the system refuses to watch; the camera runs without it.
+std::unique_ptr<FolderWatch> watch_resources(const Camera& camera,
+                                             const std::function<void(const FolderWatch::Changed&)>& on_change)
+{
+    try {
+        return std::make_unique<FolderWatch>(resource_folders(camera.resources()), on_change);
+    } catch (const std::runtime_error& error) {
+        log_line(LogLevel::Error, "resources", std::string(error.what()) + "; changed files aren't noticed");
+        return nullptr;
+    }
+}
+
 } // namespace
 
 void serve_camera(Camera& camera, Pictures& pictures, const MenuConfig& menu, const Options& options)
@@ -88,7 +100,7 @@ void serve_camera(Camera& camera, Pictures& pictures, const MenuConfig& menu, co
     ResourceCheck check(camera.resources(), [&](const std::vector<Problem>& found) {
         loop.post([&reload, found] { reload->set_findings(found); });
     });
-    const FolderWatch watch(resource_folders(camera.resources()), [&](const std::set<std::filesystem::path>& files) {
+    const auto watch = watch_resources(camera, [&](const FolderWatch::Changed& files) {
         loop.post([&reload, files] { reload->reload(files); });
         check.check_again();
     });

@@ -91,5 +91,5 @@ SDL_Surface* IMG_Load(const char* file)
 /// The menu asks for a picture's file before it loads it; one of a new name has none.
 int access(const char* name, int type) noexcept
 {
-    return name != nullptr && sim::replaced_content(name) != nullptr ? 0 : ::faccessat(AT_FDCWD, name, type, 0);
+    return sim::replaced_content(name) != nullptr ? 0 : ::faccessat(AT_FDCWD, name, type, 0);
 }

@@ -111,7 +111,12 @@ std::optional<KeyHold::Clock::time_point> MenuSession::tick()
     }
     const auto now = KeyHold::Clock::now();
     if (const Key* key = hold_.due(now)) {
-        press_now(*key);
+        try {
+            press_now(*key);
+        } catch (...) { // what fails once would fail ten times a second
+            hold_.end();
+            throw;
+        }
     }
     host_->overlays().hide_what_is_over();
     const auto repeat = hold_.next();

@@ -104,7 +104,8 @@ bool is_loopback(const std::string& host)
 std::string address_of(const ListenAddress& listen)
 {
     const bool is_ipv6 = listen.host.find(':') != std::string::npos;
-    return "http://" + (is_ipv6 ? "[" + listen.host + "]" : listen.host) + ":" + std::to_string(listen.port) + "/";
+    const std::string host = listen.host == "0.0.0.0" ? "127.0.0.1" : listen.host == "::" ? "::1" : listen.host;
+    return "http://" + (is_ipv6 ? "[" + host + "]" : host) + ":" + std::to_string(listen.port) + "/";
 }
 
 void check_access(const httplib::Request& request, const std::optional<std::string>& token)

@@ -22,7 +22,7 @@ ListenAddress parse_listen_address(const std::string& text);
 /// Whether only programs on this machine can reach an address.
 bool is_loopback(const std::string& host);
 
-/// "http://ADDRESS:PORT/"
+/// "http://ADDRESS:PORT/", for a browser on this machine: where the server listens at all addresses, that is one of them.
 std::string address_of(const ListenAddress& listen);
 
 /// Throws HttpError for a request that isn't meant for this camera. Without a token the camera serves this machine

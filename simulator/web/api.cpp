@@ -17,6 +17,9 @@ using nlohmann::json;
 
 constexpr int most_viewers = 128;
 constexpr std::size_t longest_viewer_name = 40;
+constexpr int most_pictures = 8; // each stays in memory until its client has read it
+constexpr std::chrono::seconds picture_patience{30};
+constexpr std::size_t picture_piece = 16 * 1024;
 constexpr int snapshot_quality = 92;
 constexpr std::chrono::seconds event_patience{1};
 constexpr std::size_t most_keys = 1000;
@@ -45,6 +48,17 @@ void start_event_stream(httplib::Response& response, std::function<bool(httplib:
     response.set_header("Cache-Control", "no-store");
     response.set_content_provider(
         "text/event-stream", [write = std::move(write)](std::size_t, httplib::DataSink& sink) { return write(sink); });
+}
+
+/// One of a limited number of places; whoever gets it gives it back by forgetting it.
+std::shared_ptr<void> take_place(std::atomic<int>& taken, int most, const char* whose)
+{
+    std::shared_ptr<void> place(nullptr, [&taken](void*) { --taken; });
+    if (++taken > most) {
+        throw HttpError(503,
+                        std::string("too many ") + whose + ", at most " + std::to_string(most) + " are served at once");
+    }
+    return place;
 }
 
 } // namespace
@@ -168,14 +182,7 @@ ChannelStream& Api::stream_of(const std::string& channel)
 }
 
 /// A place among those who watch or listen; each of them holds a thread.
-std::shared_ptr<void> Api::take_viewer_place()
-{
-    std::shared_ptr<void> place(nullptr, [this](void*) { --viewers_; });
-    if (++viewers_ > most_viewers) {
-        throw HttpError(503, "too many viewers, at most " + std::to_string(most_viewers) + " are served");
-    }
-    return place;
-}
+std::shared_ptr<void> Api::take_viewer_place() { return take_place(viewers_, most_viewers, "viewers"); }
 
 void Api::get_stream(const Call& call)
 {
@@ -211,27 +218,39 @@ Image Api::picture(const std::string& channel)
     return parts_.camera.draw(number);
 }
 
+/// A client has half a minute to read it.
+void Api::answer_picture(const Call& call, const char* type, const std::function<std::string()>& encode)
+{
+    const auto place = take_place(pictures_, most_pictures, "pictures");
+    const auto picture = [&] {
+        const std::lock_guard<std::mutex> lock(snapshot_mutex_);
+        return std::make_shared<const std::string>(encode());
+    }();
+    const auto end = std::chrono::steady_clock::now() + picture_patience;
+    call.response.set_header("Cache-Control", "no-store");
+    call.response.set_content_provider(
+        picture->size(), type, [place, picture, end](std::size_t from, std::size_t size, httplib::DataSink& sink) {
+            return std::chrono::steady_clock::now() < end &&
+                   sink.write(picture->data() + from, std::min(size, picture_piece));
+        });
+}
+
 void Api::get_jpeg(const Call& call)
 {
-    const std::lock_guard<std::mutex> lock(snapshot_mutex_);
-    call.response.set_header("Cache-Control", "no-store");
-    call.response.set_content(encode_jpeg(picture(call.arguments[0]), snapshot_quality), "image/jpeg");
+    answer_picture(call, "image/jpeg", [&] { return encode_jpeg(picture(call.arguments[0]), snapshot_quality); });
 }
 
 void Api::get_png(const Call& call)
 {
-    const std::lock_guard<std::mutex> lock(snapshot_mutex_);
-    call.response.set_header("Cache-Control", "no-store");
-    call.response.set_content(encode_png(picture(call.arguments[0]), false), "image/png");
+    answer_picture(call, "image/png", [&] { return encode_png(picture(call.arguments[0]), false); });
 }
 
 void Api::get_overlay(const Call& call)
 {
-    const std::lock_guard<std::mutex> lock(snapshot_mutex_);
-    const auto canvas = parts_.camera.channels().lowest_canvas(0);
-    const Size size = parts_.camera.channels().size(0);
-    call.response.set_header("Cache-Control", "no-store");
-    call.response.set_content(encode_png(canvas ? *canvas : Image(size), true), "image/png");
+    answer_picture(call, "image/png", [&] {
+        const auto canvas = parts_.camera.channels().lowest_canvas(0);
+        return encode_png(canvas ? *canvas : Image(parts_.camera.channels().size(0)), true);
+    });
 }
 
 /// Each key in a turn of its own, so that a long list doesn't keep others away.

@@ -69,13 +69,15 @@ private:
     std::size_t press_keys(const nlohmann::json& names);
     ChannelStream& stream_of(const std::string& channel);
     std::shared_ptr<void> take_viewer_place();
+    void answer_picture(const Call& call, const char* type, const std::function<std::string()>& encode);
 
     CameraParts parts_;
     std::filesystem::path page_;
     std::optional<std::string> token_;
     std::vector<std::unique_ptr<ChannelStream>> streams_;
     std::atomic<int> viewers_{0};
-    std::mutex snapshot_mutex_; ///< one at a time: each takes the memory of some pictures
+    std::atomic<int> pictures_{0}; ///< under way
+    std::mutex snapshot_mutex_;    ///< one is drawn at a time: each takes the memory of some pictures
 };
 
 } // namespace sim

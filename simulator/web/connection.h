@@ -35,7 +35,7 @@ private:
 /// bytes. Behind a limit all calls fail, which ends the request. Owns the socket.
 class Connection : public httplib::Stream {
 public:
-    static constexpr std::size_t max_request = std::size_t{1} << 20;
+    static constexpr std::size_t max_request = std::size_t{128} << 10;
 
     Connection(int socket, OpenSockets& sockets)
         : socket_(socket), sockets_(sockets), request_end_(Clock::now() + patience)

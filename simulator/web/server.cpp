@@ -15,6 +15,7 @@ namespace {
 
 constexpr std::size_t most_workers = 160; ///< the viewers and some more
 constexpr std::size_t longest_path = 300;
+constexpr std::size_t longest_body = 64 * 1024;    ///< parsed it takes many times its size
 constexpr std::chrono::milliseconds farewell{500}; ///< for the last answers when the server ends
 constexpr int send_buffer_bytes = 256 * 1024;      ///< about two pictures: a slow viewer must not lag behind by seconds
 
@@ -49,8 +50,11 @@ void check_form(const httplib::Request& request)
     if (may_have_body && !request.has_header("Content-Length")) {
         throw HttpError(411, "send a Content-Length; it may be 0");
     }
-    if (request.has_header("Transfer-Encoding") || request.has_header("Content-Encoding")) {
-        throw HttpError(411, "send the body as it is, with a Content-Length");
+    if (request.has_header("Transfer-Encoding")) {
+        throw HttpError(411, "send the body in one piece, with a Content-Length");
+    }
+    if (request.has_header("Content-Encoding")) {
+        throw HttpError(415, "send the body as it is, without a Content-Encoding");
     }
     const bool has_body = request.get_header_value("Content-Length", 0).find_first_of("123456789") != std::string::npos;
     const std::string type = request.get_header_value("Content-Type");
@@ -63,7 +67,7 @@ const char* reason_of(int status)
 {
     switch (status) {
     case 413:
-        return "the request is too large, at most 512 KiB are read";
+        return "the request is too large, at most 64 KiB are read";
     case 414:
         return "the address is too long";
     case 416:
@@ -80,7 +84,7 @@ public:
     explicit Http(Api& api)
     {
         new_task_queue = [] { return new Workers(most_workers); }; // the server deletes it
-        set_payload_max_length(Connection::max_request / 2);
+        set_payload_max_length(longest_body);
         set_tcp_nodelay(true);
         httplib::Server::set_socket_options(&sim::set_socket_options);
         set_pre_routing_handler([&api](const httplib::Request& request, httplib::Response& response) {

@@ -227,7 +227,7 @@ TEST_F(Reload, TellsWhatTheBuildWouldRefuseInFilesThatCanBeUsed)
         {"pages/image_page.xml", "\"Brightness\"", "\"Contrast\"", "image_page.xml:[0-9]+: item 'Contrast' stands"},
         {"lang/German.json", "\"On\": \"", "\"On\": \"\xF0\x9F\x98\x80", "German.json:0: key 'On': .*has no glyph"}};
     const auto checked = [this] {
-        live.set_findings(check_resources(folder.path()));
+        live.set_findings(check_resources(folder.path(), false).value());
         return problem_lines();
     };
     std::map<std::string, std::string> good;
@@ -244,6 +244,8 @@ TEST_F(Reload, TellsWhatTheBuildWouldRefuseInFilesThatCanBeUsed)
         EXPECT_THAT(found, ContainsRegex(words));
         EXPECT_THAT(found_later, Not(ContainsRegex(words)));
     }
+    (void)change("settings.json", R"({"settings": [1]})");
+    EXPECT_FALSE(check_resources(folder.path(), false)); // which says nothing of other files
     // Of a broken file nothing else is told.
     EXPECT_THAT(change("pages/main_page.xml", "<Page"), Not(HasSubstr("there is no such picture")));
 }

@@ -5,7 +5,8 @@
 
 Random keys, changed and broken files, languages, skins, sizes, faults, imports, viewers that come and go, read slowly or
 say nothing. Every half minute the camera's memory and descriptors are printed. It fails when the camera ends by itself, a
-sanitizer reports something, a request has no clear answer, or memory or descriptors grow after the first third.
+sanitizer reports something, a request has no clear answer, or memory or descriptors at rest grow from the first of five
+rounds to the last.
 """
 import argparse
 import http.client
@@ -16,7 +17,6 @@ import re
 import shutil
 import signal
 import socket
-import statistics
 import subprocess
 import sys
 import tempfile
@@ -29,6 +29,7 @@ KEYS = ("menu home up down left right up-left up-right down-left down-right adva
         "apply zoom+ zoom- prompt rec").split()
 FAULTS = ["settings-slow", "settings-refusing", "settings-out-of-range", "language-refusing", "memory-exhausted",
           "fonts-missing", "pictures-missing"]
+ROUNDS = 5
 LANGUAGES = ["English", "German", "SimplifiedChinese", "TraditionalChinese"]
 
 
@@ -92,7 +93,7 @@ def switch(camera, dice):
         nested = 1
         for _ in range(dice.choice([3, 300])):
             nested = [nested]
-        return camera.ask("POST", "/keys", {"keys": nested})
+        return camera.ask("POST", "/keys", {"keys": dice.choice([nested, [1] * 20000, [1] * 200000])})
     return camera.ask("GET", dice.choice(["/state", "/settings", "/overlay.png", "/channels/1/snapshot.jpg", "/../x"]))
 
 
@@ -113,7 +114,8 @@ def change_file(camera, dice):
 def watch(camera, dice):
     """A viewer that reads for a while, slowly or not at all, or sends half a request."""
     with socket.create_connection(("127.0.0.1", camera.port), timeout=60) as connection:
-        path = dice.choice(["/channels/0/stream.mjpg", "/channels/1/stream.mjpg", "/channels/2/stream.mjpg", "/events"])
+        path = dice.choice(["/channels/0/stream.mjpg", "/channels/1/stream.mjpg", "/channels/2/stream.mjpg", "/events",
+                            "/channels/0/snapshot.png"])
         request = f"GET {path} HTTP/1.1\r\nHost: localhost\r\n\r\n".encode()
         connection.sendall(request if dice.random() < 0.8 else request[:dice.randrange(len(request))])
         end = time.monotonic() + dice.uniform(0.1, 8)
@@ -138,34 +140,48 @@ def work(camera, task, seed, end, answers, faults):
                 time.sleep(1)
 
 
+def run_round(camera, seconds, seed, answers, faults):
+    """Everybody works for some seconds."""
+    end = time.monotonic() + seconds
+    tasks = [press_keys] * 3 + [switch, change_file] + [watch] * 50
+    threads = [threading.Thread(target=work, args=(camera, task, f"{seed} {i}", end, answers, faults))
+               for i, task in enumerate(tasks)]
+    for thread in threads:
+        thread.start()
+    while time.monotonic() < end and camera.process.poll() is None:
+        time.sleep(min(30, max(0, end - time.monotonic())))
+        if camera.process.poll() is None:
+            print("%6.0f MiB  %4d descriptors" % camera.memory(), flush=True)
+    for thread in threads:
+        thread.join()
+
+
+def rest(camera):
+    """Memory and descriptors when everybody has gone and the picture has its usual size."""
+    if camera.process.poll() is not None:
+        return 0, 0
+    camera.ask("PUT", "/faults", {"on": []})
+    camera.ask("POST", "/menu", {"style": 0, "size": "1080p"})
+    time.sleep(8)  # the last viewers are found gone
+    memory, descriptors = camera.memory()
+    print(f"at rest {memory:.0f} MiB and {descriptors} descriptors", flush=True)
+    return memory, descriptors
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("program")
     parser.add_argument("--minutes", type=float, default=10)
     parser.add_argument("--seed", type=int, default=1)
     options = parser.parse_args()
-    answers, faults, samples = {}, [], []
+    answers, faults, rests = {}, [], []
     with tempfile.TemporaryDirectory(prefix="soak-") as name:
         camera = Camera(options.program, Path(name))
         # The first request comes alone: the HTTP library sets up its tables then, and is not built with the sanitizer.
         camera.ask("GET", "/state")
-        begin = time.monotonic()
-        end = begin + options.minutes * 60
-        tasks = [press_keys] * 3 + [switch, change_file] + [watch] * 12
-        threads = [threading.Thread(target=work, args=(camera, task, f"{options.seed} {i}", end, answers, faults))
-                   for i, task in enumerate(tasks)]
-        for thread in threads:
-            thread.start()
-        while time.monotonic() < end and camera.process.poll() is None:
-            time.sleep(min(30, max(0, end - time.monotonic())))
-            if camera.process.poll() is None:
-                samples.append(camera.memory())
-                print(f"{time.monotonic() - begin:5.0f} s  {samples[-1][0]:6.0f} MiB  {samples[-1][1]:4d} descriptors",
-                      flush=True)
-        for thread in threads:
-            thread.join()
-        time.sleep(8)  # the last viewers are found gone
-        idle = camera.memory() if camera.process.poll() is None else (0, 0)
+        for part in range(ROUNDS):
+            run_round(camera, options.minutes * 60 / ROUNDS, f"{options.seed} {part}", answers, faults)
+            rests.append(rest(camera))
         camera.process.send_signal(signal.SIGTERM)
         status = camera.process.wait(60)
         camera.log.seek(0)
@@ -173,13 +189,12 @@ def main():
     reports = re.findall(r"^.*(?:ERROR: \w+Sanitizer|WARNING: ThreadSanitizer|runtime error).*$", log, re.M)
     Path("soak.log").write_text(log, encoding="utf-8")
     print("answers:", ", ".join(f"{task} {code}: {count}" for (task, code), count in sorted(answers.items())))
-    print(f"at the end {idle[0]:.0f} MiB and {idle[1]} descriptors, exit status {status}, {len(reports)} sanitizer reports")
-    third = max(1, len(samples) // 3)
-    early, late = (statistics.median(m for m, _ in part) for part in (samples[:third], samples[-third:]))
-    if late > early * 1.1 + 16:  # the size of the picture makes the samples differ
-        faults.append(f"memory grew from {early:.0f} to {late:.0f} MiB")
-    if idle[1] > 40:
-        faults.append(f"{idle[1]} descriptors are still open")
+    print(f"exit status {status}, {len(reports)} sanitizer reports")
+    (first, first_open), (last, last_open) = rests[0], rests[-1]
+    if last > first * 1.1 + 16:
+        faults.append(f"memory at rest grew from {first:.0f} to {last:.0f} MiB")
+    if last_open > first_open:
+        faults.append(f"{first_open} descriptors became {last_open}")
     if any(code >= 500 and code != 503 for _, code in answers):
         faults.append("the camera failed at a request")
     print("\n".join(faults + reports) or "healthy")
