@@ -1,6 +1,9 @@
 #include "simulator/front/serve.h"
 
+#include <malloc.h>
+#include <mutex>
 #include <optional>
+#include <utility>
 
 #include "simulator/core/child_program.h"
 #include "simulator/core/errors.h"
@@ -73,6 +76,29 @@ std::unique_ptr<WebServer> start_server(Api& api, const Options& options)
     }
 }
 
+/// Changes that wait for the menu thread. However fast files change and however long a reload takes, one task waits.
+class WaitingChanges {
+public:
+    /// True when nothing waited so far.
+    bool add(const FolderWatch::Changed& files)
+    {
+        const std::lock_guard<std::mutex> lock(mutex_);
+        const bool first = files_.empty();
+        files_.insert(files.begin(), files.end());
+        return first;
+    }
+
+    FolderWatch::Changed take()
+    {
+        const std::lock_guard<std::mutex> lock(mutex_);
+        return std::exchange(files_, {});
+    }
+
+private:
+    std::mutex mutex_;
+    FolderWatch::Changed files_;
+};
+
 /// Null when the system refuses to watch; the camera runs without it.
 std::unique_ptr<FolderWatch> watch_resources(const Camera& camera,
                                              const std::function<void(const FolderWatch::Changed&)>& on_change)
@@ -85,10 +111,19 @@ std::unique_ptr<FolderWatch> watch_resources(const Camera& camera,
     }
 }
 
+/// Pictures take megabytes and come and go on many threads. Their memory goes back to the system at once; by itself the
+/// C library would keep some for each thread.
+void give_memory_back()
+{
+    (void)::mallopt(M_MMAP_THRESHOLD, 1 << 20);
+    (void)::mallopt(M_ARENA_MAX, 4);
+}
+
 } // namespace
 
 void serve_camera(Camera& camera, Pictures& pictures, const MenuConfig& menu, const Options& options)
 {
+    give_memory_back();
     MenuLoop loop;
     const StopSignals signals([&loop] { loop.stop(); });
     OutputCapture output; // the library writes to standard output, which is for the one line with the address
@@ -100,8 +135,11 @@ void serve_camera(Camera& camera, Pictures& pictures, const MenuConfig& menu, co
     ResourceCheck check(camera.resources(), [&](const std::vector<Problem>& found) {
         loop.post([&reload, found] { reload->set_findings(found); });
     });
+    WaitingChanges changes;
     const auto watch = watch_resources(camera, [&](const FolderWatch::Changed& files) {
-        loop.post([&reload, files] { reload->reload(files); });
+        if (changes.add(files)) {
+            loop.post([&] { reload->reload(changes.take()); });
+        }
         check.check_again();
     });
     reload.emplace(camera, pictures);

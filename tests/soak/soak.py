@@ -67,7 +67,7 @@ class Camera:
 def press_keys(camera, dice):
     choice = dice.random()
     if choice < 0.8:
-        return camera.ask("POST", "/keys", {"keys": dice.choices(KEYS, k=dice.choice([1, 3, 12]))})
+        return camera.ask("POST", "/keys", {"keys": dice.choices(KEYS, k=dice.choice([1, 3, 6]))})
     return camera.ask("POST", "/keys", {dice.choice(["press", "renew", "release"]): dice.choice(KEYS)})
 
 
