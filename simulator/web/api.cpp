@@ -19,7 +19,7 @@ constexpr int most_viewers = 128;
 constexpr std::size_t longest_viewer_name = 40;
 constexpr int most_pictures = 8; // each stays in memory until its client has read it
 constexpr std::chrono::seconds picture_patience{30};
-constexpr std::size_t picture_piece = 16 * 1024;
+constexpr std::size_t picture_piece = std::size_t{16} * 1024;
 constexpr int snapshot_quality = 92;
 constexpr std::chrono::seconds event_patience{1};
 constexpr std::size_t most_keys = 1000;

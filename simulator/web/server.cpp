@@ -15,9 +15,9 @@ namespace {
 
 constexpr std::size_t most_workers = 160; ///< the viewers and some more
 constexpr std::size_t longest_path = 300;
-constexpr std::size_t longest_body = 64 * 1024;    ///< parsed it takes many times its size
-constexpr std::chrono::milliseconds farewell{500}; ///< for the last answers when the server ends
-constexpr int send_buffer_bytes = 256 * 1024;      ///< about two pictures: a slow viewer must not lag behind by seconds
+constexpr std::size_t longest_body = std::size_t{64} * 1024; ///< parsed it takes many times its size
+constexpr std::chrono::milliseconds farewell{500};           ///< for the last answers when the server ends
+constexpr int send_buffer_bytes = 256 * 1024; ///< about two pictures: a slow viewer must not lag behind by seconds
 
 /// Bodies are read by the server for paths that fit this pattern; it matches all paths that check_form() lets pass.
 constexpr const char* any_path = "[^\n]{1,300}";

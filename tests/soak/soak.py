@@ -38,7 +38,8 @@ class Camera:
         self.resources = folder / "resource"
         shutil.copytree(ROOT / "resource", self.resources)
         # The quarantine would look like growth; a little of it finds as much here.
-        environment = dict(os.environ, ASAN_OPTIONS="quarantine_size_mb=8:detect_leaks=1", TSAN_OPTIONS="halt_on_error=0")
+        environment = dict(os.environ, ASAN_OPTIONS="quarantine_size_mb=8:thread_local_quarantine_size_kb=64:"
+                           "allocator_release_to_os_interval_ms=500:detect_leaks=1", TSAN_OPTIONS="halt_on_error=0")
         self.log = open(folder / "log.txt", "w+", encoding="utf-8", errors="replace")
         self.process = subprocess.Popen(
             [program, "--data", folder / "data", "--resources", self.resources, "--listen", "127.0.0.1:0"],
