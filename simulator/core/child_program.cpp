@@ -105,7 +105,7 @@ std::string read_words(int errors, const Limit& limit)
     std::array<char, 512> part{};
     while (!limit.is_over()) {
         pollfd source{errors, POLLIN, 0};
-        if (::poll(&source, 1, look_again_ms) == 0) {
+        if (::poll(&source, 1, look_again_ms) <= 0) {
             continue;
         }
         const ssize_t got = ::read(errors, part.data(), part.size());

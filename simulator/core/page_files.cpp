@@ -6,6 +6,7 @@
 #include <tinyxml2.h>
 #include <utility>
 
+#include "simulator/core/errors.h"
 #include "simulator/core/log.h"
 
 namespace sim {
@@ -73,6 +74,19 @@ std::vector<std::string> page_names(const std::filesystem::path& resources)
     }
     std::sort(names.begin(), names.end());
     return names;
+}
+
+void require_page(const std::string& name, const std::filesystem::path& resources)
+{
+    const std::vector<std::string> names = page_names(resources);
+    if (std::count(names.begin(), names.end(), name) > 0) {
+        return;
+    }
+    std::string known;
+    for (const std::string& page : names) {
+        known += " " + page;
+    }
+    throw BadInput("unknown page '" + name + "', expected one of:" + known);
 }
 
 } // namespace sim

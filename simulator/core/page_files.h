@@ -33,4 +33,7 @@ std::string page_name(const std::filesystem::path& path);
 /// The names of the pages below a resource folder, sorted.
 std::vector<std::string> page_names(const std::filesystem::path& resources);
 
+/// Throws BadInput, which lists the pages, when the resources have none of this name.
+void require_page(const std::string& name, const std::filesystem::path& resources);
+
 } // namespace sim

@@ -7,8 +7,8 @@
 #include <sstream>
 
 #include "simulator/core/errors.h"
+#include "simulator/core/page_files.h"
 #include "simulator/core/resources.h"
-#include "simulator/host/menu_session.h"
 #include "simulator/video/snapshot.h"
 
 namespace sim {

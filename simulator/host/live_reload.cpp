@@ -155,7 +155,7 @@ LiveReload::Effect LiveReload::take_page(const fs::path& file)
     if (!in_order(file, [&] { text = read_text_file(file); })) {
         return Effect::None;
     }
-    if (const auto mistake = find_page_mistake(camera_, camera_.language(), name, text)) {
+    if (const auto mistake = find_page_mistake(camera_, name, text)) {
         problems_.set({name_of_file(file), mistake->line, mistake->reason});
         return Effect::None;
     }

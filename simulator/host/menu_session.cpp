@@ -5,24 +5,10 @@
 #include "osd_menu.h"
 #include "simulator/core/errors.h"
 #include "simulator/core/log.h"
-#include "simulator/core/page_files.h"
 #include "simulator/core/settings_json.h"
 #include "simulator/host/page_stack.h"
 
 namespace sim {
-
-void require_page(const std::string& name, const std::filesystem::path& resources)
-{
-    const std::vector<std::string> names = page_names(resources);
-    if (std::count(names.begin(), names.end(), name) > 0) {
-        return;
-    }
-    std::string known;
-    for (const std::string& page : names) {
-        known += " " + page;
-    }
-    throw BadInput("unknown page '" + name + "', expected one of:" + known);
-}
 
 MenuSession::MenuSession(Camera& camera, const MenuConfig& config) : camera_(camera), config_(config) { start(); }
 

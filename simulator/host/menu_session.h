@@ -2,7 +2,6 @@
 #pragma once
 
 #include <chrono>
-#include <filesystem>
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <stdexcept>
@@ -18,9 +17,6 @@ class NoMenu : public std::runtime_error {
 public:
     NoMenu() : std::runtime_error("the menu could not start, see the log; choosing a skin or a size starts it again") {}
 };
-
-/// Throws BadInput, which lists the pages, when the resources have none of this name.
-void require_page(const std::string& name, const std::filesystem::path& resources);
 
 /// All calls on the menu thread.
 class MenuSession {

@@ -69,10 +69,10 @@ std::string start_of(const XMLElement& element)
 
 class PageReader {
 public:
-    PageReader(Camera& camera, const std::string& language, const std::string& name) : camera_(camera)
+    PageReader(Camera& camera, const std::string& name) : camera_(camera)
     {
         std::snprintf(name_.data(), name_.size(), "%s", name.c_str());
-        std::snprintf(language_.data(), language_.size(), "%s", language.c_str());
+        std::snprintf(language_.data(), language_.size(), "%s", camera.language().c_str());
     }
 
     std::optional<PageMistake> find_mistake(XMLElement& root)
@@ -125,8 +125,7 @@ private:
 
 } // namespace
 
-std::optional<PageMistake> find_page_mistake(Camera& camera, const std::string& language, const std::string& name,
-                                             const std::string& text)
+std::optional<PageMistake> find_page_mistake(Camera& camera, const std::string& name, const std::string& text)
 {
     if (name.size() >= OSD_TEXT_LEN) {
         return PageMistake{0, "the name of a page has at most 31 bytes"};
@@ -140,7 +139,7 @@ std::optional<PageMistake> find_page_mistake(Camera& camera, const std::string& 
         return PageMistake{0, "there is no element in it"};
     }
     const FaultPause honest; // a fault that is on says nothing about the page
-    std::optional<PageMistake> mistake = PageReader(camera, language, name).find_mistake(*root);
+    std::optional<PageMistake> mistake = PageReader(camera, name).find_mistake(*root);
     camera.forget_missing_texts(); // what was only tried is told when it's shown
     return mistake;
 }

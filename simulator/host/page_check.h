@@ -13,8 +13,7 @@ struct PageMistake {
     std::string reason;
 };
 
-/// Why the menu can't show the page with this text in a language; none when it can. Opens nothing.
-std::optional<PageMistake> find_page_mistake(Camera& camera, const std::string& language, const std::string& name,
-                                             const std::string& text);
+/// Why the menu can't show the page with this text in the present language; none when it can. Opens nothing.
+std::optional<PageMistake> find_page_mistake(Camera& camera, const std::string& name, const std::string& text);
 
 } // namespace sim

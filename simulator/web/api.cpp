@@ -5,10 +5,11 @@
 
 #include "simulator/core/errors.h"
 #include "simulator/core/log.h"
+#include "simulator/core/page_files.h"
 #include "simulator/core/settings_json.h"
-#include "simulator/core/text_file.h"
 #include "simulator/host/keys.h"
 #include "simulator/video/encode.h"
+#include "simulator/web/static_files.h"
 
 namespace sim {
 namespace {
@@ -23,25 +24,6 @@ constexpr std::size_t picture_piece = std::size_t{16} * 1024;
 constexpr int snapshot_quality = 92;
 constexpr std::chrono::seconds event_patience{1};
 constexpr std::size_t most_keys = 1000;
-
-struct FileKind {
-    const char* ending;
-    const char* content_type;
-};
-constexpr FileKind file_kinds[] = {{".html", "text/html; charset=utf-8"},
-                                   {".css", "text/css; charset=utf-8"},
-                                   {".js", "text/javascript; charset=utf-8"},
-                                   {".svg", "image/svg+xml"}};
-
-/// A name as our own files have it: no folder, no "..".
-bool is_file_name(const std::string& name)
-{
-    const auto is_plain = [](char c) {
-        return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '_' || c == '-';
-    };
-    const auto dot = std::find(name.begin(), name.end(), '.');
-    return dot != name.begin() && std::all_of(name.begin(), dot, is_plain);
-}
 
 void start_event_stream(httplib::Response& response, std::function<bool(httplib::DataSink&)> write)
 {
@@ -139,7 +121,7 @@ void Api::dispatch(const httplib::Request& request, httplib::Response& response)
             allowed += (allowed.empty() ? "" : ", ") + std::string(route.method);
         }
     }
-    if (allowed.empty() && serve_file(request, response)) {
+    if (allowed.empty() && serve_page_file(page_, request, response)) {
         return;
     }
     if (allowed.empty()) {
@@ -147,28 +129,6 @@ void Api::dispatch(const httplib::Request& request, httplib::Response& response)
     }
     response.set_header("Allow", allowed);
     throw HttpError(405, request.path + " takes " + allowed + ", not " + request.method);
-}
-
-/// Files are read anew for each request, so that the page can be worked on while the camera runs.
-bool Api::serve_file(const httplib::Request& request, httplib::Response& response) const
-{
-    const std::string name = request.path == "/" ? "index.html" : request.path.substr(1);
-    const std::size_t dot = name.find('.');
-    if (!is_file_name(name) || dot == std::string::npos) {
-        return false;
-    }
-    for (const FileKind& kind : file_kinds) {
-        if (name.substr(dot) == kind.ending && std::filesystem::is_regular_file(page_ / name)) {
-            if (request.method != "GET" && request.method != "HEAD") {
-                response.set_header("Allow", "GET");
-                throw HttpError(405, request.path + " takes GET, not " + request.method);
-            }
-            response.set_header("Cache-Control", "no-cache");
-            response.set_content(read_text_file(page_ / name), kind.content_type);
-            return true;
-        }
-    }
-    return false;
 }
 
 ChannelStream& Api::stream_of(const std::string& channel)

@@ -46,7 +46,6 @@ private:
     static const std::vector<Route>& routes();
 
     void dispatch(const httplib::Request& request, httplib::Response& response);
-    bool serve_file(const httplib::Request& request, httplib::Response& response) const;
 
     void get_channels(const Call& call);
     void get_stream(const Call& call);

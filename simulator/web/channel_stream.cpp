@@ -2,8 +2,6 @@
 
 #include <algorithm>
 #include <exception>
-#include <functional>
-#include <string_view>
 #include <utility>
 
 #include "simulator/core/log.h"
@@ -81,32 +79,30 @@ void ChannelStream::encode()
     changed_.notify_all();
 }
 
-/// Takes the failure of the picture before, 0 for none, and returns that of this one. Each is told when it comes, not 25
-/// times a second. It is kept as a number, because there may be no memory for its words.
-std::size_t ChannelStream::encode_or_tell(std::size_t before)
+/// Whether there was a picture. A failure is told when it begins, not 25 times a second.
+bool ChannelStream::encode_or_tell(bool told)
 {
     try {
         encode();
-        return 0;
+        return true;
     } catch (const std::exception& error) { // no memory: perhaps there is some for the next picture
-        const std::size_t failure = std::hash<std::string_view>()(error.what());
-        if (failure != before) {
+        if (!told) {
             log_line(LogLevel::Error, "stream", error.what());
         }
-        return failure;
+        return false;
     }
 }
 
 void ChannelStream::work()
 {
     auto due = Clock::now();
-    std::size_t failure = 0;
+    bool failing = false;
     while (wait_for_viewers()) {
         const auto begin = Clock::now();
         due =
             std::clamp(due + frame_time, begin, begin + frame_time); // however long drawing takes, or often pushes come
         const std::uint64_t seen = camera_.channels().changes();
-        failure = encode_or_tell(failure);
+        failing = !encode_or_tell(failing);
         (void)camera_.channels().wait_for_change(seen, due); // either way the next picture is due
         std::this_thread::sleep_until(begin + shortest_frame_time);
     }

@@ -3,7 +3,6 @@
 
 #include <chrono>
 #include <condition_variable>
-#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <mutex>
@@ -63,7 +62,7 @@ private:
     bool wait_for_viewers();
     bool has_frame() const;
     void encode();
-    std::size_t encode_or_tell(std::size_t before);
+    bool encode_or_tell(bool told);
 
     Camera& camera_;
     const int channel_;
