@@ -1,18 +1,17 @@
-// Changed values: when they count as changed, when they are committed, and when the host's function gets them.
+// Changed values: when they count as changed, when they are committed, and how the host's function gets them.
 #pragma once
 
 #include "menu/core/page.h"
-#include "osd_page.h"
+
+// Whether the item has a pending change.
+bool osdItemChanged(const tagITEM_NODE_S* pstItem);
 
 // Commit: the value shown becomes the value committed. Roll back: the reverse.
 void osdItemCommit(tagITEM_NODE_S* pstItem);
 void osdItemRollBack(tagITEM_NODE_S* pstItem);
 
-// Whether the item's change waits for the home key.
-inline bool osdItemWaits(const tagITEM_NODE_S* pstItem)
-{
-    return pstItem->enAttr == KEY_WITH_MSG || pstItem->enAttr == MSG_WITH_SUBITEM;
-}
+// Commits the option shown, whatever kind of value the item has: a number's committed value stays what it was.
+inline void osdItemCommitOption(tagITEM_NODE_S* pstItem) { pstItem->s32SavedIdx = pstItem->s32CurIdx; }
 
 // Hands an item to the host's function, which may close pages and build them anew: the item must not be touched behind
 // this call.
