@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Runs the benchmark program and prints a table of figures and gates: run_bench.py PROGRAM LIBRARY"""
+"""Runs the benchmark program and prints a table of figures and gates: run_bench.py PROGRAM LIBRARY [CASE]"""
 import pathlib
 import re
 import subprocess
@@ -57,7 +57,7 @@ def show_open(words):
     gate(f"open page {page}: allocations, one an item", allocations, allocations == items, items)
 
 
-def show_measures(program):
+def show_measures(program, cases):
     print(f"Microseconds of processor time by the library and by a replay of its calls; ratio: median of neighbours, "
           f"gate\n{REDRAW_RATIO}. Calls of SDL and its companions, and tests of files; surplus: more than the picture "
           "needs, missing:\nfewer (then bench/needed_calls.cpp is out of date); heap: allocations of the library's own; "
@@ -65,7 +65,7 @@ def show_measures(program):
     print(f"  {'redraw':<11}{'size':>6}{'format':>10}{'library':>10}{'replay':>10}{'ratio':>9}{'calls':>7}{'surplus':>9}"
           f"{'missing':>9}{'heap':>6}")
     show = {"redraw": show_redraw, "differs": show_difference, "open": show_open}
-    with subprocess.Popen([program], stdout=subprocess.PIPE, text=True) as measures:
+    with subprocess.Popen([program, *cases], stdout=subprocess.PIPE, text=True) as measures:
         for line in measures.stdout:
             kind, *words = line.split()
             if kind in show:
@@ -142,10 +142,10 @@ def show_size(library):
 
 
 def main():
-    if len(sys.argv) != 3:
+    if len(sys.argv) not in (3, 4):
         sys.exit(__doc__)
-    program, library = sys.argv[1:]
-    show_measures(program)
+    program, library, *cases = sys.argv[1:]
+    show_measures(program, cases)
     show_uncounted(library)
     show_instructions(program, library)
     show_size(library)
