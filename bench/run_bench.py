@@ -51,6 +51,11 @@ def show_difference(words):
     print(f"  {page}: {function} is called {made} times, needed are {needed}")
 
 
+def show_fault(words):
+    missed.append(" ".join(words))
+    print(f"  MISSED: {missed[-1]}")
+
+
 def show_open(words):
     page, library, load, ratio, items, allocations = words
     gate(f"open page {page}: {library} us, tinyxml2 alone {load} us", ratio, float(ratio) <= OPEN_RATIO, OPEN_RATIO)
@@ -58,15 +63,14 @@ def show_open(words):
 
 
 def show_measures(program, cases):
-    print(f"Microseconds of processor time by the library and by a replay of its calls; ratio: median of neighbours, "
-          f"gate\n{REDRAW_RATIO}. Calls of SDL and its companions, and tests of files; surplus: more than the picture "
-          "needs, missing:\nfewer (then bench/needed_calls.cpp is out of date); heap: allocations of the library's own; "
-          "gates 0.")
-    print(f"  {'redraw':<11}{'size':>6}{'format':>10}{'library':>10}{'replay':>10}{'ratio':>9}{'calls':>7}{'surplus':>9}"
-          f"{'missing':>9}{'heap':>6}")
-    show = {"redraw": show_redraw, "differs": show_difference, "open": show_open}
+    print("Microseconds of processor time by the library and by a replay of its calls; ratio: median of neighbours, gate\n"
+          f"{REDRAW_RATIO}. Calls of SDL and its companions, and tests of files; surplus: more than the picture needs, "
+          "missing:\nfewer (then bench/needed_calls.cpp is out of date); heap: allocations of the library's own; gates 0.")
+    print("  redraw       size    format   library    replay    ratio  calls  surplus  missing  heap")
+    show = {"redraw": show_redraw, "differs": show_difference, "fault": show_fault, "open": show_open}
+    lines = 0
     with subprocess.Popen([program, *cases], stdout=subprocess.PIPE, text=True) as measures:
-        for line in measures.stdout:
+        for lines, line in enumerate(measures.stdout, 1):
             kind, *words = line.split()
             if kind in show:
                 show[kind](words)
@@ -74,6 +78,8 @@ def show_measures(program, cases):
                 print(line, end="")
     if measures.returncode != 0:
         sys.exit(f"{program} failed with {measures.returncode}")
+    if lines == 0:
+        sys.exit(f"there is no case {' '.join(cases)}")
 
 
 def counted_names():
