@@ -63,9 +63,9 @@ def show_open(words):
 
 
 def show_measures(program, cases):
-    print("Microseconds of processor time by the library and by a replay of its calls; ratio: median of neighbours, gate\n"
-          f"{REDRAW_RATIO}. Calls of SDL and its companions, and tests of files; surplus: more than the picture needs, "
-          "missing:\nfewer (then bench/needed_calls.cpp is out of date); heap: allocations of the library's own; gates 0.")
+    print("Microseconds of processor time by the library and by a replay of its calls; ratio: median of neighbours,\n"
+          f"gate {REDRAW_RATIO}. Calls of SDL and its companions, and tests of files; surplus: more than the picture needs,\n"
+          "missing: fewer (then bench/needed_calls.cpp is out of date); heap: allocations of the library's own; gates 0.")
     print("  redraw       size    format   library    replay    ratio  calls  surplus  missing  heap")
     show = {"redraw": show_redraw, "differs": show_difference, "fault": show_fault, "open": show_open}
     lines = 0
