@@ -31,10 +31,8 @@ Balance balance_calls(const std::string& name, const bench::Record& record)
 {
     Balance balance;
     for (const bench::Difference& difference : bench::differences(name, record)) {
-        std::fprintf(own, "differs %s %s %d %d\n", name.c_str(), std::string(difference.function).c_str(),
-                     difference.made, difference.needed);
-        const int more = difference.made - difference.needed;
-        (more > 0 ? balance.surplus : balance.missing) += std::abs(more);
+        std::fprintf(own, "differs %s %s %d\n", name.c_str(), difference.function.c_str(), difference.more);
+        (difference.more > 0 ? balance.surplus : balance.missing) += std::abs(difference.more);
     }
     return balance;
 }

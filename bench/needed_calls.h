@@ -2,7 +2,7 @@
 // these are fixed numbers.
 #pragma once
 
-#include <string_view>
+#include <string>
 #include <vector>
 
 #include "bench/recorder.h"
@@ -10,12 +10,11 @@
 namespace bench {
 
 struct Difference {
-    std::string_view function;
-    int made;
-    int needed;
+    std::string function;
+    int more; // calls than needed; negative for fewer
 };
 
-// Where the record of a case differs from what it needs.
-std::vector<Difference> differences(std::string_view name, const Record& record);
+// Where the record of a case differs from what its picture needs.
+std::vector<Difference> differences(const std::string& name, const Record& record);
 
 } // namespace bench

@@ -47,8 +47,8 @@ def show_redraw(words):
 
 
 def show_difference(words):
-    page, function, made, needed = words
-    print(f"  {page}: {function} is called {made} times, needed are {needed}")
+    page, function, more = words
+    print(f"  {page}: calls of {function}: {int(more):+} against what the picture needs")
 
 
 def show_fault(words):
