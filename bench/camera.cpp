@@ -12,7 +12,7 @@
 #include <string>
 
 #include "bench/page.h"
-#include "menu/core/page.h"
+#include "osd_page.h"
 #include "platform/config_service.h"
 #include "platform/log_service.h"
 #include "platform/media_service.h"

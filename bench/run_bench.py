@@ -13,7 +13,7 @@ TEXT_BYTES = 100 * 1024
 
 # What the library calls at the start or while a page opens; a redraw must not.
 START_CALLS = {
-    "SDL_Init", "SDL_Quit", "IMG_Init", "IMG_Quit", "TTF_Init", "SDL_CreateRGBSurfaceWithFormatFrom",
+    "SDL_SetHint", "SDL_Init", "SDL_Quit", "IMG_Init", "IMG_Quit", "TTF_Init", "SDL_CreateRGBSurfaceWithFormatFrom",
 }
 
 missed = []
