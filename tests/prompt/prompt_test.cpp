@@ -141,6 +141,8 @@ TEST_F(PromptTest, ZoomRatio)
         EXPECT_EQ(OSD_PROMPT_ShowZoomRatio(ratio), 0);
     }
     EXPECT_EQ(at(gsZoomRatioOsdItem.stCanvas.stMenuRect), "1860,1064 120x32");
+    const OSD_PROMPT_COLOR_S& ground = gsZoomRatioOsdItem.stCfg.stBgColor; // its canvas keeps four bits of each
+    EXPECT_EQ(format("%d %d,%d,%d", ground.u8Alpha, ground.u8Red, ground.u8Green, ground.u8Blue), "128 0,0,0");
     EXPECT_THAT(linesOf({"fill", "blit", "push"}),
                 ElementsAre("fill 0,1 120x32 88000000", "blit plain 328 white '888.8X' at 0,1", "push 1",
                             "fill all 88000000", "blit plain 328 white '2.5X' at 20,1", "push 1", "fill all 88000000",
