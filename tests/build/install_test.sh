@@ -26,7 +26,7 @@ cmake -S "$here/host" -B "$work/host-cmake" -G Ninja -DCMAKE_PREFIX_PATH="$work/
 ninja -C "$work/host-cmake" >/dev/null
 export PKG_CONFIG_PATH=$lib/pkgconfig
 # shellcheck disable=SC2046
-g++ -std=c++17 "$here/host/main.cpp" -o "$work/host-pkgconfig" $(pkg-config --cflags --libs osdmenu tinyxml2)
+g++ -std=c++17 "$here"/host/*.cpp -o "$work/host-pkgconfig" $(pkg-config --cflags --libs osdmenu tinyxml2)
 
 # The product without its fonts has to refuse, cleanly; the same host opens the menu where there are fonts.
 expected=refuse
