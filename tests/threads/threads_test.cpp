@@ -41,15 +41,6 @@ void readPixels(OSD_BOOL, const tagOSD_MENU_CANVAS_S& canvas)
     (void)*static_cast<const volatile unsigned char*>(canvas.stMem.pvVirAddr);
 }
 
-int failures = 0;
-void expect(const char* what, int actual, int wanted)
-{
-    if (actual != wanted) {
-        std::printf("%s: %d, expected %d\n", what, actual, wanted);
-        failures++;
-    }
-}
-
 void keys()
 {
     OSD_MENU_HandleKeyDown();
@@ -130,5 +121,5 @@ int main()
     beside({redraw, redraw, refreshChannel, prompt, zoomRatio});
     expect("open fonts", fontList, 2);
     expect("blocks of media memory", g_blocks, 2);
-    return failures == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
+    return g_failures == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -1,7 +1,6 @@
 // The smallest host: it opens the menu of one page and looks at what is shown. The argument is what to expect: "open", or
 // "refuse" where the library's fonts are not installed.
 #include <cstdint>
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 
@@ -26,15 +25,6 @@ void look(OSD_BOOL, const tagOSD_MENU_CANVAS_S& canvas)
     }
 }
 
-int failures = 0;
-void expect(const char* what, int actual, int wanted)
-{
-    if (actual != wanted) {
-        std::printf("%s: %d, expected %d\n", what, actual, wanted);
-        failures++;
-    }
-}
-
 } // namespace
 
 int main(int argc, char** argv)
@@ -52,5 +42,5 @@ int main(int argc, char** argv)
     OSD_MENU_OpenMenu();
     expect("pushes", pushes, open ? 1 : 0);
     expect("white text shown", whitePixels > 0, open);
-    return failures == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
+    return g_failures == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -15,6 +15,16 @@ std::atomic<int> g_blocks{0};
 const char* g_page = "";
 void (*g_pushed)(OSD_BOOL, const tagOSD_MENU_CANVAS_S&) = nullptr;
 
+std::atomic<int> g_failures{0};
+
+void expect(const char* what, int actual, int wanted)
+{
+    if (actual != wanted) {
+        std::printf("%s: %d, expected %d\n", what, actual, wanted);
+        g_failures++;
+    }
+}
+
 static void write(char* field, const char* text) { std::snprintf(field, OSD_TEXT_LEN, "%s", text); }
 
 int MPP_AllocMem(const char*, uint32_t size, int, void* block)

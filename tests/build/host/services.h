@@ -9,3 +9,7 @@
 extern std::atomic<int> g_blocks;                               // of media memory, alive
 extern const char* g_page;                                      // the document of every page
 extern void (*g_pushed)(OSD_BOOL, const tagOSD_MENU_CANVAS_S&); // runs in each push to all channels
+
+// Prints what isn't as wanted, and counts it.
+extern std::atomic<int> g_failures;
+void expect(const char* what, int actual, int wanted);
