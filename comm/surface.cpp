@@ -1,4 +1,3 @@
-#include "comm/surface.h"
 
 #include <cstdio>
 #include <iterator>

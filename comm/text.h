@@ -6,6 +6,9 @@
 
 #include "osd_types.h"
 
+// A text field of the records, zero at its end included.
+using OSD_TEXT = char[OSD_TEXT_LEN];
+
 // Exact equality; mostly the first byte tells.
 inline bool osdTextEqual(const char* pcLeft, const char* pcRight)
 {

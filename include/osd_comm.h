@@ -27,6 +27,15 @@ OSD_API TTF_Font* OSD_COMM_OpenTraditionalChineseTtfFont(void);
  * first in a surface. Null on failure, with both blocks given back. */
 OSD_API SDL_Surface* OSD_COMM_CreateSurface(tagOSD_MENU_CANVAS_S* pstCanvas);
 
+/* The reverse: frees the surface, sets the caller's pointer to null and gives both blocks of the canvas back. -1 when
+ * the surface is null; with a null canvas 0 for a null surface, else -1, and nothing is freed. Prints no failure. In C
+ * the second argument is the address of the pointer, which is what C++ hands over for a reference. */
+#ifdef __cplusplus
+OSD_API int OSD_COMM_DestroySurface(tagOSD_MENU_CANVAS_S* pstCanvas, SDL_Surface*& pstSurface);
+#else
+OSD_API int OSD_COMM_DestroySurface(tagOSD_MENU_CANVAS_S* pstCanvas, SDL_Surface** ppstSurface);
+#endif
+
 /* Fills a rectangle with the menu's background colour; replaces pixels, doesn't blend. Prints nothing on failure. */
 OSD_API int OSD_COMM_DrawMenuBg(SDL_Surface* pstSurface, SDL_Rect stRect);
 

@@ -106,17 +106,33 @@ extern OSD_API uint32_t enMenuStyle;
 extern OSD_API pthread_mutex_t g_stMutex; /* held by OSD_MENU_RenderCanvas through one redraw and its push */
 extern OSD_API tagOSD_HANDLER_S gs_OsdHandler;
 
-/* Starts SDL (timer, haptic, events, sensor), SDL_image and SDL_ttf. What was started before a failure is shut down. */
+/* Starts SDL (timer, haptic, events, sensor), SDL_image and SDL_ttf. What was started before a failure is shut down.
+ * SDL's timer thread runs from then on; the host's signals stay its own. */
 OSD_API int OSD_MENU_InitOpensourceRes(void);
 
 /* Builds the manager, its canvas in media memory and the surface over it, and registers with the media service.
  * pstCfg                is copied
  * pfnBusinessFunc       never null
  * pfnGetDataZoneParent  may be null
- * On failure everything that was made is released and the menu refuses to draw. The host calls this once; a further
- * call closes the menu, releases canvas and fonts and builds them anew. */
+ * Clears gstPageMgr and gstMenuMgr and follows no pointer in them. On failure everything that was made is released and
+ * the menu refuses to draw. The host calls this once; before a further call, which releases canvas and fonts of the
+ * last successful one and builds them anew, it closes the menu. */
 OSD_API int OSD_MENU_InitSdkRes(tagOSD_MENU_CFG_S* pstCfg, OSD_BUSINESS_FUNC pfnBusinessFunc,
                                 OSD_DATA_ZONE_FUNC pfnGetDataZoneParent);
+
+/* Parts of OSD_MENU_InitSdkRes, for hosts that start step by step. The rectangles return 0. */
+
+/* The menu's rectangle from its fractions, each value rounded up to a multiple of 4; the base's own place is not added. */
+OSD_API int osdMenuCalcMenuRect(SDL_Rect* pstBase, tagOSD_MENU_RECT_S* pstFrac, SDL_Rect* pstOut);
+
+/* The popup in the middle of the menu: a quarter of its width and height. */
+OSD_API int osdMenuCalcPopRect(SDL_Rect* pstMenu, SDL_Rect* pstOut);
+
+/* The popup with message: two thirds of the menu's width, a quarter of its height. */
+OSD_API int osdMenuCalcPopWithMsgRect(SDL_Rect* pstMenu, SDL_Rect* pstOut);
+
+/* Opens the two fonts and makes the surface over the canvas. Returns 0, or -1 with nothing left open. */
+OSD_API int osdMenuCreatSurface(tagOSD_MENU_MGR_S* pstMgr);
 
 /* Opens the root page "main" when the menu is closed, and draws; does nothing when it is open. Returns 0. */
 OSD_API int OSD_MENU_OpenMenu(void);
@@ -211,9 +227,6 @@ OSD_API OSD_BOOL osdXmlIsInNetworkPage(void);
 OSD_API OSD_BOOL osdXmlIsOnOfViewFollowExposure(void);
 OSD_API OSD_BOOL osdXmlIsOnOfViewFollowWB(void);
 
-/* Counts the digits and the dots of an edited address, up to and with the character under the cursor. Returns 0. */
-OSD_API int osdMenuCalcInfoBeforeCursor(tagITEM_NODE_S* pstItemNode, int* ps32Digits, int* ps32Dots);
-
 /* Fills pstPage from the file of the page; the caller chooses the record and counts it in gstPageMgr.s32PageCnt.
  * The record must hold no items. Whatever the failure, pstPage->stItemList is a valid list afterwards. */
 OSD_API int OSD_MENU_ParseXml(char* pcPageName, tagPAGE_NODE_S* pstPage);
@@ -236,6 +249,36 @@ OSD_API int OSD_MENU_RenderVerticalItem(tagITEM_NODE_S* pstItemNode, SDL_Rect* p
 OSD_API int OSD_MENU_RenderVerticalTolvaneItem(tagITEM_NODE_S* pstItemNode, SDL_Rect* pstLayoutCursor,
                                                OSD_BOOL bSelected);
 OSD_API int OSD_MENU_RenderVerticalKETHItem(tagITEM_NODE_S* pstItemNode, SDL_Rect* pstLayoutCursor, OSD_BOOL bSelected);
+
+/* Draw one item of a popup and move pstLayoutCursor to its line; sub-items aren't drawn. The cursor stays on failure. */
+OSD_API int OSD_MENU_RenderHorizontalItem(tagITEM_NODE_S* pstItemNode, SDL_Rect* pstLayoutCursor, OSD_BOOL bSelected);
+OSD_API int OSD_MENU_RenderHorizontalItemWithKETH(tagITEM_NODE_S* pstItemNode, SDL_Rect* pstLayoutCursor,
+                                                  OSD_BOOL bSelected);
+
+/* Draws the cell of an icon page at the item's stRect. -1 where the font's size, the picture or the caption can't be
+ * had. */
+OSD_API int OSD_MENU_RenderIconText(tagITEM_NODE_S* pstItemNode, OSD_BOOL bSelected);
+
+/* Draws the key hints at the foot of a Tolvane list that fit the item; -1 at the first that can't be had. */
+OSD_API int OSD_MENU_RenderBelowIcon(tagITEM_NODE_S* pstItemNode);
+
+/* Parts of the paged list. */
+
+/* Draws the arrows that tell which way the page turns, or none. Returns 0. */
+OSD_API int osdMenuDrawTurnArrow(tagPAGE_TURN_S* pstTurn);
+
+/* Draws the title and the rule under it; pstLayoutCursor stands on the rule afterwards, and stays on failure. bSelected
+ * isn't read. */
+OSD_API int OSD_MENU_RenderTitleKETHItem(tagITEM_NODE_S* pstItemNode, SDL_Rect* pstLayoutCursor, OSD_BOOL bSelected);
+
+/* Places and draws the label of a row, with its separator line and its arrow. Gives the place and the surface, which is
+ * the caller's. A separator takes pstLayoutCursor with it, on failure too. -1 without a surface. */
+OSD_API int OSD_MENU_DrawItemName(tagITEM_NODE_S* pstItemNode, SDL_Rect* pstLayoutCursor, int s32FontSize,
+                                  OSD_BOOL bBright, SDL_Rect* pstNameRect, SDL_Surface** ppstSurface);
+
+/* Draws the label at stRect, a button's behind its picture. The surface is the caller's. -1 without one. */
+OSD_API int OSD_MENU_RenderTxt(tagITEM_NODE_S* pstItemNode, SDL_Rect stRect, int s32FontSize, SDL_Surface** ppstSurface,
+                               OSD_BOOL bBright);
 
 /* Blits the whole of pstSrc onto the canvas at stDst.x, stDst.y; a null pstSrc draws nothing. Returns 0. */
 OSD_API int OSD_MENU_FillData2Canvas(SDL_Surface* pstSrc, SDL_Rect stDst);

@@ -8,7 +8,6 @@
 
 #include "comm/arith.h"
 #include "comm/guard.h"
-#include "comm/surface.h"
 #include "osd_comm.h"
 #include "platform/media_service.h"
 
@@ -24,15 +23,21 @@ static SDL_Color osdPromptColor(const OSD_PROMPT_COLOR_S& stColor)
     return {stColor.u8Red, stColor.u8Green, stColor.u8Blue, stColor.u8Alpha};
 }
 
-// The text in a font that is open for this text alone; null on failure.
-static OSD_SURFACE_PTR osdPromptText(const OSD_PROMPT_CFG_S& stCfg, const char* pcText)
+// A text, and the font that is open for this text alone. The text goes first.
+struct tagPROMPT_TEXT_S {
+    OSD_FONT_PTR pstFont;
+    OSD_SURFACE_PTR pstTxt; // null on failure
+};
+
+static tagPROMPT_TEXT_S osdPromptText(const OSD_PROMPT_CFG_S& stCfg, const char* pcText)
 {
-    const OSD_FONT_PTR pstFont(OSD_COMM_OpenTtfFont());
-    if (pstFont == nullptr) {
-        return nullptr;
+    tagPROMPT_TEXT_S stText = {OSD_FONT_PTR(OSD_COMM_OpenTtfFont()), nullptr};
+    TTF_Font* pstFont = stText.pstFont.get();
+    if (pstFont != nullptr) {
+        (void)TTF_SetFontSize(pstFont, osdClampS32(int64_t{stCfg.u32FontSize} * 2)); // else the size it opened with
+        stText.pstTxt.reset(TTF_RenderUTF8_Blended(pstFont, pcText, osdPromptColor(stCfg.stTxtColor)));
     }
-    (void)TTF_SetFontSize(pstFont.get(), osdClampS32(int64_t{stCfg.u32FontSize} * 2)); // else the size it opened with
-    return OSD_SURFACE_PTR(TTF_RenderUTF8_Blended(pstFont.get(), pcText, osdPromptColor(stCfg.stTxtColor)));
+    return stText;
 }
 
 static void osdPromptFill(SDL_Surface* pstSurface, const SDL_Rect* pstRect, const OSD_PROMPT_COLOR_S& stColor)
@@ -68,22 +73,25 @@ int OSD_PROMPT_CreateEx(OSD_PROMPT_HANDLER_S* pstHandler, OSD_PROMPT_CFG_S stCfg
     pstHandler->stCfg = stCfg;
     pstHandler->stCanvas.stBaseRect = gs_stPromptBase;
     pstHandler->stCanvas.enPixFmt = gs_u32PromptPixFmt;
-    const OSD_SURFACE_PTR pstTxt = osdPromptText(stCfg, pcText);
+    tagPROMPT_TEXT_S stText = osdPromptText(stCfg, pcText);
+    SDL_Surface* pstTxt = stText.pstTxt.get();
     if (pstTxt == nullptr) {
         return -1;
     }
-    SDL_Rect stOnCanvas = osdPromptPlace(pstHandler, pstTxt.get());
+    SDL_Rect stOnCanvas = osdPromptPlace(pstHandler, pstTxt);
     pstHandler->pstSurface = OSD_COMM_CreateSurface(&pstHandler->stCanvas);
     if (pstHandler->pstSurface == nullptr) {
         return -1;
     }
     osdPromptFill(pstHandler->pstSurface, &stOnCanvas, stCfg.stBgColor);
-    (void)SDL_UpperBlit(pstTxt.get(), nullptr, pstHandler->pstSurface, &stOnCanvas);
+    (void)SDL_UpperBlit(pstTxt, nullptr, pstHandler->pstSurface, &stOnCanvas);
     if (MPP_MENU_UpdateCanvasToAllChns(1, &pstHandler->stCanvas) != 0) {
         (void)puts("failed update all target");
         (void)OSD_COMM_DestroySurface(&pstHandler->stCanvas, pstHandler->pstSurface); // 0, as there is a surface
+        stText.pstFont.reset();                                                       // the font goes first here
         return -1;
     }
+    stText.pstFont.reset();
     return 0;
 }
 
@@ -92,14 +100,15 @@ int OSD_PROMPT_UpdateTextEx(OSD_PROMPT_HANDLER_S* pstHandler, OSD_PROMPT_CFG_S s
     if (pstHandler->pstSurface == nullptr) {
         return -1;
     }
-    const OSD_SURFACE_PTR pstTxt = osdPromptText(stCfg, pcText);
+    const tagPROMPT_TEXT_S stText = osdPromptText(stCfg, pcText);
+    SDL_Surface* pstTxt = stText.pstTxt.get();
     if (pstTxt == nullptr) {
         return -1;
     }
     const SDL_Rect& stCanvas = pstHandler->stCanvas.stMenuRect;
     SDL_Rect stMiddle = {(stCanvas.w - pstTxt->w) / 2, (stCanvas.h - pstTxt->h) / 2, 0, 0};
     osdPromptFill(pstHandler->pstSurface, nullptr, stCfg.stBgColor);
-    (void)SDL_UpperBlit(pstTxt.get(), nullptr, pstHandler->pstSurface, &stMiddle);
+    (void)SDL_UpperBlit(pstTxt, nullptr, pstHandler->pstSurface, &stMiddle);
     (void)MPP_MENU_UpdateCanvasToAllChns(1, &pstHandler->stCanvas); // the canvas is on the channels already
     return 0;
 }

@@ -1,6 +1,7 @@
 #include "menu/core/attr.h"
 
 #include <iterator>
+#include <string_view>
 
 #include "comm/log.h"
 
@@ -10,6 +11,17 @@ static constexpr char gs_aacAttrName[][16] = { // in the order of tagATTR_ID_E, 
     "Msg",       "NextPage",   "NumOfChar",       "Pic",          "PicType",  "PrevPage",    "RdOnly",
     "SelectPic", "ShowValue",  "SubPage",         "Title",        "TitlePos", "ValType",     "Value"};
 static_assert(std::size(gs_aacAttrName) == ATTR_ID_CNT);
+
+static constexpr bool osdAttrNamesAscend()
+{
+    for (size_t i = 1; i < ATTR_ID_CNT; i++) {
+        if (std::string_view(gs_aacAttrName[i - 1]) >= gs_aacAttrName[i]) {
+            return false;
+        }
+    }
+    return true;
+}
+static_assert(osdAttrNamesAscend(), "a name is found from the first one with its letter on");
 
 struct tagLETTER_INDEX_S {
     uint8_t au8First[26]; // place of the first name with this letter or a later one
@@ -47,8 +59,8 @@ static size_t osdAttrId(const char* pcName)
 tagATTR_SET_S osdAttrCollect(const tinyxml2::XMLElement* pstElem)
 {
     tagATTR_SET_S stSet = {pstElem, {}};
-    for (const tinyxml2::XMLAttribute* pstAttr = pstElem->FirstAttribute(); pstAttr != nullptr;
-         pstAttr = pstAttr->Next()) {
+    const tinyxml2::XMLAttribute* pstAttr = pstElem != nullptr ? pstElem->FirstAttribute() : nullptr;
+    for (; pstAttr != nullptr; pstAttr = pstAttr->Next()) {
         const size_t u32Id = osdAttrId(pstAttr->Name());
         if (u32Id < ATTR_ID_CNT) {
             stSet.apstAttr[u32Id] = pstAttr;

@@ -44,6 +44,7 @@ struct tagATTR_SET_S {
     const tinyxml2::XMLAttribute* apstAttr[ATTR_ID_CNT]; // null where absent
 };
 
+// Without an element every attribute is absent.
 tagATTR_SET_S osdAttrCollect(const tinyxml2::XMLElement* pstElem);
 
 inline bool osdAttrIsThere(const tagATTR_SET_S& stSet, tagATTR_ID_E enId) { return stSet.apstAttr[enId] != nullptr; }

@@ -6,7 +6,7 @@
 #include "menu/core/page_parse.h"
 #include "menu/core/words.h"
 #include "osd_comm.h"
-#include "osd_menu.h"
+#include "osd_page.h"
 #include "platform/media_service.h"
 
 pthread_mutex_t g_stMutex = PTHREAD_MUTEX_INITIALIZER;

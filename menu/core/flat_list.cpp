@@ -96,8 +96,22 @@ static tagITEM_NODE_S* osdFlatOwnerOnStack(const list_head* pstLink)
     return nullptr;
 }
 
-tagITEM_NODE_S* osdFlatPrev(const tagITEM_NODE_S* pstItem) { return osdFlatOwnerOnStack(pstItem->stTmpNode.prev); }
-tagITEM_NODE_S* osdFlatNext(const tagITEM_NODE_S* pstItem) { return osdFlatOwnerOnStack(pstItem->stTmpNode.next); }
+static tagITEM_NODE_S* osdFlatNeighbour(const tagITEM_NODE_S* pstItem, list_head* pstLink)
+{
+    if (osdFlatOwnerOnStack(&pstItem->stTmpNode) != nullptr) {
+        return osdFlatOwnerOnStack(pstLink);
+    }
+    return pstLink != nullptr ? osdFlatItem(pstLink) : nullptr;
+}
+
+tagITEM_NODE_S* osdFlatPrev(const tagITEM_NODE_S* pstItem)
+{
+    return osdFlatNeighbour(pstItem, pstItem->stTmpNode.prev);
+}
+tagITEM_NODE_S* osdFlatNext(const tagITEM_NODE_S* pstItem)
+{
+    return osdFlatNeighbour(pstItem, pstItem->stTmpNode.next);
+}
 
 // On an icon page the position alone names the selected item.
 static tagITEM_NODE_S* osdIconSelected(tagPAGE_NODE_S* pstPage)

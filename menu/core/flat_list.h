@@ -2,6 +2,7 @@
 #pragma once
 
 #include "comm/list.h"
+#include "osd_page.h"
 
 // A walk takes the next link before it hands out an item, so the item may be released in the loop's body.
 //     for (tagITEM_NODE_S* pstItem : osdItems(&pstPage->stItemList)) ...
@@ -60,8 +61,9 @@ void osdPageFlatten(tagPAGE_NODE_S* pstPage, list_head* pstHead);
 // The first item of a flattened list that holds the cursor, or null.
 tagITEM_NODE_S* osdFlatActive(list_head* pstHead);
 
-// The item that stood right before (next: right behind) in the most recent flattened list, or null at its end. The
-// head of that list may be gone, so the link is believed only when it is one of an item of an open page.
+// The item that stood right before (next: right behind) in the most recent flattened list, or null at its end. The head
+// of that list may be gone, so the link of an open page's item is believed only when it leads to such an item; the link
+// of any other item is its owner's, and taken as it stands.
 tagITEM_NODE_S* osdFlatPrev(const tagITEM_NODE_S* pstItem);
 tagITEM_NODE_S* osdFlatNext(const tagITEM_NODE_S* pstItem);
 
@@ -70,17 +72,3 @@ list_head* osdItemSubList(tagITEM_NODE_S* pstItem, int32_t s32Option);
 
 // The label of an option; empty where there is no such option. May lack its end on an item that holds numbers.
 const char (&osdItemOption(const tagITEM_NODE_S* pstItem, int32_t s32Option))[OSD_TEXT_LEN];
-
-extern "C" {
-// 1 when the item has sub-items for its current option.
-OSD_API OSD_BOOL osdMenuHasSubItem(tagITEM_NODE_S* pstItemNode);
-
-// Appends the item and its visible sub-items, depth first, to a flattened list. Returns 0.
-OSD_API int osdMenuInsertItems2TmpList(tagITEM_NODE_S* pstItemNode, list_head* pstHead);
-
-// The page's selected item, or null.
-OSD_API tagITEM_NODE_S* osdMenuGetSelectedItem(tagPAGE_NODE_S* pstPage);
-
-// 1 when a direct sub-item under the current option has the cursor.
-OSD_API OSD_BOOL osdMenuIsSubItemSelected(tagITEM_NODE_S* pstItemNode);
-}

@@ -8,7 +8,7 @@
 #include "menu/core/page.h"
 #include "menu/core/page_parse.h"
 #include "menu/core/value_bind.h"
-#include "osd_menu.h"
+#include "osd_page.h"
 #include "platform/config_call.h"
 
 static int osdItemReadLabel(const char* pcLanguage, const tagATTR_SET_S& stSet, tagITEM_NODE_S* pstItem)
@@ -174,11 +174,6 @@ static int osdItemReadByAttr(char* pcLanguage, tinyxml2::XMLElement* pstElem, co
 
 static int osdItemRead(char* pcLanguage, tinyxml2::XMLElement* pstElem, tagITEM_NODE_S* pstItem)
 {
-    if (pstItem->enLevel > OSD_ITEM_DEPTH_MAX) {
-        OSD_LOG(OSD_LOG_LEVEL_ERR, "line %d: items nest deeper than %d levels\n", pstElem->GetLineNum(),
-                OSD_ITEM_DEPTH_MAX);
-        return -1;
-    }
     const tagATTR_SET_S stSet = osdAttrCollect(pstElem);
     if (osdItemReadLabel(pcLanguage, stSet, pstItem) != 0 || osdItemReadContext(stSet, pstItem) != 0 ||
         osdItemReadAttr(stSet, pstItem) != 0) {

@@ -1,5 +1,5 @@
-#include "menu/core/language.h"
 
+#include "osd_page.h"
 #include <algorithm>
 
 #include "comm/log.h"

@@ -1,5 +1,5 @@
-#include "menu/core/manager.h"
 
+#include "osd_page.h"
 #include <SDL_image.h>
 
 #include <cstdio>
@@ -7,7 +7,6 @@
 #include "comm/arith.h"
 #include "comm/guard.h"
 #include "comm/log.h"
-#include "comm/surface.h"
 #include "menu/core/page.h"
 #include "osd_comm.h"
 #include "platform/media_service.h"
@@ -24,6 +23,7 @@ static_assert(gs_u32SdlParts == 0xD001, "neither video nor audio");
 
 int OSD_MENU_InitOpensourceRes()
 {
+    (void)SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1"); // SIGINT and SIGTERM are the host's
     const int s32Ret = SDL_Init(gs_u32SdlParts);
     if (s32Ret == -1) {
         osdTrace("SDL Init Fail, s32Ret = %d\n", s32Ret);
@@ -101,17 +101,15 @@ int osdMenuCreatSurface(tagOSD_MENU_MGR_S* pstMgr)
     return 0;
 }
 
-// What an earlier start left: pages, the canvas on the channels, surface, fonts.
+// What the last successful start made. The managers themselves are the host's to write, so nothing in them is freed.
+static tagOSD_MENU_MGR_S gs_stStarted;
+
 static void osdManagerDrop()
 {
-    while (osdXmlGetCurPage() != nullptr) {
-        (void)osdMenuReleaseSinglePage(); // always 0
-    }
-    if (gstMenuMgr.pstSurface != nullptr) {
-        (void)OSD_MENU_RenderCanvas(); // hides the overlay before its memory goes
-        (void)OSD_COMM_DestroySurface(&gstMenuMgr.stCanvas, gstMenuMgr.pstSurface); // 0, as there is a surface
-        osdFontDrop(&gstMenuMgr.pstSelectFont);
-        osdFontDrop(&gstMenuMgr.pstFont);
+    if (gs_stStarted.pstSurface != nullptr) {
+        (void)OSD_COMM_DestroySurface(&gs_stStarted.stCanvas, gs_stStarted.pstSurface); // 0, as there is a surface
+        osdFontDrop(&gs_stStarted.pstSelectFont);
+        osdFontDrop(&gs_stStarted.pstFont);
     }
 }
 
@@ -153,6 +151,7 @@ int OSD_MENU_InitSdkRes(tagOSD_MENU_CFG_S* pstCfg, OSD_BUSINESS_FUNC pfnBusiness
         OSD_LOG(OSD_LOG_LEVEL_ERR, " failed\n");
         return -1;
     }
+    gs_stStarted = gstMenuMgr;
     (void)MPP_MENU_SetMenuCb(OSD_MENU_UpdateCanvas); // the service has no way to refuse
     return 0;
 }

@@ -4,19 +4,7 @@
 #include <algorithm>
 #include <memory>
 
-#include "osd_records.h"
-
-extern "C" {
-// The top page, or null with no page open.
-OSD_API tagPAGE_NODE_S* osdXmlGetCurPage();
-
-// Frees the item and all items below it. Returns 0.
-OSD_API int osdMenuReleaseItem(tagITEM_NODE_S* pstItemNode);
-
-// Frees the top page's items, clears its record and lowers the page count; uncommitted values are gone. Returns 0, also
-// with no page open.
-OSD_API int osdMenuReleaseSinglePage();
-}
+#include "osd_page.h"
 
 // How many records of a stack hold pages, whatever its count says.
 inline int32_t osdPageCnt(const tagPAGE_MGR_S* pstMgr)

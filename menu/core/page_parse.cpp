@@ -8,7 +8,7 @@
 #include "comm/log.h"
 #include "comm/paths.h"
 #include "menu/core/attr.h"
-#include "osd_menu.h"
+#include "osd_page.h"
 #include "platform/config_call.h"
 
 static int osdPageReadLayout(const tagATTR_SET_S& stSet, tagPAGE_NODE_S* pstPage)

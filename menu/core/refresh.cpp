@@ -4,7 +4,7 @@
 #include "menu/core/page.h"
 #include "menu/core/page_parse.h"
 #include "menu/core/value_bind.h"
-#include "osd_menu.h"
+#include "osd_page.h"
 
 int OSD_MENU_RefreshCurrentPage()
 {

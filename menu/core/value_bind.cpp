@@ -15,20 +15,19 @@ static const char* osdBindParent(const char* pcDataZone)
 }
 
 // Records are cleared first: what the service doesn't fill reads as empty.
-static tagCFG_VALUE_TXT_S osdBindTxt(const char* pcKey, const char* pcDataZone)
+static tagCFG_VALUE_TXT_S osdBindTxt(const char* pcParent, const char* pcKey)
 {
     tagCFG_VALUE_TXT_S stTxt = {};
-    osdCfgGetTxt(osdBindParent(pcDataZone), pcKey, &stTxt);
+    osdCfgGetTxt(pcParent, pcKey, &stTxt);
     return stTxt;
 }
 
 // The integer record of an item; the LED keys take their byte out of the one colour.
-static tagCFG_VALUE_INT_S osdBindInt(const tagITEM_NODE_S* pstItem)
+static tagCFG_VALUE_INT_S osdBindInt(const char* pcParent, const tagITEM_NODE_S* pstItem)
 {
     const tagLED_BYTE_S* pstByte = osdLedByteFind(pstItem->acItemIndex);
     tagCFG_VALUE_INT_S stInt = {};
-    osdCfgGetInt(osdBindParent(pstItem->acDataZone), pstByte != nullptr ? OSD_KEY_LED_COLOR : pstItem->acItemIndex,
-                 &stInt);
+    osdCfgGetInt(pcParent, pstByte != nullptr ? OSD_KEY_LED_COLOR : pstItem->acItemIndex, &stInt);
     if (pstByte != nullptr) {
         stInt.s32Max = 255;
         stInt.s32Cur = static_cast<int32_t>((static_cast<uint32_t>(stInt.s32Cur) >> pstByte->u32Shift) & 0xFFU);
@@ -68,9 +67,9 @@ static void osdBindOptions(const char* pcLanguage, tagITEM_NODE_S* pstItem, cons
     }
 }
 
-static void osdBindNumber(tagITEM_NODE_S* pstItem)
+static void osdBindNumber(const char* pcParent, tagITEM_NODE_S* pstItem)
 {
-    const tagCFG_VALUE_INT_S stInt = osdBindInt(pstItem);
+    const tagCFG_VALUE_INT_S stInt = osdBindInt(pcParent, pstItem);
     pstItem->s32Min = stInt.s32Min;
     pstItem->s32Max = stInt.s32Max;
     pstItem->s32Reserved = stInt.s32Reserved;
@@ -79,13 +78,13 @@ static void osdBindNumber(tagITEM_NODE_S* pstItem)
     pstItem->s32Saved = stInt.s32Cur;
 }
 
-static void osdBindValue(const char* pcLanguage, tagITEM_NODE_S* pstItem)
+static void osdBindValue(const char* pcLanguage, const char* pcParent, tagITEM_NODE_S* pstItem)
 {
     if (pstItem->enValType == NUMERICAL) {
-        osdBindNumber(pstItem);
+        osdBindNumber(pcParent, pstItem);
         return;
     }
-    const tagCFG_VALUE_TXT_S stTxt = osdBindTxt(pstItem->acItemIndex, pstItem->acDataZone);
+    const tagCFG_VALUE_TXT_S stTxt = osdBindTxt(pcParent, pstItem->acItemIndex);
     osdBindOptions(pcLanguage, pstItem, stTxt);
     osdBindSelect(pstItem, stTxt);
 }
@@ -106,6 +105,13 @@ static int osdBindButton(const char* pcLanguage, const tagATTR_SET_S& stSet, tag
     return 0;
 }
 
+static void osdBindEditable(const char* pcParent, tagITEM_NODE_S* pstItem)
+{
+    const tagCFG_VALUE_TXT_S stTxt = osdBindTxt(pcParent, pstItem->acItemIndex);
+    osdTextSetField(pstItem->acValue[0], stTxt.acValue);
+    osdTextSetField(pstItem->acValue[1], stTxt.acValue);
+}
+
 int osdXmlFillItemParam(char* pcLanguage, tinyxml2::XMLElement* pstElem, tagITEM_NODE_S* pstItemNode)
 {
     return osdValueBind(pcLanguage, osdAttrCollect(pstElem), pstItemNode);
@@ -116,20 +122,21 @@ int osdValueBind(char* pcLanguage, const tagATTR_SET_S& stSet, tagITEM_NODE_S* p
     if (!osdContextHasValue(pstItemNode->enCtx)) {
         return 0;
     }
+    const char* pcParent = osdBindParent(pstItemNode->acDataZone); // asked once, whatever the kind
     switch (pstItemNode->enAttr) {
     case CONFIRM:
     case CONFIRM_POP:
         return osdBindButton(pcLanguage, stSet, pstItemNode);
     case SUBITEM:
     case MSG_WITH_SUBITEM: // the options came from the page file
-        osdBindSelect(pstItemNode, osdBindTxt(pstItemNode->acItemIndex, pstItemNode->acDataZone));
+        osdBindSelect(pstItemNode, osdBindTxt(pcParent, pstItemNode->acItemIndex));
         return 0;
     case KEY_WITH_MSG:
     case COMMON:
-        osdBindValue(pcLanguage, pstItemNode);
+        osdBindValue(pcLanguage, pcParent, pstItemNode);
         return 0;
     case EDITABLE:
-        osdXmlFillEditableValue(pstItemNode);
+        osdBindEditable(pcParent, pstItemNode);
         return 0;
     case STATUS:
         return osdXmlParseStatusParam(pcLanguage, pstItemNode);
@@ -146,19 +153,17 @@ int osdValueBind(char* pcLanguage, const tagATTR_SET_S& stSet, tagITEM_NODE_S* p
 int osdMenuGetItemValue(tagITEM_NODE_S* pstItemNode)
 {
     if (pstItemNode->enValType == NUMERICAL) {
-        pstItemNode->s32Cur = osdBindInt(pstItemNode).s32Cur;
+        pstItemNode->s32Cur = osdBindInt(osdBindParent(pstItemNode->acDataZone), pstItemNode).s32Cur;
         pstItemNode->s32Saved = pstItemNode->s32Cur;
     } else if (pstItemNode->enValType == OPTTXT) {
-        osdBindSelect(pstItemNode, osdBindTxt(pstItemNode->acItemIndex, pstItemNode->acDataZone));
+        osdBindSelect(pstItemNode, osdBindTxt(osdBindParent(pstItemNode->acDataZone), pstItemNode->acItemIndex));
     }
     return 0;
 }
 
 void osdXmlFillEditableValue(tagITEM_NODE_S* pstItemNode)
 {
-    const tagCFG_VALUE_TXT_S stTxt = osdBindTxt(pstItemNode->acItemIndex, pstItemNode->acDataZone);
-    osdTextSetField(pstItemNode->acValue[0], stTxt.acValue);
-    osdTextSetField(pstItemNode->acValue[1], stTxt.acValue);
+    osdBindEditable(osdBindParent(pstItemNode->acDataZone), pstItemNode);
 }
 
 static void osdBindSubItems(tagITEM_NODE_S* pstItem)
@@ -206,7 +211,7 @@ int osdMenuUpdateSubItems(tagITEM_NODE_S* pstItemNode)
 
 int osdMenuGetTxtValue(char* pcKey, char* pcDataZone, char* pcOut)
 {
-    const tagCFG_VALUE_TXT_S stTxt = osdBindTxt(pcKey, pcDataZone);
+    const tagCFG_VALUE_TXT_S stTxt = osdBindTxt(osdBindParent(pcDataZone), pcKey);
     osdTextCopy(pcOut, sizeof(stTxt.acValue), stTxt.acValue, sizeof(stTxt.acValue));
     return 0;
 }

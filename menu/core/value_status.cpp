@@ -5,7 +5,7 @@
 #include "platform/config_call.h"
 
 struct tagSTATUS_SOURCE_S;
-using OSD_STATUS_FUNC = void (*)(const tagSTATUS_SOURCE_S&, const char* pcLanguage, tagITEM_NODE_S*);
+using OSD_STATUS_FUNC = void (*)(const tagSTATUS_SOURCE_S&, const char* pcLanguage, OSD_TEXT& acText);
 
 struct tagSTATUS_SOURCE_S {
     const char* pcKey;
@@ -24,33 +24,32 @@ static void osdStatusAsk(tagOSD_MENU_GET_EVENT_E enEvent, tagOSD_MENU_CONTROL_PA
     }
 }
 
-static void osdStatusFromHost(const tagSTATUS_SOURCE_S& stSource, const char* /*pcLanguage*/, tagITEM_NODE_S* pstItem)
+static void osdStatusFromHost(const tagSTATUS_SOURCE_S& stSource, const char* /*pcLanguage*/, OSD_TEXT& acText)
 {
     tagOSD_MENU_CONTROL_PARAM_S stAnswer;
     osdStatusAsk(stSource.enEvent, &stAnswer);
-    osdTextSetField(pstItem->acValue[0], stAnswer.acText);
+    osdTextSetField(acText, stAnswer.acText);
 }
 
-static void osdStatusTranslated(const tagSTATUS_SOURCE_S& stSource, const char* pcLanguage, tagITEM_NODE_S* pstItem)
+static void osdStatusTranslated(const tagSTATUS_SOURCE_S& stSource, const char* pcLanguage, OSD_TEXT& acText)
 {
     tagOSD_MENU_CONTROL_PARAM_S stAnswer;
     osdStatusAsk(stSource.enEvent, &stAnswer);
-    (void)osdCfgTranslate(pcLanguage, stAnswer.acText, pstItem->acValue[0]);
+    (void)osdCfgTranslate(pcLanguage, stAnswer.acText, acText);
 }
 
-static void osdStatusFromConfig(const tagSTATUS_SOURCE_S& stSource, const char* /*pcLanguage*/, tagITEM_NODE_S* pstItem)
+static void osdStatusFromConfig(const tagSTATUS_SOURCE_S& stSource, const char* /*pcLanguage*/, OSD_TEXT& acText)
 {
     tagCFG_VALUE_TXT_S stTxt = {};
     osdCfgGetTxt(stSource.pcParent, stSource.pcKey, &stTxt);
-    osdTextSetField(pstItem->acValue[0], stTxt.acValue);
+    osdTextSetField(acText, stTxt.acValue);
 }
 
-static void osdStatusFromDevice(const tagSTATUS_SOURCE_S& /*stSource*/, const char* /*pcLanguage*/,
-                                tagITEM_NODE_S* pstItem)
+static void osdStatusFromDevice(const tagSTATUS_SOURCE_S& /*stSource*/, const char* /*pcLanguage*/, OSD_TEXT& acText)
 {
     tagDEV_ATTR_CONTENT_S stAttr = {};
     (void)BSP_PARTITION_GetDevAttribute(&stAttr); // the record counts, not the result
-    osdTextSetField(pstItem->acValue[0], stAttr.acDeviceType);
+    osdTextSetField(acText, stAttr.acDeviceType);
 }
 
 static constexpr tagOSD_MENU_GET_EVENT_E gs_enNoEvent = OSD_MENU_GET_AF_VERSION; // where the source is another
@@ -78,13 +77,14 @@ static constexpr tagSTATUS_SOURCE_S gs_astStatusSource[] = {
 
 int osdXmlParseStatusParam(char* pcLanguage, tagITEM_NODE_S* pstItemNode)
 {
-    pstItemNode->s32ValCnt = 1;
-    osdTextSet(pstItemNode->acValue[0], "");
+    OSD_TEXT acText = "";
     for (const tagSTATUS_SOURCE_S& stSource : gs_astStatusSource) {
         if (osdTextEqual(stSource.pcKey, pstItemNode->acItemIndex)) {
-            stSource.pfnFill(stSource, pcLanguage, pstItemNode);
+            stSource.pfnFill(stSource, pcLanguage, acText);
             break;
         }
     }
+    pstItemNode->s32ValCnt = 1;
+    osdTextSet(pstItemNode->acValue[0], acText);
     return 0;
 }

@@ -1,8 +1,8 @@
 #include "menu/nav/change.h"
+#include "osd_page.h"
 
 #include "comm/text.h"
 #include "menu/core/flat_list.h"
-#include "menu/core/language.h"
 #include "menu/core/value_bind.h"
 #include "menu/core/words.h"
 #include "menu/nav/cursor.h"

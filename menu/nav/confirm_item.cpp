@@ -1,4 +1,5 @@
 // Confirmed items: "Yes" hands the parent item itself to the host, and its button says how far that is.
+#include "osd_page.h"
 #include <unistd.h>
 
 #include "comm/log.h"
@@ -6,7 +7,6 @@
 #include "menu/core/flat_list.h"
 #include "menu/core/words.h"
 #include "menu/nav/change.h"
-#include "menu/nav/confirm.h"
 #include "menu/nav/stack.h"
 #include "platform/config_call.h"
 

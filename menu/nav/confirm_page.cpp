@@ -3,8 +3,8 @@
 #include "menu/core/flat_list.h"
 #include "menu/core/words.h"
 #include "menu/nav/change.h"
-#include "menu/nav/confirm.h"
 #include "menu/nav/stack.h"
+#include "osd_page.h"
 #include "platform/config_service.h"
 
 // Visits one top-level item; false ends the walk: the item was the last one, or the host took the page away.
@@ -28,14 +28,14 @@ static char (*osdConfirmOption(tagITEM_NODE_S* pstItem))[OSD_TEXT_LEN]
     return bInRange ? &pstItem->acValueKey[pstItem->s32SavedIdx] : nullptr;
 }
 
-// Straight to the configuration, past the host.
+// Straight to the configuration, past the host; an index that names no option stores an empty text.
 static void osdConfirmStore(tagITEM_NODE_S* pstItem)
 {
     osdConfirmIndex(pstItem);
     char(*pacOption)[OSD_TEXT_LEN] = osdConfirmOption(pstItem);
-    if (pacOption != nullptr) {
-        (void)CFG_COM_SetTxtParams(pstItem->acItemIndex, *pacOption, 1); // the service reports its own failures
-    }
+    char acNone[] = "";
+    char* pcOption = pacOption != nullptr ? *pacOption : acNone;
+    (void)CFG_COM_SetTxtParams(pstItem->acItemIndex, pcOption, 1); // the service reports its own failures
 }
 
 // The sub-items that show.

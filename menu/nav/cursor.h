@@ -1,7 +1,7 @@
 // What a direction means on each layout.
 #pragma once
 
-#include "osd_menu.h"
+#include "osd_page.h"
 
 // The cursor's parts that several layouts share.
 
@@ -22,15 +22,3 @@ void osdWaitingDrop(tagITEM_NODE_S* pstItem);
 
 // One move through the grid of an icon page.
 void osdIconMove(tagPAGE_NODE_S* pstPage, tagOSD_MENU_KEY_E enKey);
-
-extern "C" {
-// Applies one direction to the page; doesn't draw. bUpdate 0 keeps a changed value from the host's function.
-// Returns 0.
-OSD_API int osdMenuUpdateItemCursor(tagPAGE_NODE_S* pstPage, tagOSD_MENU_KEY_E enKey, OSD_BOOL bUpdate);
-
-// The cursors on a flattened list. Return 0, or -1 when no item is active; the paged one 1 when it turned the page, and
-// the list describes the top page no more.
-OSD_API int osdMenuUpdateVerticalItemCursor(list_head* pstList, tagOSD_MENU_KEY_E enKey);
-OSD_API int osdMenuUpdateHorizontalItemCursor(list_head* pstList, tagOSD_MENU_KEY_E enKey);
-OSD_API int osdMenuUpdateVerticalItemCursorWithKETH(list_head* pstList, tagOSD_MENU_KEY_E enKey);
-}

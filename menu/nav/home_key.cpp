@@ -5,9 +5,9 @@
 #include "menu/core/words.h"
 #include "menu/nav/address.h"
 #include "menu/nav/change.h"
-#include "menu/nav/confirm.h"
 #include "menu/nav/keys.h"
 #include "menu/nav/stack.h"
+#include "osd_page.h"
 #include "platform/config_call.h"
 
 struct tagHOME_S {

@@ -3,44 +3,46 @@
 //     0  1  2  3      down from 5 gives 9, from 6 gives 2, as nothing stands below it
 //     4  5  6  7      up from 1 gives 9, from 3 gives 7
 //     8  9
+//
+// The same formulas move a selection that a host has set outside the grid, and that of a page without items.
+#include "comm/arith.h"
 #include "menu/nav/cursor.h"
 
-static int32_t osdIconDown(int32_t s32Cnt, int32_t s32PerLine, int32_t s32Idx)
+static int64_t osdIconDown(int64_t s64Cnt, int64_t s64PerLine, int64_t s64Idx)
 {
-    return s32Idx < s32Cnt - s32PerLine ? s32Idx + s32PerLine : s32Idx % s32PerLine;
+    return s64Idx + s64PerLine < s64Cnt ? s64Idx + s64PerLine : s64Idx % s64PerLine;
 }
 
-static int32_t osdIconUp(int32_t s32Cnt, int32_t s32PerLine, int32_t s32Idx)
+static int64_t osdIconUp(int64_t s64Cnt, int64_t s64PerLine, int64_t s64Idx)
 {
-    if (s32Idx >= s32PerLine) {
-        return s32Idx - s32PerLine;
+    if (s64Idx >= s64PerLine) {
+        return s64Idx - s64PerLine;
     }
-    // the lowest row, or the one above it where the last row is too short
-    const int32_t s32LastRow = (s32Cnt - 1) / s32PerLine;
-    const int32_t s32LastInRow = (s32Cnt - 1) % s32PerLine;
-    return s32Idx + s32PerLine * (s32Idx <= s32LastInRow ? s32LastRow : s32LastRow - 1);
+    const int64_t s64Rows = s64Cnt / s64PerLine + (s64Cnt % s64PerLine > 0 ? 1 : 0);
+    const int64_t s64Lowest = s64Idx + s64PerLine * (s64Rows - 1);
+    // as many rows higher as it takes to meet a cell, where the last row is too short
+    const int64_t s64Over = s64Lowest - s64Cnt;
+    return s64Over >= 0 ? s64Lowest - s64PerLine * (s64Over / s64PerLine + 1) : s64Lowest;
 }
 
 void osdIconMove(tagPAGE_NODE_S* pstPage, tagOSD_MENU_KEY_E enKey)
 {
-    const int32_t s32Cnt = pstPage->s32ItemCnt;
-    const int32_t s32PerLine = pstPage->s32CountPerLine;
-    int32_t& s32Idx = pstPage->s32SelIdx;
-    if (s32Idx < 0 || s32Idx >= s32Cnt) {
-        return; // no cell to move from
-    }
+    const int64_t s64Cnt = pstPage->s32ItemCnt;
+    const int64_t s64PerLine = pstPage->s32CountPerLine;
+    int64_t s64Idx = pstPage->s32SelIdx;
     switch (enKey) {
     case OSD_MENU_KEY_LEFT:
-        s32Idx = s32Idx > 0 ? s32Idx - 1 : s32Cnt - 1;
+        s64Idx = s64Idx > 0 ? s64Idx - 1 : s64Cnt - 1;
         break;
     case OSD_MENU_KEY_RIGHT:
-        s32Idx = s32Idx < s32Cnt - 1 ? s32Idx + 1 : 0;
+        s64Idx = s64Idx + 1 != s64Cnt ? s64Idx + 1 : 0;
         break;
     case OSD_MENU_KEY_UP:
-        s32Idx = s32PerLine > 0 && s32PerLine < s32Cnt ? osdIconUp(s32Cnt, s32PerLine, s32Idx) : s32Idx;
+        s64Idx = s64PerLine > 0 ? osdIconUp(s64Cnt, s64PerLine, s64Idx) : s64Idx;
         break;
     case OSD_MENU_KEY_DOWN:
-        s32Idx = s32PerLine > 0 && s32PerLine < s32Cnt ? osdIconDown(s32Cnt, s32PerLine, s32Idx) : s32Idx;
+        s64Idx = s64PerLine > 0 ? osdIconDown(s64Cnt, s64PerLine, s64Idx) : s64Idx;
         break;
     }
+    pstPage->s32SelIdx = osdClampS32(s64Idx);
 }

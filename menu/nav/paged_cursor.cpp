@@ -57,6 +57,9 @@ int osdMenuUpdateVerticalItemCursorWithKETH(list_head* pstList, tagOSD_MENU_KEY_
     if (enKey == OSD_MENU_KEY_UP || enKey == OSD_MENU_KEY_DOWN) {
         return osdPagedMove(pstList, pstItem, enKey == OSD_MENU_KEY_DOWN);
     }
+    if (enKey != OSD_MENU_KEY_LEFT && enKey != OSD_MENU_KEY_RIGHT) {
+        return 0;
+    }
     osdValueStep(pstItem, enKey);
     if (enKey == OSD_MENU_KEY_RIGHT && pstItem->enAttr == SUBPAGE) {
         (void)osdMenuNextPage(pstItem->acSubPage); // reports its own failures

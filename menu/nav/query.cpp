@@ -3,7 +3,7 @@
 #include "menu/core/flat_list.h"
 #include "menu/core/page.h"
 #include "menu/core/words.h"
-#include "osd_menu.h"
+#include "osd_page.h"
 
 static tagPAGE_NODE_S* osdQueryPage(const char* pcName)
 {

@@ -24,20 +24,3 @@ void osdButtonSet(tagITEM_NODE_S* pstItem, const char (&acText)[OSD_TEXT_LEN]);
 
 // Leaves the top page for the one below: the button that opened a confirm page gets its text back first.
 void osdStackStepBack();
-
-extern "C" {
-// Pushes the named page; doesn't draw. Returns 0, or -1 with no page open, on a full stack and when the page can't be
-// parsed.
-OSD_API int osdMenuNextPage(char* pcPageName);
-
-// Pops the top page; doesn't draw. Returns -1 with no page open.
-OSD_API int osdMenuPrevPage();
-
-// The open page directly below, or null.
-OSD_API tagPAGE_NODE_S* osdMenuGetPrevPage(tagPAGE_NODE_S* pstPage);
-
-// Put the text back on the button below the top page that the home key has changed: on "FactoryRestore" the bare word
-// "Confirm", on four others its translation. Return 0; the second -1 when there is no language.
-OSD_API int OSD_MENU_FactoryRestoreHandleMenuKey(tagPAGE_MGR_S* pstMgr);
-OSD_API int OSD_MENU_RestartHandleMenuKey(tagPAGE_MGR_S* pstMgr);
-}

@@ -8,7 +8,6 @@
 //       |caption |         |        |      0.025 of the cell below the picture
 //       |========|         |        |      bar under the caption of the selected cell
 //       +--------+         +--------+
-#include "menu/render/icon_grid.h"
 #include "comm/arith.h"
 #include "comm/image.h"
 #include "comm/log.h"
@@ -17,7 +16,7 @@
 #include "menu/core/words.h"
 #include "menu/render/row.h"
 #include "osd_comm.h"
-#include "osd_menu.h"
+#include "osd_page.h"
 #include "platform/config_call.h"
 
 static constexpr float gs_f32MarginX = 0.1f;  // of W, both margins together

@@ -1,7 +1,7 @@
 // The renderer of each layout.
 #include "menu/core/layout.h"
 
-#include "osd_menu.h"
+#include "osd_page.h"
 
 static constexpr int gs_s32PopFrame = 5; // pixels
 

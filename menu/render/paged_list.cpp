@@ -17,11 +17,9 @@
 #include "menu/core/flat_list.h"
 #include "menu/core/value_bind.h"
 #include "menu/core/words.h"
-#include "menu/render/paged_list.h"
 #include "menu/render/row.h"
-#include "menu/render/value.h"
 #include "osd_comm.h"
-#include "osd_menu.h"
+#include "osd_page.h"
 
 static constexpr tagROW_GEOM_S gs_stPagedGeom = {
     /* f32Left */ 0.045f,     /* f32Indent */ 0.025f,
@@ -66,7 +64,8 @@ static int osdPagedSize() { return osdTrunc(gstMenuMgr.f32Scale * gs_f32PagedSiz
 
 static OSD_BOOL osdPagedBright(tagITEM_NODE_S* pstItem, OSD_BOOL bSelected)
 {
-    return pstItem->enAttr == STATUS ? 1 : osdRowBright(pstItem, bSelected);
+    const bool bAlways = pstItem->enAttr == STATUS || pstItem->enAttr == TITLE_LINE;
+    return bAlways ? 1 : osdRowBright(pstItem, bSelected);
 }
 
 int osdMenuDrawTurnArrow(tagPAGE_TURN_S* pstTurn)

@@ -5,14 +5,13 @@
 //     |            Message             |   0.1 R.h below the title, only in the second layout
 //     |      Yes       |      No       |   a gap of R.h below the text above; each centred in its cell
 //     +--------------------------------+
-#include "menu/render/popup.h"
 #include "comm/arith.h"
 #include "comm/guard.h"
 #include "comm/log.h"
 #include "menu/core/flat_list.h"
 #include "menu/render/row.h"
 #include "osd_comm.h"
-#include "osd_menu.h"
+#include "osd_page.h"
 
 static constexpr float gs_f32AloneX = 0.1f;  // of the cell's width, a text placed left
 static constexpr float gs_f32AloneY = 0.15f; // of R.h, a text alone on its line

@@ -9,9 +9,8 @@
 #include "menu/core/flat_list.h"
 #include "menu/core/layout.h"
 #include "menu/core/page.h"
-#include "menu/render/value.h"
 #include "osd_comm.h"
-#include "osd_menu.h"
+#include "osd_page.h"
 
 static constexpr float gs_f32ValueRight = 0.95f; // of W
 static constexpr float gs_f32ValueShare = 0.5f;  // of the list's frame

@@ -22,9 +22,8 @@
 #include "menu/core/value_bind.h"
 #include "menu/core/words.h"
 #include "menu/render/row.h"
-#include "menu/render/tolvane_list.h"
 #include "osd_comm.h"
-#include "osd_menu.h"
+#include "osd_page.h"
 #include "platform/config_call.h"
 
 static constexpr tagROW_GEOM_S gs_stTolvaneGeom = {

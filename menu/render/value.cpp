@@ -1,5 +1,5 @@
-#include "menu/render/value.h"
 
+#include "osd_page.h"
 #include <cstdio>
 
 #include "comm/arith.h"

@@ -12,9 +12,8 @@
 #include "menu/core/flat_list.h"
 #include "menu/core/value_bind.h"
 #include "menu/render/row.h"
-#include "menu/render/value.h"
 #include "osd_comm.h"
-#include "osd_menu.h"
+#include "osd_page.h"
 
 static constexpr tagROW_GEOM_S gs_stVerticalGeom = {
     /* f32Left */ 0.01f,      /* f32Indent */ 0.01f,     /* f32FirstGap */ 0.01f, /* f32NextGap */ 0.02f,

@@ -6,9 +6,10 @@
 #include <cstdlib>
 #include <tinyxml2.h>
 
-#include "osd_menu.h"
+#include "osd_page.h"
+#include "osd_xml.h"
 #include "simulator/core/log.h"
-#include "simulator/host/menu_exports.h"
+#include "simulator/host/page_stack.h"
 
 namespace sim {
 namespace {

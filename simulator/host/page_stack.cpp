@@ -2,11 +2,9 @@
 
 #include <algorithm>
 #include <array>
-#include <cstddef>
 #include <cstdio>
 
-#include "osd_menu.h"
-#include "simulator/host/menu_exports.h"
+#include "osd_page.h"
 
 namespace sim {
 namespace {

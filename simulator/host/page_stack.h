@@ -1,12 +1,19 @@
 // The open pages of the menu, and how they are opened anew.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
 #include "osd_records.h"
 
 namespace sim {
+
+/// The item that a link of a list belongs to; place: which of its links that is.
+inline tagITEM_NODE_S* item_of(list_head* link, std::size_t place = offsetof(tagITEM_NODE_S, stNode))
+{
+    return reinterpret_cast<tagITEM_NODE_S*>(reinterpret_cast<char*>(link) - place);
+}
 
 /// The items of an open page that show, in their order.
 std::vector<tagITEM_NODE_S*> visible_items(tagPAGE_NODE_S& page);

@@ -1,6 +1,7 @@
 // Initialisation: order of calls, rectangles, and what every failure releases.
 #include <cmath>
 
+#include "osd_page.h"
 #include "tests/fake/menu_test.h"
 
 using namespace fake;
@@ -51,9 +52,11 @@ TEST_F(StartTest, BuildsManagerCanvasAndSurface)
     EXPECT_EQ(platform().update, OSD_MENU_UpdateCanvas);
     EXPECT_EQ(gstMenuMgr.pstSurface->pixels, gstMenuMgr.stCanvas.stMem.pvVirAddr);
 
-    addPage(PAGE_LAYOUT_VERTICAL); // a second start closes the menu first
+    memset(&gstMenuMgr, 0x5A, sizeof(gstMenuMgr)); // a second start believes nothing that stands in the managers
+    memset(&gstPageMgr, 0x5A, sizeof(gstPageMgr));
     EXPECT_EQ(init(), 0);
-    EXPECT_EQ(called(), "push 0; free canvas; release menu_scale; release menu_mem; close bold; close plain; " + START);
+    EXPECT_EQ(gstPageMgr.s32PageCnt, 0);
+    EXPECT_EQ(called(), "free canvas; release menu_scale; release menu_mem; close bold; close plain; " + START);
 }
 
 TEST_F(StartTest, CanvasFollowsTheConfiguration)
@@ -110,6 +113,7 @@ TEST_F(StartTest, SenselessConfigurationDoesNoHarm)
         EXPECT_EQ(init({0, 2, 0, place, false}), result) << place.f32X << " " << place.f32W;
         addItem(addPage(PAGE_LAYOUT_VERTICAL), "Gain", NAME, CONST_TXT);
         EXPECT_EQ(OSD_MENU_RenderCanvas(), result) << place.f32X << " " << place.f32W;
+        EXPECT_EQ(osdMenuReleaseSinglePage(), 0);
     }
     EXPECT_EQ(init({0, 3, 0, {0.0f, 0.0f, 0.5f, 0.5f}, false}), OSD_MENU_RenderCanvas()) << "whatever SDL says to it";
 }

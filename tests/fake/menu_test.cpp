@@ -5,8 +5,7 @@
 #include <fstream>
 #include <iterator>
 
-#include "menu/core/page.h"
-#include "platform/media_service.h"
+#include "osd_page.h"
 
 namespace fake {
 
@@ -52,13 +51,8 @@ void MenuTest::stop()
     while (gstPageMgr.s32PageCnt > 0) {
         (void)osdMenuReleaseSinglePage();
     }
-    if (gstMenuMgr.pstSurface != nullptr) {
-        SDL_FreeSurface(gstMenuMgr.pstSurface);
-        TTF_CloseFont(gstMenuMgr.pstSelectFont);
-        TTF_CloseFont(gstMenuMgr.pstFont);
-        (void)MPP_FreeMem(&gstMenuMgr.stCanvas.stScaleMem);
-        (void)MPP_FreeMem(&gstMenuMgr.stCanvas.stMem);
-    }
+    failCall("create"); // a start that fails gives back what the one before it made
+    EXPECT_EQ(init({}), -1);
     gstMenuMgr = {};
     gstPageMgr = {};
     gs_OsdHandler = {};

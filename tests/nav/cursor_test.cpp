@@ -108,10 +108,10 @@ TEST_F(CursorTest, PagedList)
         first two; down down down; ; first.G / two(S Z*=9 G)
         first two; down down up up; ; first(G* S W=1 S)
         first; down | down_right; read two; first.W=2/1 / two(S* Z=9 G) 't.Press'
+        lost; down; read none; lost.G / #0
         short; down_right; read two, do G=1; short.G=1 / two(S* Z=9 G)
         short two; down up_left; ; short(G*)
         short two; up_right; ; short(G*)
-        lost; down; read none; lost.G / #0
         deep; right; read two; deep.More / two(S* Z=9 G)
         deep; home; read two; deep.More / two(S* Z=9 G)
         deep; left; do More=-1; deep(More*=-1)

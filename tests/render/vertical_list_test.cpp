@@ -1,7 +1,7 @@
 // The vertical list on recorded calls; the fake fonts are 20 pixels a byte wide and 30 high.
 #include <array>
 
-#include "menu/render/value.h"
+#include "osd_page.h"
 #include "tests/fake/menu_test.h"
 
 using namespace fake;

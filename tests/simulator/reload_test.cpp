@@ -5,12 +5,11 @@
 #include <gmock/gmock.h>
 #include <mutex>
 
-#include "osd_menu.h"
+#include "osd_page.h"
 #include "simulator/core/folder_watch.h"
 #include "simulator/core/resource_check.h"
 #include "simulator/host/key_script.h"
 #include "simulator/host/live_reload.h"
-#include "simulator/host/menu_exports.h"
 #include "simulator/host/page_stack.h"
 #include "tests/simulator/temp_folder.h"
 
