@@ -68,6 +68,7 @@ void MenuTest::TearDown()
     EXPECT_EQ(platform().blocks.size(), 0u);
     EXPECT_EQ(platform().damaged, 0);
     EXPECT_EQ(platform().documents, 0);
+    SDL_ClearHints();
     EXPECT_EQ(held(), heldBefore);
     EXPECT_TRUE(calls().surfaces.empty()) << "surface left: " << calls().surfaces.begin()->second;
     EXPECT_EQ(pthread_mutex_trylock(&g_stMutex), 0) << "the render lock is still held";

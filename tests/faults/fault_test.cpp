@@ -1,15 +1,12 @@
 // Every call that can fail fails once, alone: nothing is left over, and the next draw is the undisturbed picture.
+#include <algorithm>
+#include <cstdlib>
 #include <cstring>
 #include <tinyxml2.h>
 
-#include "comm/surface.h"
 #include "menu/core/flat_list.h"
-#include "menu/core/page.h"
-#include "menu/core/value_bind.h"
-#include "menu/render/icon_grid.h"
-#include "menu/render/paged_list.h"
-#include "menu/render/popup.h"
-#include "menu/render/tolvane_list.h"
+#include "osd_page.h"
+#include "osd_xml.h"
 #include "tests/fake/keys.h"
 #include "tests/fake/menu_test.h"
 
@@ -187,6 +184,39 @@ TEST_F(FaultTest, PageThatCantBeReadIsReported)
         item.enCtx = NAME_VAL;
         item.enAttr = attr;
         (void)printed([&] { EXPECT_EQ(osdXmlFillItemParam(language, button.RootElement(), &item), -1) << text; });
+    }
+}
+
+TEST_F(FaultTest, StartFollowsNothingInTheManagers)
+{
+    tagITEM_NODE_S* own = addItem(addPage(PAGE_LAYOUT_VERTICAL), "Gain", NAME, CONST_TXT); // the host's to free
+    memset(&gstPageMgr.astPage[1], 0x5A, sizeof gstPageMgr.astPage[1]);
+    memset(&gstMenuMgr, 0x5A, sizeof gstMenuMgr);
+    EXPECT_EQ(init(), 0);
+    EXPECT_THAT(
+        linesOf({"push", "free", "release", "close"}),
+        testing::ElementsAre("free canvas", "release menu_scale", "release menu_mem", "close bold", "close plain"))
+        << "of the start before";
+    EXPECT_STREQ(own->acItemName, "Gain");
+    free(own);
+    const auto* bytes = reinterpret_cast<const char*>(&gstPageMgr);
+    EXPECT_EQ(std::count(bytes, bytes + sizeof gstPageMgr, '\0'), std::ptrdiff_t{sizeof gstPageMgr});
+    EXPECT_EQ(platform().canvasAtCreate.stMem.pvVirAddr, nullptr);
+}
+
+TEST_F(FaultTest, CutTakesNoMoreThanOneCharacter)
+{
+    const std::string letters(29, 'x');
+    const std::pair<std::string, size_t> cases[] = {{letters + "xx", 31}, // an option, and the bytes of it that fit
+                                                    {letters + "x\u00E9", 30},
+                                                    {letters + "\U0001F600", 29},
+                                                    {std::string(40, '\x80'), 28}}; // no character at all
+    for (const auto& [option, bytes] : cases) {
+        setText("Gain", option.c_str(), "");
+        const tagPAGE_NODE_S* page =
+            open("gain", "<P Layout='vertical_align'><I ItemIndex='Gain' Ctx='NAME_VAL' Attr='COMMON'/></P>");
+        EXPECT_EQ(itemAt(page->stItemList, 0)->acValueKey[0], option.substr(0, bytes));
+        EXPECT_EQ(osdMenuReleaseSinglePage(), 0);
     }
 }
 

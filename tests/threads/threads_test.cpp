@@ -5,7 +5,7 @@
 #include <SDL_ttf.h>
 #include <dlfcn.h>
 
-#include <cstdio>
+#include <csignal>
 #include <cstdlib>
 #include <thread>
 #include <vector>
@@ -86,6 +86,9 @@ void beside(const std::vector<void (*)()>& steps)
 
 extern "C" {
 
+// SDL shares pixel formats between surfaces and guards them with locks of its own, which the sanitizer can't see.
+const char* __tsan_default_suppressions() { return "called_from_lib:libSDL2-2.0.so"; }
+
 TTF_Font* TTF_OpenFontRW(SDL_RWops* source, int freeSource, int size)
 {
     fontList++;
@@ -106,6 +109,13 @@ int SDL_UpperBlit(SDL_Surface* source, const SDL_Rect* part, SDL_Surface* target
 
 } // extern "C"
 
+static void (*handlerOf(int signal))(int)
+{
+    struct sigaction action = {};
+    (void)sigaction(signal, nullptr, &action);
+    return action.sa_handler;
+}
+
 int main()
 {
     g_page = PAGE;
@@ -116,6 +126,7 @@ int main()
            OSD_MENU_InitSdkRes(
                &config, [](tagITEM_NODE_S*) { return 0; }, nullptr),
            0);
+    expect("the host's SIGINT and SIGTERM", handlerOf(SIGINT) == SIG_DFL && handlerOf(SIGTERM) == SIG_DFL, 1);
     OSD_MENU_OpenMenu();
     beside({keys, refreshChannel, prompt, zoomRatio});
     beside({redraw, redraw, refreshChannel, prompt, zoomRatio});
