@@ -5,7 +5,7 @@
 #include <cstring>
 
 #include "osd_menu.h"
-#include "services.h"
+#include "tests/build/host/services.h"
 
 namespace {
 

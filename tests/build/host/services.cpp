@@ -1,4 +1,4 @@
-#include "services.h"
+#include "tests/build/host/services.h"
 
 #include <tinyxml2.h>
 
