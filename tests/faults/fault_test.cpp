@@ -144,12 +144,14 @@ TEST_F(FaultTest, RendererReportsWhatItCantDraw)
         {[&] { return OSD_MENU_RenderIconText(&item, 1); }, icon},
         {[&] { return OSD_MENU_RenderBelowIcon(&item); }, {{"access", 1}}}};
     const size_t surfaces = calls().surfaces.size();
-    for (const auto& [draw, failing] : cases) {
-        EXPECT_EQ(draw(), 0);
-        for (const auto& [call, n] : failing) {
+    for (const auto& c : cases) {
+        SCOPED_TRACE(&c - cases);
+        EXPECT_EQ(c.first(), 0);
+        for (const auto& [call, n] : c.second) {
             failCall(call, n);
-            (void)printed(
-                [&, &draw = draw, &call = call] { EXPECT_EQ(draw(), -1) << &draw - &cases[0].first << call; });
+            int result = 0;
+            (void)printed([&] { result = c.first(); });
+            EXPECT_EQ(result, -1) << call;
             EXPECT_EQ(calls().surfaces.size(), surfaces) << call;
         }
     }
@@ -183,7 +185,8 @@ TEST_F(FaultTest, PageThatCantBeReadIsReported)
         tagITEM_NODE_S item = {};
         item.enCtx = NAME_VAL;
         item.enAttr = attr;
-        (void)printed([&] { EXPECT_EQ(osdXmlFillItemParam(language, button.RootElement(), &item), -1) << text; });
+        (void)printed(
+            [&] { EXPECT_EQ(osdXmlFillItemParam(language, button.RootElement(), &item), -1) << item.enAttr; });
     }
 }
 
