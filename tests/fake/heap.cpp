@@ -15,6 +15,7 @@ void __libc_free(void*);
 static void* g_items[4096];
 static int g_used = 0; // entries that have ever been taken
 static int g_live = 0;
+static char g_text[OSD_TEXT_LEN]; // of the item released last
 
 static bool swapEntry(void* from, void* to)
 {
@@ -32,6 +33,7 @@ static bool swapEntry(void* from, void* to)
 }
 
 int fake::liveItems() { return g_live; }
+const char* fake::releasedText() { return g_text; }
 
 extern "C" void* calloc(size_t count, size_t size)
 {
@@ -46,6 +48,9 @@ extern "C" void* calloc(size_t count, size_t size)
 
 extern "C" void free(void* block)
 {
-    g_live -= block != nullptr && g_live > 0 && swapEntry(block, nullptr) ? 1 : 0;
+    if (block != nullptr && g_live > 0 && swapEntry(block, nullptr)) {
+        g_live--;
+        __builtin_memcpy(g_text, static_cast<tagITEM_NODE_S*>(block)->acValue[0], sizeof g_text);
+    }
     __interceptor_free != nullptr ? __interceptor_free(block) : __libc_free(block);
 }

@@ -31,6 +31,7 @@ struct Platform {
     std::function<void(tinyxml2::XMLDocument&)> build; // builds any document, when set
     std::set<std::string> untranslated;                // any other key answers this and the key
     std::string translated = "t.";
+    std::map<std::string, std::string> words; // that are translated otherwise
     std::string language = "English"; // in "German" the answer is "d." and the key
     std::string deviceType;
     std::map<int, std::string> answers;                    // of the get-callback, by event
