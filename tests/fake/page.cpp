@@ -190,7 +190,7 @@ std::vector<std::string> linesIn(const std::string& text)
         const size_t first = line.find_first_not_of(' ');
         if (first != std::string::npos) {
             margin = std::min(margin, first);
-            lines.push_back(std::string(first, ' ') + squeezed(line));
+            lines.push_back(line.substr(0, line.find_last_not_of(' ') + 1));
         }
     }
     for (std::string& line : lines) {

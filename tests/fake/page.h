@@ -35,7 +35,7 @@ void setField(char (&field)[OSD_TEXT_LEN], const std::string& text);
 std::string valueOf(const tagITEM_NODE_S& item);
 std::vector<std::string> screen();
 
-// A text's lines without the margin, empty lines and what is only alignment; a line of it.
+// A text's lines without their common margin and without empty ones; a line without what only aligns it.
 std::vector<std::string> linesIn(const std::string& text);
 std::string squeezed(const std::string& line);
 
