@@ -23,8 +23,9 @@ inline std::string describe(const tagITEM_NODE_S& item)
 {
     static const char* const contexts[] = {"ICON",     "ICON_TXT",    "NAME",         "NAME_BAR_VAL",
                                            "NAME_VAL", "NAME_IP_VAL", "ICON_TXT_KETH"};
-    static const char* const attributes[] = {"CONST_TXT",   "STATUS",          "KEY_WITH_MSG", "COMMON",  "EDITABLE", "CONFIRM",
-                                             "CONFIRM_POP", "CONFIRM_POP_BTN", "SUBITEM",      "SUBPAGE", "MSG_LINE", "MSG_WITH_SUBITEM"};
+    static const char* const attributes[] = {"CONST_TXT", "STATUS",  "KEY_WITH_MSG", "COMMON",
+                                             "EDITABLE",  "CONFIRM", "CONFIRM_POP",  "CONFIRM_POP_BTN",
+                                             "SUBITEM",   "SUBPAGE", "MSG_LINE",     "MSG_WITH_SUBITEM"};
     static const char* const types[] = {"NUMERICAL", "", "EDITTXT"};
     static const char* const pictures[] = {"MAINTYPE", "SUBTYPE", "IPTYPE", "CONFIRMTYPE", ""};
     static const char* const places[] = {"", "Right", "Center"};
@@ -44,21 +45,27 @@ inline std::string describe(const tagITEM_NODE_S& item)
         }
         text += "]";
     }
-    const std::string value = valueOf(item) + (item.enValType == NUMERICAL ? format(" by %d", item.s32Step) : "");
-    return text + (value.empty() ? "" : " = " + value);
+    const bool number = item.enValType == NUMERICAL;
+    const bool valued = number || item.s32ValCnt > 0 || item.enAttr == EDITABLE;
+    return text + (valued ? " = " + valueOf(item) : "") + (number ? format(" by %d", item.s32Step) : "");
 }
 
 inline std::string describe(const tagPAGE_NODE_S& page)
 {
-    static const char* const layouts[] = {"icon", "vertical_align", "horizontal_align", "vertical_tolvane_align",
-                                          "vertical_align_keth", "horizontal_align_keth"};
+    static const char* const layouts[] = {"icon",
+                                          "vertical_align",
+                                          "horizontal_align",
+                                          "vertical_tolvane_align",
+                                          "vertical_align_keth",
+                                          "horizontal_align_keth"};
     static const char* const places[] = {"Left", "Right", "Center"};
     const tagPAGE_TURN_S& turn = page.stTurn;
     return std::string(page.acPageName) + " " + layouts[page.enLayout] + part("CountPerLine", page.s32CountPerLine) +
            part("CurPagesNum", turn.bCurPagesNum == 1 ? turn.acCurPagesNum : "") +
            part("NextPage", turn.bNextPage == 1 ? turn.acNextPage : "") +
            part("PrevPage", turn.bPrevPage == 1 ? turn.acPrevPage : "") + part("Msg", page.acPageMsg) +
-           (page.bTitle == 1 ? format(" Title=%s (%s) %s", page.acTitle, page.acTitleKey, places[page.enTitlePos]) : "") +
+           (page.bTitle == 1 ? format(" Title=%s (%s) %s", page.acTitle, page.acTitleKey, places[page.enTitlePos])
+                             : "") +
            part("ConfirmBtn", page.bConfirmBtn) + part("RdOnly", page.bRdOnly) + part("items", page.s32ItemCnt);
 }
 

@@ -77,12 +77,15 @@ void setPages(const std::string& text)
 
 tagITEM_NODE_S* itemAt(const list_head& list, int index)
 {
-    const list_head* at = list.next;
-    for (; at != &list && index > 0; index--) {
+    const list_head* at = list.next; // null where there is no list
+    for (; at != &list && at != nullptr && index > 0; index--) {
         at = at->next;
     }
+    if (at == &list || at == nullptr) {
+        return nullptr;
+    }
     const char* item = reinterpret_cast<const char*>(at) - offsetof(tagITEM_NODE_S, stNode);
-    return at == &list ? nullptr : reinterpret_cast<tagITEM_NODE_S*>(const_cast<char*>(item));
+    return reinterpret_cast<tagITEM_NODE_S*>(const_cast<char*>(item));
 }
 
 std::vector<tagITEM_NODE_S*> itemsOf(tagPAGE_NODE_S& page)
