@@ -14,27 +14,27 @@ TEST_F(BindTest, ValuesByAttributeAndType)
     setNumber("Zoom", -10, 90, 5, 40);
     setNumber("LedCustomColor", 3, 0xFFFFFF, 2, 0x123456);
     platform().untranslated = {"High"};
-    const std::string bound = " [Auto t.Auto] [Low t.Low] [High] [Low t.Low] = t.Low";
-    const std::pair<const char*, std::string> cases[] = {
-        {"Gain' Ctx='NAME_VAL' Attr='COMMON", "NAME_VAL COMMON" + bound},
-        {"Gain' Ctx='NAME' Attr='COMMON", "NAME COMMON"},
-        {"Gain' Ctx='NAME_VAL' Attr='KEY_WITH_MSG' Msg='m", "NAME_VAL KEY_WITH_MSG Msg=m reads=t.m" + bound},
-        {"Zoom' Ctx='NAME_BAR_VAL' Attr='COMMON' ValType='NUMERICAL",
-         "NAME_BAR_VAL COMMON ValType=NUMERICAL = 40 of -10..90 by 5"},
-        {"LedCustomRed' Ctx='NAME_VAL' Attr='COMMON' ValType='NUMERICAL",
-         "NAME_VAL COMMON ValType=NUMERICAL = 18 of 3..255 by 2"},
-        {"LedCustomGreen' Ctx='NAME_VAL' Attr='COMMON' ValType='NUMERICAL",
-         "NAME_VAL COMMON ValType=NUMERICAL = 52 of 3..255 by 2"},
-        {"Addr' Ctx='NAME_IP_VAL' Attr='EDITABLE", "NAME_IP_VAL EDITABLE = 192.168.1.20"},
-        {"Run' Ctx='NAME_VAL' Attr='CONFIRM' Value='Go", "NAME_VAL CONFIRM [Go t.Go] = t.Go"},
-        {"Run' Ctx='NAME_VAL' Attr='CONFIRM_POP' Value='Go' ConfirmPage='c",
-         "NAME_VAL CONFIRM_POP ConfirmPage=c [Go t.Go] = t.Go"},
-        {"Run' Ctx='NAME_VAL' Attr='CONFIRM_POP' Value='Go", "NAME_VAL CONFIRM_POP"},
-        {"Run' Ctx='NAME_VAL' Attr='CONFIRM_POP_BTN' Value='Go' ConfirmPage='c",
-         "NAME_VAL CONFIRM_POP_BTN ConfirmPage=c"},
-    };
-    for (const auto& [text, described] : cases) {
-        EXPECT_THAT(parsed(std::string("<I ItemIndex='") + text + "'/>"), EndsWith(") " + described)) << text;
+    const std::string bound = "[Auto t.Auto] [Low t.Low] [High] [Low t.Low] = t.Low";
+    const std::string table = R"(
+        Gain Ctx='NAME_VAL' Attr='COMMON'                         | NAME_VAL COMMON BOUND
+        Gain Ctx='NAME' Attr='COMMON'                             | NAME COMMON
+        Gain Ctx='NAME_VAL' Attr='KEY_WITH_MSG' Msg='m'           | NAME_VAL KEY_WITH_MSG Msg=m reads=t.m BOUND
+        Zoom Ctx='NAME_BAR_VAL' Attr='COMMON' ValType='NUMERICAL' | NAME_BAR_VAL COMMON ValType=NUMERICAL
+            = 40 of -10..90 by 5
+        LedCustomRed Ctx='NAME_VAL' Attr='COMMON' ValType='NUMERICAL'   | NAME_VAL COMMON ValType=NUMERICAL
+            = 18 of 3..255 by 2
+        LedCustomGreen Ctx='NAME_VAL' Attr='COMMON' ValType='NUMERICAL' | NAME_VAL COMMON ValType=NUMERICAL
+            = 52 of 3..255 by 2
+        Addr Ctx='NAME_IP_VAL' Attr='EDITABLE'                    | NAME_IP_VAL EDITABLE = 192.168.1.20
+        Run Ctx='NAME_VAL' Attr='CONFIRM' Value='Go'              | NAME_VAL CONFIRM [Go t.Go] = t.Go
+        Run Ctx='NAME_VAL' Attr='CONFIRM_POP' Value='Go' ConfirmPage='c' | NAME_VAL CONFIRM_POP ConfirmPage=c
+            [Go t.Go] = t.Go
+        Run Ctx='NAME_VAL' Attr='CONFIRM_POP' Value='Go'          | NAME_VAL CONFIRM_POP
+        Run Ctx='NAME_VAL' Attr='CONFIRM_POP_BTN' Value='Go' ConfirmPage='c' | NAME_VAL CONFIRM_POP_BTN ConfirmPage=c
+    )";
+    for (const std::string& line : linesIn(replaced(replaced(table, R"(\n +(=|\[))", " $1"), "BOUND", bound))) {
+        const std::vector<std::string> row = matched(squeezed(line), R"((\w+) (.*) \| (.*))");
+        EXPECT_THAT(parsed("<I ItemIndex='" + row[0] + "' " + row[1] + "/>"), EndsWith(") " + row[2])) << line;
     }
     std::string list = "k0"; // of more options than fit
     for (int option = 1; option < 60; option++) {

@@ -1,71 +1,75 @@
 // What the library makes of a page file, in the words of the file: only what differs from an empty record.
 #pragma once
 
+#include <sstream>
+
 #include "osd_page.h"
 #include "tests/fake/menu_test.h"
 
 namespace fake {
 
-template <typename Value>
-std::string part(const char* name, const Value& value, const Value& usual)
+// The word at that place; "-" is none.
+inline std::string wordAt(const char* words, int place)
 {
-    if constexpr (std::is_same_v<Value, std::string>) {
-        return value == usual ? "" : std::string(" ") + name + "=" + value;
-    } else {
-        return value == usual ? "" : std::string(" ") + name + "=" + std::to_string(value);
+    std::istringstream in(words);
+    std::string word;
+    for (int at = 0; at <= place; at++) {
+        in >> word;
     }
+    return word == "-" ? "" : word;
 }
-inline std::string part(const char* name, const char* value) { return part<std::string>(name, value, ""); }
-inline std::string part(const char* name, int value) { return part<int>(name, value, 0); }
+
+inline std::string part(const std::string& name, const std::string& value)
+{
+    return value.empty() ? "" : " " + name + "=" + value;
+}
+inline std::string part(const std::string& name, int value, int usual = 0)
+{
+    return part(name, value == usual ? "" : std::to_string(value));
+}
 
 // "> t.Gain (Gain) NAME_VAL COMMON [Auto t.Auto] [Low t.Low] = t.Low, was t.Auto", with sub-items behind their option.
 inline std::string describe(const tagITEM_NODE_S& item)
 {
-    static const char* const contexts[] = {"ICON",     "ICON_TXT",    "NAME",         "NAME_BAR_VAL",
-                                           "NAME_VAL", "NAME_IP_VAL", "ICON_TXT_KETH"};
-    static const char* const attributes[] = {"CONST_TXT", "STATUS",  "KEY_WITH_MSG", "COMMON",
-                                             "EDITABLE",  "CONFIRM", "CONFIRM_POP",  "CONFIRM_POP_BTN",
-                                             "SUBITEM",   "SUBPAGE", "MSG_LINE",     "MSG_WITH_SUBITEM"};
-    static const char* const types[] = {"NUMERICAL", "", "EDITTXT"};
-    static const char* const pictures[] = {"MAINTYPE", "SUBTYPE", "IPTYPE", "CONFIRMTYPE", ""};
-    static const char* const places[] = {"", "Right", "Center"};
-    std::string text = format("%s%s (%s) %s %s", item.bActive == 1 ? "> " : "", item.acItemName, item.acItemIndex,
-                              contexts[item.enCtx], attributes[item.enAttr]);
-    text += part("ValType", types[item.enValType]) + part("PicType", pictures[item.enPicType]) +
-            part("level", item.enLevel) + part("sub", item.bSubItem) + part<int>("ItemCnt", item.s32ItemCnt, 1) +
-            part("ItemIndexOnLine", item.s32ItemIndexOnLine) + part("Pic", item.acPic) +
-            part("SelectPic", item.acSelectPic) + part("NumOfChar", item.s32NumOfChar) +
-            part("ItemPos", places[item.enItemPos]) + part("Line", item.bLine) + part("DataZone", item.acDataZone) +
-            part("Msg", item.acMsgKey) + part("reads", item.acMsg) + part("SubPage", item.acSubPage) +
-            part("ConfirmPage", item.acConfirmPage) + part("ShowValue", item.bShowValue);
-    for (int option = 0; item.enValType != NUMERICAL && item.enAttr != EDITABLE && option < item.s32ValCnt; option++) {
-        text += squeezed(format("[%s %s", item.acValueKey[option], item.acValue[option])).insert(0, " ");
+    const bool number = item.enValType == NUMERICAL;
+    std::string text =
+        std::string(item.bActive == 1 ? "> " : "") + item.acItemName + " (" + item.acItemIndex + ") " +
+        wordAt("ICON ICON_TXT NAME NAME_BAR_VAL NAME_VAL NAME_IP_VAL ICON_TXT_KETH", item.enCtx) + " " +
+        wordAt("CONST_TXT STATUS KEY_WITH_MSG COMMON EDITABLE CONFIRM CONFIRM_POP CONFIRM_POP_BTN SUBITEM SUBPAGE "
+               "MSG_LINE MSG_WITH_SUBITEM",
+               item.enAttr) +
+        part("ValType", wordAt("NUMERICAL - EDITTXT", item.enValType)) +
+        part("PicType", wordAt("MAINTYPE SUBTYPE IPTYPE CONFIRMTYPE -", item.enPicType)) + part("level", item.enLevel) +
+        part("sub", item.bSubItem) + part("ItemCnt", item.s32ItemCnt, 1) +
+        part("ItemIndexOnLine", item.s32ItemIndexOnLine) + part("Pic", item.acPic) +
+        part("SelectPic", item.acSelectPic) + part("NumOfChar", item.s32NumOfChar) +
+        part("ItemPos", wordAt("- Right Center", item.enItemPos)) + part("Line", item.bLine) +
+        part("DataZone", item.acDataZone) + part("Msg", item.acMsgKey) + part("reads", item.acMsg) +
+        part("SubPage", item.acSubPage) + part("ConfirmPage", item.acConfirmPage) + part("ShowValue", item.bShowValue);
+    for (int option = 0; !number && item.enAttr != EDITABLE && option < item.s32ValCnt; option++) {
+        text += " " + squeezed(format("[%s %s", item.acValueKey[option], item.acValue[option]));
         for (int at = 0; const tagITEM_NODE_S* sub = itemAt(item.astSubList[option], at); at++) {
             text += ": " + describe(*sub);
         }
         text += "]";
     }
-    const bool number = item.enValType == NUMERICAL;
     const bool valued = number || item.s32ValCnt > 0 || item.enAttr == EDITABLE;
     return text + (valued ? " = " + valueOf(item) : "") + (number ? format(" by %d", item.s32Step) : "");
 }
 
 inline std::string describe(const tagPAGE_NODE_S& page)
 {
-    static const char* const layouts[] = {"icon",
-                                          "vertical_align",
-                                          "horizontal_align",
-                                          "vertical_tolvane_align",
-                                          "vertical_align_keth",
-                                          "horizontal_align_keth"};
-    static const char* const places[] = {"Left", "Right", "Center"};
     const tagPAGE_TURN_S& turn = page.stTurn;
-    return std::string(page.acPageName) + " " + layouts[page.enLayout] + part("CountPerLine", page.s32CountPerLine) +
+    const std::string place = wordAt("Left Right Center", page.enTitlePos);
+    return std::string(page.acPageName) + " " +
+           wordAt("icon vertical_align horizontal_align vertical_tolvane_align vertical_align_keth "
+                  "horizontal_align_keth",
+                  page.enLayout) +
+           part("CountPerLine", page.s32CountPerLine) +
            part("CurPagesNum", turn.bCurPagesNum == 1 ? turn.acCurPagesNum : "") +
            part("NextPage", turn.bNextPage == 1 ? turn.acNextPage : "") +
            part("PrevPage", turn.bPrevPage == 1 ? turn.acPrevPage : "") + part("Msg", page.acPageMsg) +
-           (page.bTitle == 1 ? format(" Title=%s (%s) %s", page.acTitle, page.acTitleKey, places[page.enTitlePos])
-                             : "") +
+           (page.bTitle == 1 ? format(" Title=%s (%s) %s", page.acTitle, page.acTitleKey, place.c_str()) : "") +
            part("ConfirmBtn", page.bConfirmBtn) + part("RdOnly", page.bRdOnly) + part("items", page.s32ItemCnt);
 }
 
@@ -92,6 +96,21 @@ protected:
         }
         stop();
         return text;
+    }
+
+    // Rows of attributes and of what an item makes of them; FITS and LONG are texts of 31 and 32 bytes.
+    void expectItems(const std::string& table, const std::string& common = "")
+    {
+        for (const std::string& line : linesIn(table)) {
+            const auto words = [](const std::string& text) {
+                return replaced(replaced(squeezed(text), "FITS", std::string(31, 'k')), "LONG", std::string(32, 'k'));
+            };
+            const std::string attributes = words(line.substr(0, line.find('|')));
+            const std::string described = words(line.substr(line.find('|') + 1));
+            EXPECT_EQ(parsed("<I ItemIndex='A' " + attributes + common + "/>"),
+                      described == "fails" ? described : "p vertical_align items=1; > t.A (A) " + described)
+                << attributes;
+        }
     }
 };
 

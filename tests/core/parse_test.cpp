@@ -5,7 +5,6 @@ using namespace fake;
 using namespace testing;
 
 static const std::string GOOD = "<I ItemIndex='A' Ctx='NAME' Attr='CONST_TXT'/>";
-static const std::string FITS(31, 'k');
 static const std::string LONG(32, 'k');
 
 class ParseTest : public PageTest {
@@ -19,27 +18,27 @@ protected:
 TEST_F(ParseTest, PageAttributes)
 {
     platform().untranslated = {"Refused"};
-    const std::pair<std::string, std::string> cases[] = {
-        {"Layout='icon' CountPerLine='4' ConfirmBtn='Yes' RdOnly='1'", "p icon CountPerLine=4 ConfirmBtn=1 RdOnly=1"},
-        {"Layout='vertical_align' CurPagesNum='1/2' NextPage='b' TitlePos='Middle'", "p vertical_align"},
-        {"Layout='horizontal_align' CountPerLine='4' Msg='Refused' ConfirmBtn='yes' RdOnly='2'", "p horizontal_align"},
-        {"Layout='vertical_tolvane_align' Title='T' TitlePos='Center'",
-         "p vertical_tolvane_align Title=t.T (T) Center"},
-        {"Layout='vertical_align_keth' CurPagesNum='1' NextPage='b' PrevPage='a'",
-         "p vertical_align_keth CurPagesNum=1 NextPage=b PrevPage=a"},
-        {"Layout='vertical_align_keth' NextPage='b' Title='T' TitlePos='Right'",
-         "p vertical_align_keth Title=t.T (T) Right"},
-        {"Layout='horizontal_align_keth' Msg='Sure'", "p horizontal_align_keth Msg=t.Sure"},
-        {"", "fails"},
-        {"Layout='icon' CountPerLine='many'", "fails"},
-        {"Layout='vertical_align' Title='T'", "fails"},
-        {"Layout='vertical_align' Title='Refused' TitlePos='Left'", "fails"},
-        {"Layout='vertical_align' Title='" + LONG + "' TitlePos='Left'", "fails"},
-        {"Layout='horizontal_align_keth' Msg='Refused'", "fails"},
-        {"Layout='vertical_align_keth' CurPagesNum='1' NextPage='" + LONG + "'", "fails"},
-    };
-    for (const auto& [attributes, description] : cases) {
-        EXPECT_EQ(parsed("", attributes), description) << attributes;
+    const std::string table = R"(
+        Layout='icon' CountPerLine='4' ConfirmBtn='Yes' RdOnly='1'        | icon CountPerLine=4 ConfirmBtn=1 RdOnly=1
+        Layout='vertical_align' CurPagesNum='1/2' NextPage='b' TitlePos='Middle'                 | vertical_align
+        Layout='horizontal_align' CountPerLine='4' Msg='Refused' ConfirmBtn='yes' RdOnly='2'     | horizontal_align
+        Layout='vertical_tolvane_align' Title='T' TitlePos='Center' | vertical_tolvane_align Title=t.T (T) Center
+        Layout='vertical_align_keth' NextPage='b' Title='T' TitlePos='Right' | vertical_align_keth Title=t.T (T) Right
+        Layout='vertical_align_keth' CurPagesNum='1' PrevPage='a' | vertical_align_keth CurPagesNum=1 PrevPage=a
+        Layout='vertical_align_keth' CurPagesNum='1' NextPage='b' | vertical_align_keth CurPagesNum=1 NextPage=b
+        Layout='horizontal_align_keth' Msg='Sure'                            | horizontal_align_keth Msg=t.Sure
+        RdOnly='1'                                                           | fails
+        Layout='icon' CountPerLine='many'                                    | fails
+        Layout='vertical_align' Title='T'                                    | fails
+        Layout='vertical_align' Title='Refused' TitlePos='Left'              | fails
+        Layout='vertical_align' Title='LONG' TitlePos='Left'                 | fails
+        Layout='horizontal_align_keth' Msg='Refused'                         | fails
+        Layout='vertical_align_keth' CurPagesNum='1' NextPage='LONG'         | fails
+    )";
+    for (const std::string& line : linesIn(replaced(table, "LONG", LONG))) {
+        const std::string described = squeezed(line.substr(line.find('|') + 1));
+        EXPECT_EQ(parsed("", line.substr(0, line.find('|'))), described == "fails" ? described : "p " + described)
+            << line;
     }
 }
 
@@ -47,38 +46,36 @@ TEST_F(ParseTest, ItemAttributes)
 {
     platform().untranslated = {"Refused"};
     const std::string rest = " Pic='n' SelectPic='s' NumOfChar='15' Msg='m' SubPage='s' ConfirmPage='c' "
-                             "ItemPos='Center' Line='0'/>"; // each kind of item takes what it knows
-    const std::pair<std::string, std::string> cases[] = {
-        {"Ctx='ICON' Attr='CONST_TXT' PicType='MAINTYPE'" + rest, "ICON CONST_TXT PicType=MAINTYPE Pic=n"},
-        {"Ctx='ICON_TXT' Attr='CONST_TXT' PicType='SUBTYPE'" + rest, "ICON_TXT CONST_TXT PicType=SUBTYPE Pic=n"},
-        {"Ctx='ICON_TXT_KETH' Attr='CONST_TXT' PicType='IPTYPE'" + rest,
-         "ICON_TXT_KETH CONST_TXT PicType=IPTYPE Pic=n"},
-        {"Ctx='NAME_IP_VAL' Attr='CONST_TXT' PicType='CONFIRMTYPE'" + rest,
-         "NAME_IP_VAL CONST_TXT PicType=CONFIRMTYPE NumOfChar=15"},
-        {"Ctx='NAME_BAR_VAL' Attr='CONST_TXT' ValType='edittxt' PicType='subtype'" + rest, "NAME_BAR_VAL CONST_TXT"},
-        {"Ctx='NAME_VAL' Attr='CONST_TXT' ValType='EDITTXT'" + rest, "NAME_VAL CONST_TXT ValType=EDITTXT"},
-        {"Ctx='NAME' Attr='KEY_WITH_MSG' DataZone='" + LONG + "'" + rest,
-         "NAME KEY_WITH_MSG DataZone=" + FITS + " Msg=m reads=t.m"},
-        {"Ctx='NAME' Attr='MSG_WITH_SUBITEM' ItemCnt='x'" + rest, "NAME MSG_WITH_SUBITEM Msg=m reads=t.m"},
-        {"Ctx='NAME' Attr='SUBPAGE' ItemCnt='3' ItemIndexOnLine='2'" + rest,
-         "NAME SUBPAGE ItemCnt=3 ItemIndexOnLine=2 SubPage=s"},
-        {"Ctx='NAME' Attr='CONFIRM_POP_BTN'" + rest, "NAME CONFIRM_POP_BTN ItemPos=Center Line=1 ConfirmPage=c"},
-        {"Ctx='NAME' Attr='CONFIRM_POP_BTN' ConfirmPage='" + FITS + "'/>", "NAME CONFIRM_POP_BTN ConfirmPage=" + FITS},
-        {"Ctx='NAME' Attr='KEY_WITH_MSG' Msg='Refused'/>", "NAME KEY_WITH_MSG Msg=Refused"},
-    };
-    for (const auto& [text, description] : cases) {
-        EXPECT_EQ(parsed("<I ItemIndex='A' " + text), "p vertical_align items=1; > t.A (A) " + description) << text;
-    }
-    for (const std::string wrong :
-         {"Ctx='NAME' Attr='CONST_TXT'", "ItemIndex='Refused' Ctx='NAME' Attr='CONST_TXT'",
-          "ItemIndex='A' Attr='CONST_TXT'", "ItemIndex='A' Ctx='name' Attr='CONST_TXT'",
-          "ItemIndex='A' Ctx='NAME' Attr='TITLE_LINE'", "ItemIndex='A' Ctx='NAME' Attr='KEY_WITH_MSG'",
-          "ItemIndex='A' Ctx='NAME' Attr='MSG_WITH_SUBITEM'", "ItemIndex='A' Ctx='NAME' Attr='CONFIRM_POP_BTN'",
-          "ItemIndex='A' Ctx='ICON' Attr='CONST_TXT' Pic='kkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkk'"}) {
-        EXPECT_EQ(parsed("<I " + wrong + "/>"), "fails") << wrong;
-    }
+                             "ItemPos='Center' Line='0'"; // each kind of item takes what it knows
+    expectItems(R"(
+        Ctx='ICON' Attr='CONST_TXT' PicType='MAINTYPE'               | ICON CONST_TXT PicType=MAINTYPE Pic=n
+        Ctx='ICON_TXT' Attr='CONST_TXT' PicType='SUBTYPE'            | ICON_TXT CONST_TXT PicType=SUBTYPE Pic=n
+        Ctx='ICON_TXT_KETH' Attr='CONST_TXT' PicType='IPTYPE'        | ICON_TXT_KETH CONST_TXT PicType=IPTYPE Pic=n
+        Ctx='NAME_IP_VAL' Attr='CONST_TXT' PicType='CONFIRMTYPE' | NAME_IP_VAL CONST_TXT PicType=CONFIRMTYPE NumOfChar=15
+        Ctx='NAME_BAR_VAL' Attr='CONST_TXT' ValType='edittxt' PicType='subtype' | NAME_BAR_VAL CONST_TXT
+        Ctx='NAME_VAL' Attr='CONST_TXT' ValType='EDITTXT'            | NAME_VAL CONST_TXT ValType=EDITTXT
+        Ctx='NAME' Attr='KEY_WITH_MSG' DataZone='LONG'               | NAME KEY_WITH_MSG DataZone=FITS Msg=m reads=t.m
+        Ctx='NAME' Attr='MSG_WITH_SUBITEM' ItemCnt='x'               | NAME MSG_WITH_SUBITEM Msg=m reads=t.m
+        Ctx='NAME' Attr='SUBPAGE' ItemCnt='3' ItemIndexOnLine='2' | NAME SUBPAGE ItemCnt=3 ItemIndexOnLine=2 SubPage=s
+        Ctx='NAME' Attr='CONFIRM_POP_BTN'                | NAME CONFIRM_POP_BTN ItemPos=Center Line=1 ConfirmPage=c
+    )",
+                rest);
+    expectItems(R"(
+        Ctx='NAME' Attr='CONFIRM_POP_BTN' ConfirmPage='FITS'         | NAME CONFIRM_POP_BTN ConfirmPage=FITS
+        Ctx='NAME' Attr='KEY_WITH_MSG' Msg='Refused'                 | NAME KEY_WITH_MSG Msg=Refused
+        Attr='CONST_TXT'                                             | fails
+        Ctx='name' Attr='CONST_TXT'                                  | fails
+        Ctx='NAME' Attr='TITLE_LINE'                                 | fails
+        Ctx='NAME' Attr='KEY_WITH_MSG'                               | fails
+        Ctx='NAME' Attr='MSG_WITH_SUBITEM'                           | fails
+        Ctx='NAME' Attr='CONFIRM_POP_BTN'                            | fails
+        Ctx='ICON' Attr='CONST_TXT' Pic='LONG'                       | fails
+    )");
+    EXPECT_EQ(parsed("<I Ctx='NAME' Attr='CONST_TXT'/>"), "fails");
+    EXPECT_EQ(parsed("<I ItemIndex='Refused' Ctx='NAME' Attr='CONST_TXT'/>"), "fails");
     enMenuStyle = 1;
-    EXPECT_THAT(parsed("<I ItemIndex='A' Ctx='ICON_TXT' Attr='CONST_TXT'" + rest), EndsWith(" Pic=n SelectPic=s"));
+    EXPECT_THAT(parsed("<I ItemIndex='A' Ctx='ICON_TXT' Attr='CONST_TXT'" + rest + "/>"),
+                EndsWith("Pic=n SelectPic=s"));
 }
 
 TEST_F(ParseTest, OptionsAndSubItems)

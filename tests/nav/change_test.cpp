@@ -7,10 +7,6 @@ using ChangeTest = NavTest;
 TEST_F(ChangeTest, HeldModesAndConfirmedPages)
 {
     setPages(R"(
-        list: <I ItemIndex="Zoom" ValType="NUMERICAL"/> <I ItemIndex="Wait" Attr="KEY_WITH_MSG"/>
-            <I ItemIndex="Note" Attr="CONST_TXT"/> <I ItemIndex="SN" Attr="STATUS"/>
-            <I ItemIndex="Mode" Attr="MSG_WITH_SUBITEM"> <O ModeIndex="A"/> <O ModeIndex="B"/> </I>
-            <I ItemIndex="Ip" Attr="EDITABLE"/> <I ItemIndex="More" Attr="SUBPAGE" SubPage="list"/>
         network ConfirmBtn="Yes":
             <I ItemIndex="IpMode" Attr="SUBITEM"> <O ModeIndex="DhcpIp"/> <O ModeIndex="StaticIp"/> </I>
             <I ItemIndex="DnsMode" Attr="MSG_WITH_SUBITEM"> <O ModeIndex="AutoMode"/> <O ModeIndex="Manual"/> </I>
@@ -25,15 +21,15 @@ TEST_F(ChangeTest, HeldModesAndConfirmedPages)
     )");
     check(R"(
         list
-        left_update        | shows the menu                          | > Zoom 6 of 0..10
-        then set           | sets Zoom to 6, shows the menu          | > Zoom 6 of 0..10
-        then set           | sets Zoom to 6, shows the menu          | > Zoom 6 of 0..10
-        down right set     | shows the menu                          | > Wait C, was B --- Press
-        down down set      | passes Note, shows the menu             | > Note
-        down down down set | passes SN, shows the menu               | > SN
-        up up up set       | shows the menu                          | > Mode A
-        up up set          | sets Ip to 192.168.1.5, shows the menu  | > Ip 192.168.1.5
-        up set             | passes More, shows the menu             | > More
+        left_update         | shows the menu                          | > Zoom 6 of 0..10
+        then set            | sets Zoom to 6, shows the menu          | > Zoom 6 of 0..10
+        then set            | sets Zoom to 6, shows the menu          | > Zoom 6 of 0..10
+        down down right set | shows the menu                          | > Wait C, was B --- Press
+        down down down set  | passes Note, shows the menu             | > Note
+        up up up up set     | passes SN, shows the menu               | > SN
+        up up up set        | sets Ip to 192.168.1.5, shows the menu  | > Ip 192.168.1.5
+        up up set           | shows the menu                          | > Mode A
+        up set              | passes More, shows the menu             | > More
         network
         > IpMode   DhcpIp
           DnsMode  AutoMode

@@ -11,71 +11,57 @@ protected:
         for (const char* word : {"Loading", "Finish", "Confirm", "Go", "Press"}) {
             platform().words[word] = std::string(1, static_cast<char>(tolower(*word))) + (word + 1); // as people see it
         }
-        setPages(R"(
-            sub: <I ItemIndex="Gain"/>
-            confirm: <I ItemIndex="Yes" Attr="CONFIRM"/> <I ItemIndex="No" Attr="CONFIRM"/>
-                <I ItemIndex="Other" Attr="CONFIRM"/>
-            restart: <I ItemIndex="Yes" Attr="CONFIRM"/> <I ItemIndex="No" Attr="CONFIRM"/>
-                <I ItemIndex="Other" Attr="CONFIRM"/>
-        )");
     }
 };
 
 TEST_F(HomeTest, RulesInTheirOrder)
 {
     setPages(R"(
-        opens: <I ItemIndex="More" Attr="SUBPAGE" SubPage="sub"/>
+        opens: <I ItemIndex="More" Attr="SUBPAGE" SubPage="advanced"/>
             <I ItemIndex="Pop" Attr="CONFIRM_POP" ConfirmPage="confirm"/>
             <I ItemIndex="Confirm" Attr="CONFIRM_POP_BTN" ConfirmPage="confirm"/>
-        this_confirms_restart: <I ItemIndex="More" Attr="SUBPAGE" SubPage="sub"/>
+        this_confirms_restart: <I ItemIndex="More" Attr="SUBPAGE" SubPage="advanced"/>
             <I ItemIndex="Pop" Attr="CONFIRM_POP" ConfirmPage="confirm"/> <I ItemIndex="No" Attr="CONFIRM"/>
-        restart: <I ItemIndex="More" Attr="SUBPAGE" SubPage="sub"/> <I ItemIndex="Other" Attr="CONFIRM"/>
+        restart: <I ItemIndex="More" Attr="SUBPAGE" SubPage="advanced"/> <I ItemIndex="Other" Attr="CONFIRM"/>
         push: <I ItemIndex="Push" Attr="CONFIRM" Ctx="NAME_VAL"/>
             <I ItemIndex="Back" Attr="CONFIRM" Ctx="NAME_VAL" PicType="SUBTYPE"/>
             <I ItemIndex="Any" Attr="CONFIRM" Ctx="NAME_VAL" PicType="MAINTYPE"/>
-        wait: <I ItemIndex="Wait" Attr="KEY_WITH_MSG"/>
-            <I ItemIndex="Mode" Attr="MSG_WITH_SUBITEM"> <O ModeIndex="A"/> <O ModeIndex="B"/> </I>
-        plain: <I ItemIndex="Gain"/> <I ItemIndex="Note" Attr="CONST_TXT"/> <I ItemIndex="SN" Attr="STATUS"/>
-            <I ItemIndex="Mode" Attr="SUBITEM"> <O ModeIndex="A"/> </I>
     )");
     check(R"(
-        closed
-        home            |                                              |
         opens
         > More
           Pop         go
           confirm
-        home            | reads sub, shows the menu                    | opens at More / sub: > Gain Auto
+        home            | reads advanced, shows the menu | opens at More / advanced: > Gain Auto
         down home       | shows Pop loading, reads confirm, shows the menu
                         | opens at Pop loading / confirm: > Yes; No; Other
         up home         | shows confirm, reads confirm, shows the menu
                         | opens at confirm / confirm: > Yes; No; Other
         opens / this_confirms_restart
-        home            | reads sub, shows the menu
-                        | opens at More / this_confirms_restart at More / sub: > Gain Auto
+        home            | reads advanced, shows the menu
+                        | opens at More / this_confirms_restart at More / advanced: > Gain Auto
         down home       | shows Pop loading, reads confirm, shows the menu
                         | opens at More / this_confirms_restart at Pop loading / confirm: > Yes; No; Other
         then return     | shows the menu                               | > Pop loading
         up home         | shows the menu                               | opens: > More confirm; Pop go; confirm
         opens / restart
-        home            | reads sub, shows the menu
-                        | opens at More / restart at More / sub: > Gain Auto
+        home            | reads advanced, shows the menu
+                        | opens at More / restart at More / advanced: > Gain Auto
         up home         |                                              | > Other
         push
         home            | shows Push loading, presses Push loading, shows the menu | > Push go
         down home       | presses Back go                            | > Back go
         up home         | presses Any go                             | > Any go
-        wait
-        home            |                                              | > Wait B
-        then right      | shows the menu                               | > Wait C, was B --- press
-        then home       | sets Wait to C, shows the menu               | > Wait C
-        then home       |                                              | > Wait C
-        down right home | sets Mode to B, shows the menu             | > Mode B
-        plain
-        home            | shows the menu                               | > Gain Auto
-        down home       | shows the menu                               | > Note
-        down down home  | shows the menu                               | > SN
-        up home         | shows the menu                               | > Mode A
+        list
+        down down home       |                                         | > Wait B
+        down down right home | sets Wait to C, shows the menu          | > Wait C
+        then home            |                                         | > Wait C
+        up up right home     | sets Mode to B, shows the menu          | > Mode B
+        down home            | shows the menu                          | > Gain Auto
+        down down down home  | shows the menu                          | > Note
+        up up up up home     | shows the menu                          | > SN
+        modes
+        home                 | shows the menu                          | > Mode A
     )");
     platform().untranslated = {"Loading"};
     openAll("push");

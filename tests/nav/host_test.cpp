@@ -30,14 +30,11 @@ TEST_F(HostTest, EveryCallOfTheHostMayComeBack)
         <O ModeIndex="B"> <I ItemIndex="Zoom" ValType="NUMERICAL"/> </O> </I>)";
     const std::string modes = R"(<I ItemIndex="Mode" Attr="SUBITEM)" + mode;
     setPages(R"(
-        main: <I ItemIndex="More" Attr="SUBPAGE" SubPage="sub"/> <I ItemIndex="Gain"/>
         advanced: <I ItemIndex="Wait" Attr="KEY_WITH_MSG"/> <I ItemIndex="More" Attr="SUBPAGE" SubPage="sub"/>
         words Title="T" TitlePos="Left": <I ItemIndex="Language"/> <I ItemIndex="Gain"/>
         push: <I ItemIndex="Push" Attr="CONFIRM" Ctx="NAME_VAL"/> <I ItemIndex="Back" Attr="CONFIRM" Ctx="NAME_VAL"/>
         tally Layout="vertical_align_keth": <I ItemIndex="LedCustomRed" ValType="NUMERICAL"/>
             <I ItemIndex="LedCustomColor" Attr="STATUS"/>
-        confirm: <I ItemIndex="Yes" Attr="CONFIRM"/> <I ItemIndex="No" Attr="CONFIRM"/>
-        restart: <I ItemIndex="Yes" Attr="CONFIRM"/> <I ItemIndex="No" Attr="CONFIRM"/>
     )");
     setPage("sub", modes + R"(<I ItemIndex="More" Attr="SUBPAGE" SubPage="third"/>)");
     setPage("waiting", R"(<I ItemIndex="Mode" Attr="MSG_WITH_SUBITEM)" + mode);

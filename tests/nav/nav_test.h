@@ -29,6 +29,23 @@ protected:
         setNumber("Zoom", 0, 10, 3, 9);
         (void)press("Mode=A Deep=A IpMode=DhcpIp");
         platform().translated = "";
+        setPages(R"(
+            main: <I ItemIndex="More" Attr="SUBPAGE" SubPage="sub"/> <I ItemIndex="Gain"/>
+            sub: <I ItemIndex="More" Attr="SUBPAGE" SubPage="third"/> <I ItemIndex="Ip" Attr="EDITABLE"/>
+            third: <I ItemIndex="Ip" Attr="EDITABLE"/> <I ItemIndex="Gain"/>
+            advanced: <I ItemIndex="Gain"/>
+            list: <I ItemIndex="Zoom" ValType="NUMERICAL"/> <I ItemIndex="Gain"/>
+                <I ItemIndex="Wait" Attr="KEY_WITH_MSG"/> <I ItemIndex="Note" Attr="CONST_TXT"/>
+                <I ItemIndex="SN" Attr="STATUS"/> <I ItemIndex="Ip" Attr="EDITABLE"/>
+                <I ItemIndex="Mode" Attr="MSG_WITH_SUBITEM"> <O ModeIndex="A"/> <O ModeIndex="B"/> </I>
+                <I ItemIndex="More" Attr="SUBPAGE" SubPage="list"/>
+            modes: <I ItemIndex="Mode" Attr="SUBITEM"> <O ModeIndex="A"> <I ItemIndex="Gain"/> </O> <O ModeIndex="B">
+                <I ItemIndex="Zoom" ValType="NUMERICAL"/> <I ItemIndex="Wait" Attr="KEY_WITH_MSG"/> </O> </I>
+            confirm: <I ItemIndex="Yes" Attr="CONFIRM"/> <I ItemIndex="No" Attr="CONFIRM"/>
+                <I ItemIndex="Other" Attr="CONFIRM"/>
+            restart: <I ItemIndex="Yes" Attr="CONFIRM"/> <I ItemIndex="No" Attr="CONFIRM"/>
+                <I ItemIndex="Other" Attr="CONFIRM"/>
+        )");
         platform().host = [](tagITEM_NODE_S* item) { record("host " + handed(*item)); };
         platform().pushed = [](OSD_BOOL show) { show == 1 ? record("picture " + drawn()) : void(); };
         start({0, 2, 0, {0.0f, 0.0f, 0.1f, 0.04f}, false});

@@ -3,20 +3,7 @@
 
 using namespace fake;
 
-class StackTest : public NavTest {
-protected:
-    void SetUp() override
-    {
-        NavTest::SetUp();
-        setPages(R"(
-            main: <I ItemIndex="More" Attr="SUBPAGE" SubPage="sub"/> <I ItemIndex="Gain"/>
-            sub: <I ItemIndex="More" Attr="SUBPAGE" SubPage="third"/> <I ItemIndex="Ip" Attr="EDITABLE"/>
-            third: <I ItemIndex="Ip" Attr="EDITABLE"/> <I ItemIndex="Gain"/>
-            advanced: <I ItemIndex="Gain"/>
-            confirm: <I ItemIndex="Yes" Attr="CONFIRM"/>
-        )");
-    }
-};
+using StackTest = NavTest;
 
 TEST_F(StackTest, MenuKeysByDepth)
 {
@@ -26,7 +13,6 @@ TEST_F(StackTest, MenuKeysByDepth)
         open                     | reads main, shows the menu     | main: > More; Gain Auto
         advanced                 | reads advanced, shows the menu | advanced: > Gain Auto
         close                    | hides the menu                 |
-        return                   |                                |
         main
         open                     |                                | > More
         menu                     | hides the menu                 | closed
