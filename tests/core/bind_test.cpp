@@ -58,30 +58,17 @@ TEST_F(BindTest, StatusSources)
     setText("Panorama/IrisLevel", "", "F1.8");
     platform().parents = {{"Cam", "Elsewhere"}}; // plays no part
     start({0, 2, 0, {0.0f, 0.0f, 0.2f, 0.2f}, true});
-    const std::pair<const char*, const char*> sources[] = {{"FwVersion", "answer3"},
-                                                           {"IspVersion", "answer1"},
-                                                           {"AfVersion", "answer0"},
-                                                           {"AiVersion", "answer2"},
-                                                           {"VideoFormat", "answer4"},
-                                                           {"IpAddr", "net-IpAddr"},
-                                                           {"NetMask", "net-NetMask"},
-                                                           {"GateWay", "net-GateWay"},
-                                                           {"Dns1", "net-Dns1"},
-                                                           {"Dns2", "net-Dns2"},
-                                                           {"IrisLevel", "F1.8"},
-                                                           {"DeviceName", "answer5"},
-                                                           {"DeviceType", "PTZ-12X"},
-                                                           {"SN", "answer6"},
-                                                           {"Mac", "answer7"},
-                                                           {"NdiVersion", "answer8"},
-                                                           {"FullNdiVersion", "answer9"},
-                                                           {"NdiStatus", "t.answer10"},
-                                                           {"LedCustomColor", "answer11"},
-                                                           {"Unknown", ""}};
-    for (const auto& [key, text] : sources) {
-        const auto* status = opened(format("<I ItemIndex='%s' Attr='STATUS' DataZone='Cam'/>", key));
-        EXPECT_EQ(valueOf(*status), text) << key;
-        EXPECT_EQ(status->s32ValCnt, 1) << key;
+    const std::string sources = "FwVersion=answer3 IspVersion=answer1 AfVersion=answer0 AiVersion=answer2 "
+                                "VideoFormat=answer4 IpAddr=net-IpAddr NetMask=net-NetMask GateWay=net-GateWay "
+                                "Dns1=net-Dns1 Dns2=net-Dns2 IrisLevel=F1.8 DeviceName=answer5 DeviceType=PTZ-12X "
+                                "SN=answer6 Mac=answer7 NdiVersion=answer8 FullNdiVersion=answer9 "
+                                "NdiStatus=t.answer10 LedCustomColor=answer11 Unknown=";
+    std::istringstream in(sources);
+    for (std::string source; in >> source;) {
+        const size_t end = source.find('=');
+        const auto* status = opened("<I Attr='STATUS' DataZone='Cam' ItemIndex='" + source.substr(0, end) + "'/>");
+        EXPECT_EQ(valueOf(*status), source.substr(end + 1)) << source;
+        EXPECT_EQ(status->s32ValCnt, 1) << source;
         (void)osdMenuReleaseSinglePage();
     }
     EXPECT_THAT(linesOf({"answer"}), Each(Not(EndsWith("stranger"))));

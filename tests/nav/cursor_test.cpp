@@ -66,6 +66,11 @@ TEST_F(CursorTest, VerticalList)
     )");
     EXPECT_EQ(printed([] { press("up"); }), "F don't find selected item\nNo active item found, weird\n"
                                             "No active item found, weird\n");
+    list_head none = {&none, &none};
+    for (const auto move : {osdMenuUpdateVerticalItemCursor, osdMenuUpdateHorizontalItemCursor,
+                            osdMenuUpdateVerticalItemCursorWithKETH}) {
+        (void)printed([&] { EXPECT_EQ(move(&none, OSD_MENU_KEY_LEFT), -1); });
+    }
 }
 
 TEST_F(CursorTest, Popups)

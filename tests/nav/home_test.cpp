@@ -180,33 +180,36 @@ TEST_F(HomeTest, CursorBehindAnAutomaticMode)
 TEST_F(HomeTest, AnswersForPagesWithAConfirmItem)
 {
     const std::string edit = "right up right up up left down home ";
-    const std::vector<std::string> cases[] = {
-        // page, key of "Confirm" afterwards, bytes behind it, calls of "Yes", of another "Yes"
-        {"format", "Confirm", "",
-         "sets Gain to Low, sets Mode to A, sets Deep to A, sets Note to option -1, presses Confirm",
-         "sets Gain to Low, sets Mode to A, sets Deep to A, sets Note to option -1, presses Confirm"},
-        {"rotate", "Restart", "", "sets Gain to Low, sets Mode to A, sets Note to option -1, presses Restart",
-         "sets Gain to Low, sets Mode to A, sets Note to option -1, presses Restart, sets Last to Y"},
-        {"pip", "Pip", "irm",
-         "stores 'Low' as Gain, stores 'A' as Mode, stores '' as Note, stores '' as Confirm, presses Pip",
-         "stores 'Low' as Gain, stores 'A' as Mode, stores '' as Note, stores '' as Pip, stores 'Y' as Last"},
-        {"video", "HdmiCfg", "",
-         "stores 'Low' as Gain, stores 'A' as Mode, stores 'A' as Deep, stores '' as Note, "
-         "stores '' as Confirm, presses HdmiCfg",
-         "stores 'Low' as Gain, stores 'A' as Mode, stores 'A' as Deep, "
-         "stores '' as Note, stores '' as HdmiCfg, stores 'Y' as Last"}};
-    for (const std::vector<std::string>& c : cases) {
+    // page, key of "Confirm" afterwards, bytes behind it, calls of "Yes", of another "Yes"
+    const std::string cases = R"(
+        format | Confirm |     | sets Gain to Low, sets Mode to A, sets Deep to A, NOTE, presses Confirm
+                               | sets Gain to Low, sets Mode to A, sets Deep to A, NOTE, presses Confirm
+        rotate | Restart |     | sets Gain to Low, sets Mode to A, NOTE, presses Restart
+                               | sets Gain to Low, sets Mode to A, NOTE, presses Restart, sets Last to Y
+        pip    | Pip     | irm | STORED, stores '' as Note, stores '' as Confirm, presses Pip
+                               | STORED, stores '' as Note, stores '' as Pip, stores 'Y' as Last
+        video  | HdmiCfg |     | STORED, stores 'A' as Deep, stores '' as Note, stores '' as Confirm, presses HdmiCfg
+                               | STORED, stores 'A' as Deep, stores '' as Note, stores '' as HdmiCfg, stores 'Y' as Last
+    )";
+    for (std::string line : linesIn(replaced(cases, R"(\n *\|)", " |"))) {
+        line = replaced(replaced(line, "NOTE", "sets Note to option -1"), "STORED",
+                        "stores 'Low' as Gain, stores 'A' as Mode");
+        const std::vector<std::string> c = matched(line, R"((\w+) *\| (\w+) *\| (\w*) *\| (.*\w) *\| (.*))");
         const std::string answer = c[0] == "rotate" ? "restart" : "confirm";
         setPage(c[0],
-                R"(<I ItemIndex="Gain"/> <I ItemIndex="Mode" Attr="SUBITEM"> <O ModeIndex="A">
-            <I ItemIndex="Deep" Attr="SUBITEM"> <O ModeIndex="A"><I ItemIndex="Zoom" ValType="NUMERICAL"/></O> </I>
-            </O> </I> <I ItemIndex="Note" Attr="CONST_TXT"/> <I ItemIndex="Confirm" Attr="CONFIRM_POP_BTN" ConfirmPage=")" +
-                    answer + R"("/> <I ItemIndex="Last"/>)",
+                replaced(R"(<I ItemIndex="Gain"/> <I ItemIndex="Mode" Attr="SUBITEM"> <O ModeIndex="A">
+            <I ItemIndex="Deep" Attr="SUBITEM"> <O ModeIndex="A"> <I ItemIndex="Zoom" ValType="NUMERICAL"/> </O> </I>
+            </O> </I> <I ItemIndex="Note" Attr="CONST_TXT"/>
+            <I ItemIndex="Confirm" Attr="CONFIRM_POP_BTN" ConfirmPage="ASK"/> <I ItemIndex="Last"/>)",
+                         "ASK", answer),
                 "ConfirmBtn='Yes'");
-        check(c[0] + "\n" + edit + "home | " + c[3] +
-              ", shows the menu | Gain Low; Note option -1; > confirm; Last Y, was X\n" + edit +
-              "down home | shows the menu | Gain Low, was Auto; Note option -1, was none; > confirm; Last Y, was X\n" +
-              edit + "up home | | " + c[0] + " at confirm / " + answer + ": Yes; No; > Other\n");
+        const std::string rows = R"(
+            EDIThome      | CALLS, shows the menu | Gain Low; Note option -1; > confirm; Last Y, was X
+            EDITdown home | shows the menu | Gain Low, was Auto; Note option -1, was none; > confirm; Last Y, was X
+            EDITup home   | | PAGE at confirm / ASK: Yes; No; > Other
+        )";
+        const std::string filled = replaced(replaced(rows, "EDIT", edit), "CALLS", c[3]);
+        check(c[0] + replaced(replaced(filled, "PAGE", c[0]), "ASK", answer));
         openAll(c[0]);
         (void)pressed(edit + "home");
         EXPECT_EQ(itemOf(c[1]).acItemIndex + c[1].size() + 1, c[2]);

@@ -25,7 +25,6 @@ TEST_F(HostTest, EveryCallOfTheHostMayComeBack)
 {
     setText("Language", "English:German", "English");
     setNumber("LedCustomColor", 0, 0xFFFFFF, 5, 0x123456);
-    const std::string gain = R"(<I ItemIndex="Gain"/>)";
     const std::string mode = R"("> <O ModeIndex="A"> <I ItemIndex="Gain"/> <I ItemIndex="Ip" Attr="EDITABLE"/> </O>
         <O ModeIndex="B"> <I ItemIndex="Zoom" ValType="NUMERICAL"/> </O> </I>)";
     const std::string modes = R"(<I ItemIndex="Mode" Attr="SUBITEM)" + mode;
@@ -41,19 +40,16 @@ TEST_F(HostTest, EveryCallOfTheHostMayComeBack)
     for (const std::string key : {"Restart", "RestoreImg"}) {
         setPage(key, "<I ItemIndex='" + key + "' Attr='CONFIRM_POP' ConfirmPage='confirm'/>" + modes);
     }
+    const std::string deep = R"(<I ItemIndex="Gain"/> <I ItemIndex="Mode" Attr="SUBITEM"> <O ModeIndex="A">
+        <I ItemIndex="Deep" Attr="SUBITEM)" +
+                             mode + R"(<I ItemIndex="Ip" Attr="EDITABLE"/> </O>
+        <O ModeIndex="B"> <I ItemIndex="Zoom" ValType="NUMERICAL"/> </O> </I>)";
     for (const std::string page : {"network", "format", "rotate", "pip", "video"}) {
-        const std::string deep = R"(<I ItemIndex="Mode" Attr="SUBITEM"> <O ModeIndex="A">
-            <I ItemIndex="Deep" Attr="SUBITEM)" +
-                                 mode + R"(<I ItemIndex="Ip" Attr="EDITABLE"/> </O>
-            <O ModeIndex="B"> <I ItemIndex="Zoom" ValType="NUMERICAL"/> </O> </I>)";
-        const std::string answer = page == "rotate" ? "restart" : "confirm";
-        setPage(page,
-                gain + deep + "<I ItemIndex='Confirm' Attr='CONFIRM_POP_BTN' ConfirmPage='" + answer + "'/>" + gain +
-                    deep,
-                "ConfirmBtn='Yes'");
+        const std::string answer = page == "rotate" ? "restart'/>" : "confirm'/>";
+        const std::string button = "<I ItemIndex='Confirm' Attr='CONFIRM_POP_BTN' ConfirmPage='" + answer;
+        setPage(page, deep + button + deep, "ConfirmBtn='Yes'");
     }
-    const std::pair<const char*, const char*> ways[] = {// pages, keys
-                                                        {"sub", "right"},
+    const std::pair<const char*, const char*> ways[] = {{"sub", "right"},
                                                         {"sub", "left_update set"},
                                                         {"main / sub", "down_left"},
                                                         {"main", "down_right down"},

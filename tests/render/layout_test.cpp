@@ -77,8 +77,7 @@ TEST_F(LayoutTest, TolvaneList)
     calls().lineHeight = 21;
     showAll("Layout='vertical_tolvane_align'");
     expect(R"(
-        nav_arrow at 192,6 size 30x30
-        IpMode at 50,10 plain 45 white | DhcpIp at 600,10
+        nav_arrow at 192,6 size 30x30 | IpMode at 50,10 plain 45 white | DhcpIp at 600,10
         Sub at 50,51 bold 45 grey
         Zoom at 50,92 plain 45 grey | value at 600,92 size 350x21
         ...
@@ -87,11 +86,11 @@ TEST_F(LayoutTest, TolvaneList)
         Press at 50,859 bold 45 white
     )");
     platform().language = "TraditionalChinese";
-    expect("nav_arrow at 192,6 size 30x30\nIpMode at 50,10 tc 45 white | DhcpIp at 600,10\nSub at 50,51 bold 45 grey\n"
+    expect("nav_arrow at 192,6 size 30x30 | IpMode at 50,10 tc 45 white | DhcpIp at 600,10\nSub at 50,51 bold 45 grey\n"
            "Zoom at 50,92 tc 45 grey | value at 600,92 size 350x21\n...\nPress at 50,859 bold 45 white\n");
     EXPECT_THAT(linesOf({"measure"}), testing::Each(Not(HasSubstr(" tc "))));
     itemOf("IpMode").enCtx = NAME; // alone on the first level: amber as a title
-    expect("nav_arrow at 192,6 size 30x30\nIpMode at 50,10 bold 45 amber\nSub at 50,51 bold 45 grey\n...\n"
+    expect("nav_arrow at 192,6 size 30x30 | IpMode at 50,10 bold 45 amber\nSub at 50,51 bold 45 grey\n...\n"
            "Press at 50,859 bold 45 white\n");
     calls().missingFiles = {"tcfont.ttf", "font.ttf"};
     (void)printed([] { (void)redraw(); }); // no font at all: no crash
@@ -115,11 +114,9 @@ TEST_F(LayoutTest, PagedList)
         white line at 650,233 size 20x5
         192.168 at 530,200 plain 28 grey
         Fps at 70,240 plain 28 white | 30 at 530,240
-        More at 70,280 plain 28 grey
-        nav_arrow at 163,291 size 30x30
+        More at 70,280 plain 28 grey | nav_arrow at 163,291 size 30x30
         white line at 70,360 size 860x5
-        restart at 430,385 size 40x40
-        Restart at 470,375 plain 28 grey
+        restart at 430,385 size 40x40 | Restart at 470,375 plain 28 grey
         Press at 70,850 plain 28 white
     )");
     EXPECT_THAT(linesOf({"alpha"}),
@@ -169,18 +166,12 @@ TEST_F(LayoutTest, PagedList)
         Any at 45,220 plain 28 grey | value at 530,220 size 420x30
         Any at 45,260 plain 28 grey | v at 530,260
         Any at 45,300 plain 28 grey | v at 530,300
-        default at 45,350 size 40x40
-        FactoryRestore at 85,340 plain 28 grey
-        default at 45,390 size 40x40
-        RestoreWB at 85,380 plain 28 grey
-        default at 45,430 size 40x40
-        RestoreImg at 85,420 plain 28 grey
-        default at 45,470 size 40x40
-        RestoreExp at 85,460 plain 28 grey
-        restart at 45,510 size 40x40
-        Restart at 85,500 plain 28 grey
-        confirm at 45,550 size 40x40
-        Confirm at 85,540 plain 28 grey
+        default at 45,350 size 40x40 | FactoryRestore at 85,340 plain 28 grey
+        default at 45,390 size 40x40 | RestoreWB at 85,380 plain 28 grey
+        default at 45,430 size 40x40 | RestoreImg at 85,420 plain 28 grey
+        default at 45,470 size 40x40 | RestoreExp at 85,460 plain 28 grey
+        restart at 45,510 size 40x40 | Restart at 85,500 plain 28 grey
+        confirm at 45,550 size 40x40 | Confirm at 85,540 plain 28 grey
         Press at 70,850 plain 28 white
     )");
     tagITEM_NODE_S& title = itemOf("Any"); // a title line is bright, selected or not

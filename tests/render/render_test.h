@@ -1,4 +1,4 @@
-// A page file on a canvas of 1000 by 1000, and what one redraw puts there, a row a line, from left to right:
+// A page file on a canvas of 1000 by 1000, and what one redraw puts there, a row a line, in the order of drawing:
 //     Image at 10,10 bold 32 grey
 //     Gain at 20,60 plain 28 white | Auto at 505,60             in the same font
 //     nav_arrow at 20,110 size 30x30 | value at 505,110 size 445x30
@@ -50,17 +50,18 @@ protected:
         calls().lines.clear();
         EXPECT_EQ(OSD_MENU_RenderCanvas(), 0);
         std::string rows;
-        std::string top;
         std::string font;
+        int top = -100; // of the row
         for (const std::string& line : linesOf({"blit ", "fill "})) {
             if (line.find(" on ") != std::string::npos || line.find("a0a0a") != std::string::npos) {
                 continue;
             }
             const auto [what, in] = element(line);
-            const std::string y = replaced(what, R"(.* at \d+,(-?\d+).*)", "$1");
-            rows += (y == top ? " | " : "\n") + what + (y == top && in == font ? "" : in);
-            font = y == top && in.empty() ? font : in;
-            top = y;
+            const int y = std::stoi(replaced(what, R"(.* at -?\d+,(-?\d+).*)", "$1"));
+            const bool same = std::abs(y - top) < 15;
+            rows += (same ? " | " : "\n") + what + (same && in == font ? "" : in);
+            font = same && in.empty() ? font : in;
+            top = same ? top : y;
         }
         return rows + "\n";
     }

@@ -112,12 +112,13 @@ TEST_F(VerticalListTest, CaretUnderTheEditedDigit)
     expect(rows);
     setField(item.acValue[1], "1\t2.168.001.020"); // a digit that isn't wide
     item.bEditing = 1;
-    for (const auto& [cursor, left, width] :
-         {std::tuple(0, 505, 20), {-3, 505, 20}, {1, 525, 20}, {5, 605, 20}, {6, 645, 20}, {14, 805, 20},
-          {31, 825, 0}, {1000000, 825, 0}}) { // the last ones are behind the text
+    const int carets[][3] = {{0, 505, 20},  {-3, 505, 20}, {1, 525, 20},     {5, 605, 20}, {6, 645, 20},
+                             {14, 805, 20}, {31, 825, 0},  {1000000, 825, 0}}; // the last ones behind the text
+    for (const auto& [cursor, left, width] : carets) {
         item.s32EditCursor = cursor;
         expect(format("Ip at 10,10 plain 32 white\nwhite line at %d,46 size %dx6\n"
-                      "1\t2.168.001.020 at 505,10 plain 32 white", left, width));
+                      "1\t2.168.001.020 at 505,10 plain 32 white",
+                      left, width));
     }
     item.enCtx = NAME_VAL; // has no caret
     (void)redraw();
