@@ -1,19 +1,28 @@
 // Life of the canvas: redraw, push, dispatch on the layout, queries of the host.
-#include "menu/core/page.h"
+#include "osd_page.h"
 #include "tests/fake/menu_test.h"
 
 using namespace fake;
 using namespace testing;
 
-class CanvasTest : public MenuTest {};
+class CanvasTest : public MenuTest {
+protected:
+    tagPAGE_NODE_S* openPage(const std::string& items = "")
+    {
+        setPage("p", items);
+        return open("p", platform().pages["p"]);
+    }
+};
 
 TEST_F(CanvasTest, RedrawPushesUnderTheLock)
 {
     start({0, 2, 0, {0.05f, 0.05f, 0.35f, 0.7f}, false});
     EXPECT_EQ(OSD_MENU_RenderCanvas(), 0); // a closed menu is hidden with its pixels as they are
-    addPage(static_cast<tagPAGE_LAYOUT_E>(6));
+    tagPAGE_NODE_S* page = openPage();
+    calls().lines.erase(calls().lines.begin() + 1, calls().lines.end());
+    page->enLayout = static_cast<tagPAGE_LAYOUT_E>(6);
     EXPECT_EQ(OSD_MENU_RenderCanvas(), -1); // a layout that nothing draws isn't pushed
-    addPage(PAGE_LAYOUT_VERTICAL);
+    page->enLayout = PAGE_LAYOUT_VERTICAL;
     EXPECT_EQ(OSD_MENU_RenderCanvas(), 0);
     EXPECT_THAT(calls().lines, ElementsAre("push 0", "fill 96,56 672x756 800a0a0a", "push 1"));
     EXPECT_THAT(platform().pushes, Each(AllOf(Field(&Push::locked, true), Field(&Push::canvas, &gstMenuMgr))));
@@ -40,10 +49,10 @@ TEST_F(CanvasTest, ChannelCallbackShowsOnlyAnOpenMenu)
     start();
     auto* attach = reinterpret_cast<OSD_ATTACH_INFO_S*>(this);
     EXPECT_EQ(platform().update(1, attach), 0);
-    addPage(PAGE_LAYOUT_VERTICAL);
+    openPage();
     EXPECT_EQ(platform().update(1, attach), 0);
     EXPECT_EQ(platform().update(0, attach), 0);
-    EXPECT_THAT(calls().lines, ElementsAre("push one 0", "push one 1", "push one 0"));
+    EXPECT_THAT(linesOf({"push", "fill"}), ElementsAre("push one 0", "push one 1", "push one 0"));
     EXPECT_THAT(platform().pushes, Each(AllOf(Field(&Push::locked, false), Field(&Push::attach, attach))));
 }
 
@@ -51,7 +60,8 @@ TEST_F(CanvasTest, SubPageQueries)
 {
     const auto answers = [] { return std::pair<int, int>(OSD_Menu_HasSubPage(), OSD_MENU_HasSubPageWithOutIcon()); };
     EXPECT_THAT(answers(), Pair(1, 0)) << "closed";
-    tagITEM_NODE_S* item = addItem(addPage(PAGE_LAYOUT_VERTICAL), "Item", NAME, SUBPAGE);
+    tagITEM_NODE_S* item = itemAt(openPage("<I ItemIndex='More' Attr='SUBPAGE' SubPage='s'/>")->stItemList, 0);
+    item->bActive = 0;
     EXPECT_THAT(answers(), Pair(0, 0)) << "nothing selected";
     item->bActive = 1;
     EXPECT_THAT(answers(), Pair(1, 1));

@@ -1,31 +1,91 @@
-// Page files as text, and what the library makes of them as text.
+// What the library makes of a page file, in the words of the file: only what differs from an empty record.
 #pragma once
 
+#include <sstream>
+
+#include "osd_page.h"
 #include "tests/fake/menu_test.h"
 
 namespace fake {
 
-inline std::string page(const std::string& children, const std::string& attributes = "Layout='vertical_align'")
+// The word at that place; "-" is none.
+inline std::string wordAt(const char* words, int place)
 {
-    return "<Page " + attributes + ">" + children + "</Page>";
+    std::istringstream in(words);
+    std::string word;
+    for (int at = 0; at <= place; at++) {
+        in >> word;
+    }
+    return word == "-" ? "" : word;
 }
 
-// An item whose key, context and attribute may stand as plain words in front: "Gain NAME_VAL COMMON DataZone='Cam'".
-inline std::string item(const std::string& text, const std::string& options = "")
+inline std::string part(const std::string& name, const std::string& value)
 {
-    return "<Item " + replaced(text, R"(^(\w+) (\w+) (\w+)\b)", "ItemIndex='$1' Ctx='$2' Attr='$3'") + ">" + options +
-           "</Item>";
+    return value.empty() ? "" : " " + name + "=" + value;
+}
+inline std::string part(const std::string& name, int value, int usual = 0)
+{
+    return part(name, value == usual ? "" : std::to_string(value));
+}
+
+// "> t.Gain (Gain) NAME_VAL COMMON [Auto t.Auto] [Low t.Low] = t.Low, was t.Auto", with sub-items behind their option.
+inline std::string describe(const tagITEM_NODE_S& item)
+{
+    const bool number = item.enValType == NUMERICAL;
+    std::string text =
+        std::string(item.bActive == 1 ? "> " : "") + item.acItemName + " (" + item.acItemIndex + ") " +
+        wordAt("ICON ICON_TXT NAME NAME_BAR_VAL NAME_VAL NAME_IP_VAL ICON_TXT_KETH", item.enCtx) + " " +
+        wordAt("CONST_TXT STATUS KEY_WITH_MSG COMMON EDITABLE CONFIRM CONFIRM_POP CONFIRM_POP_BTN SUBITEM SUBPAGE "
+               "MSG_LINE MSG_WITH_SUBITEM",
+               item.enAttr) +
+        part("ValType", wordAt("NUMERICAL - EDITTXT", item.enValType)) +
+        part("PicType", wordAt("MAINTYPE SUBTYPE IPTYPE CONFIRMTYPE -", item.enPicType)) + part("level", item.enLevel) +
+        part("sub", item.bSubItem) + part("ItemCnt", item.s32ItemCnt, 1) +
+        part("ItemIndexOnLine", item.s32ItemIndexOnLine) + part("Pic", item.acPic) +
+        part("SelectPic", item.acSelectPic) + part("NumOfChar", item.s32NumOfChar) +
+        part("ItemPos", wordAt("- Right Center", item.enItemPos)) + part("Line", item.bLine) +
+        part("DataZone", item.acDataZone) + part("Msg", item.acMsgKey) + part("reads", item.acMsg) +
+        part("SubPage", item.acSubPage) + part("ConfirmPage", item.acConfirmPage) + part("ShowValue", item.bShowValue);
+    for (int option = 0; !number && item.enAttr != EDITABLE && option < item.s32ValCnt; option++) {
+        text += " " + squeezed(format("[%s %s", item.acValueKey[option], item.acValue[option]));
+        for (int at = 0; const tagITEM_NODE_S* sub = itemAt(item.astSubList[option], at); at++) {
+            text += ": " + describe(*sub);
+        }
+        text += "]";
+    }
+    const bool valued = number || item.s32ValCnt > 0 || item.enAttr == EDITABLE;
+    return text + (valued ? " = " + valueOf(item) : "") + (number ? format(" by %d", item.s32Step) : "");
+}
+
+inline std::string describe(const tagPAGE_NODE_S& page)
+{
+    const tagPAGE_TURN_S& turn = page.stTurn;
+    const std::string place = wordAt("Left Right Center", page.enTitlePos);
+    return std::string(page.acPageName) + " " +
+           wordAt("icon vertical_align horizontal_align vertical_tolvane_align vertical_align_keth "
+                  "horizontal_align_keth",
+                  page.enLayout) +
+           part("CountPerLine", page.s32CountPerLine) +
+           part("CurPagesNum", turn.bCurPagesNum == 1 ? turn.acCurPagesNum : "") +
+           part("NextPage", turn.bNextPage == 1 ? turn.acNextPage : "") +
+           part("PrevPage", turn.bPrevPage == 1 ? turn.acPrevPage : "") + part("Msg", page.acPageMsg) +
+           (page.bTitle == 1 ? format(" Title=%s (%s) %s", page.acTitle, page.acTitleKey, place.c_str()) : "") +
+           part("ConfirmBtn", page.bConfirmBtn) + part("RdOnly", page.bRdOnly) + part("items", page.s32ItemCnt);
 }
 
 class PageTest : public MenuTest {
 protected:
-    // Opens a page of these items and gives the first one.
-    tagITEM_NODE_S* opened(const std::string& items) { return itemAt(open("p", page(items))->stItemList, 0); }
-
-    // The page and its items described, or "fails"; nothing stays open.
-    std::string parsed(const std::string& document)
+    // Opens a page of these items, completed with the usual words, and gives the first one.
+    tagITEM_NODE_S* opened(const std::string& items)
     {
-        platform().pages["p"] = document;
+        setPage("p", items);
+        return itemAt(open("p", platform().pages["p"])->stItemList, 0);
+    }
+
+    // The page and its items, or "fails", of a file as it stands; nothing stays open.
+    std::string parsed(const std::string& items, const std::string& attributes = "Layout='vertical_align'")
+    {
+        platform().pages["p"] = "<Page " + attributes + ">" + items + "</Page>";
         char name[] = "p";
         const tagPAGE_NODE_S& record = gstPageMgr.astPage[0];
         gstPageMgr.s32PageCnt = 1;
@@ -36,6 +96,21 @@ protected:
         }
         stop();
         return text;
+    }
+
+    // Rows of attributes and of what an item makes of them; FITS and LONG are texts of 31 and 32 bytes.
+    void expectItems(const std::string& table, const std::string& common = "")
+    {
+        for (const std::string& line : linesIn(table)) {
+            const auto words = [](const std::string& text) {
+                return replaced(replaced(squeezed(text), "FITS", std::string(31, 'k')), "LONG", std::string(32, 'k'));
+            };
+            const std::string attributes = words(line.substr(0, line.find('|')));
+            const std::string described = words(line.substr(line.find('|') + 1));
+            EXPECT_EQ(parsed("<I ItemIndex='A' " + attributes + common + "/>"),
+                      described == "fails" ? described : "p vertical_align items=1; > t.A (A) " + described)
+                << attributes;
+        }
     }
 };
 

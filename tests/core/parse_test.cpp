@@ -4,33 +4,41 @@
 using namespace fake;
 using namespace testing;
 
-static const std::string GOOD = item("A NAME CONST_TXT");
-static const std::string FITS(31, 'k');
+static const std::string GOOD = "<I ItemIndex='A' Ctx='NAME' Attr='CONST_TXT'/>";
 static const std::string LONG(32, 'k');
 
-class ParseTest : public PageTest {};
+class ParseTest : public PageTest {
+protected:
+    static std::string nested(const std::string& options, const std::string& attributes = "Ctx='NAME'")
+    {
+        return "<I ItemIndex='A' Attr='SUBITEM' " + attributes + ">" + options + "</I>";
+    }
+};
 
 TEST_F(ParseTest, PageAttributes)
 {
     platform().untranslated = {"Refused"};
-    const std::pair<std::string, std::string> cases[] = {
-        {"Layout='icon' CountPerLine='4' ConfirmBtn='Yes' RdOnly='1'", "p perLine=4 confirm=1 rdOnly=1"},
-        {"Layout='vertical_align' CurPagesNum='1/2' NextPage='b' TitlePos='Middle'", "p layout=1"},
-        {"Layout='horizontal_align' CountPerLine='4' Msg='Refused' ConfirmBtn='yes' RdOnly='2'", "p layout=2"},
-        {"Layout='vertical_tolvane_align' Title='T' TitlePos='Center'", "p layout=3 title=T|t.T pos=2"},
-        {"Layout='vertical_align_keth' CurPagesNum='1' NextPage='b' PrevPage='a'", "p layout=4 num=1 next=b prev=a"},
-        {"Layout='vertical_align_keth' NextPage='b' Title='T' TitlePos='Right'", "p layout=4 title=T|t.T pos=1"},
-        {"Layout='horizontal_align_keth' Msg='Sure'", "p layout=5 msg=t.Sure"},
-        {"", "fails"},
-        {"Layout='icon' CountPerLine='many'", "fails"},
-        {"Layout='vertical_align' Title='T'", "fails"},
-        {"Layout='vertical_align' Title='Refused' TitlePos='Left'", "fails"},
-        {"Layout='vertical_align' Title='" + LONG + "' TitlePos='Left'", "fails"},
-        {"Layout='horizontal_align_keth' Msg='Refused'", "fails"},
-        {"Layout='vertical_align_keth' CurPagesNum='1' NextPage='" + LONG + "'", "fails"},
-    };
-    for (const auto& [attributes, description] : cases) {
-        EXPECT_EQ(parsed(page("", attributes)), description) << attributes;
+    const std::string table = R"(
+        Layout='icon' CountPerLine='4' ConfirmBtn='Yes' RdOnly='1'        | icon CountPerLine=4 ConfirmBtn=1 RdOnly=1
+        Layout='vertical_align' CurPagesNum='1/2' NextPage='b' TitlePos='Middle'                 | vertical_align
+        Layout='horizontal_align' CountPerLine='4' Msg='Refused' ConfirmBtn='yes' RdOnly='2'     | horizontal_align
+        Layout='vertical_tolvane_align' Title='T' TitlePos='Center' | vertical_tolvane_align Title=t.T (T) Center
+        Layout='vertical_align_keth' NextPage='b' Title='T' TitlePos='Right' | vertical_align_keth Title=t.T (T) Right
+        Layout='vertical_align_keth' CurPagesNum='1' PrevPage='a' | vertical_align_keth CurPagesNum=1 PrevPage=a
+        Layout='vertical_align_keth' CurPagesNum='1' NextPage='b' | vertical_align_keth CurPagesNum=1 NextPage=b
+        Layout='horizontal_align_keth' Msg='Sure'                            | horizontal_align_keth Msg=t.Sure
+        RdOnly='1'                                                           | fails
+        Layout='icon' CountPerLine='many'                                    | fails
+        Layout='vertical_align' Title='T'                                    | fails
+        Layout='vertical_align' Title='Refused' TitlePos='Left'              | fails
+        Layout='vertical_align' Title='LONG' TitlePos='Left'                 | fails
+        Layout='horizontal_align_keth' Msg='Refused'                         | fails
+        Layout='vertical_align_keth' CurPagesNum='1' NextPage='LONG'         | fails
+    )";
+    for (const std::string& line : linesIn(replaced(table, "LONG", LONG))) {
+        const std::string described = squeezed(line.substr(line.find('|') + 1));
+        EXPECT_EQ(parsed("", line.substr(0, line.find('|'))), described == "fails" ? described : "p " + described)
+            << line;
     }
 }
 
@@ -38,51 +46,55 @@ TEST_F(ParseTest, ItemAttributes)
 {
     platform().untranslated = {"Refused"};
     const std::string rest = " Pic='n' SelectPic='s' NumOfChar='15' Msg='m' SubPage='s' ConfirmPage='c' "
-                             "ItemPos='Center' Line='0' "; // each kind of item takes what it knows
-    const std::pair<std::string, std::string> cases[] = {
-        {"A ICON CONST_TXT PicType='MAINTYPE'" + rest, "ctx=0 attr=0 pic=0 active=1 icon=n"},
-        {"A ICON_TXT CONST_TXT PicType='SUBTYPE'" + rest, "ctx=1 attr=0 pic=1 active=1 icon=n"},
-        {"A ICON_TXT_KETH CONST_TXT PicType='IPTYPE'" + rest, "ctx=6 attr=0 pic=2 active=1 icon=n"},
-        {"A NAME_IP_VAL CONST_TXT PicType='CONFIRMTYPE'" + rest, "ctx=5 attr=0 pic=3 active=1 chars=15"},
-        {"A NAME_BAR_VAL CONST_TXT ValType='edittxt' PicType='subtype'" + rest, "ctx=3 attr=0 active=1"},
-        {"A NAME_VAL CONST_TXT ValType='EDITTXT'" + rest, "ctx=4 attr=0 type=2 active=1"},
-        {"A NAME KEY_WITH_MSG DataZone='" + LONG + "'" + rest, "ctx=2 attr=2 active=1 zone=" + FITS + " msg=m|t.m"},
-        {"A NAME MSG_WITH_SUBITEM ItemCnt='x'" + rest, "ctx=2 attr=11 active=1 msg=m|t.m"},
-        {"A NAME SUBPAGE ItemCnt='3' ItemIndexOnLine='2'" + rest, "ctx=2 attr=9 active=1 count=3 index=2 opens=s"},
-        {"A NAME CONFIRM_POP_BTN" + rest, "ctx=2 attr=7 active=1 pos=2 line=1 asks=c"},
-        {"A NAME CONFIRM_POP_BTN ConfirmPage='" + FITS + "'", "ctx=2 attr=7 active=1 asks=" + FITS},
-        {"A NAME KEY_WITH_MSG Msg='Refused'", "ctx=2 attr=2 active=1 msg=Refused|"},
-    };
-    for (const auto& [text, description] : cases) {
-        EXPECT_EQ(parsed(page(item(text))), "p layout=1 items=1; A|t.A " + description) << text;
-    }
-    for (const std::string wrong :
-         {"Ctx='NAME' Attr='CONST_TXT'", "Refused NAME CONST_TXT", "ItemIndex='A' Attr='CONST_TXT'", "A name CONST_TXT",
-          "A NAME TITLE_LINE", "A NAME KEY_WITH_MSG", "A NAME MSG_WITH_SUBITEM", "A NAME CONFIRM_POP_BTN"}) {
-        EXPECT_EQ(parsed(page(item(wrong))), "fails") << wrong;
-    }
-    EXPECT_EQ(parsed(page(item("A ICON CONST_TXT Pic='" + LONG + "'"))), "fails");
+                             "ItemPos='Center' Line='0'"; // each kind of item takes what it knows
+    expectItems(R"(
+        Ctx='ICON' Attr='CONST_TXT' PicType='MAINTYPE'               | ICON CONST_TXT PicType=MAINTYPE Pic=n
+        Ctx='ICON_TXT' Attr='CONST_TXT' PicType='SUBTYPE'            | ICON_TXT CONST_TXT PicType=SUBTYPE Pic=n
+        Ctx='ICON_TXT_KETH' Attr='CONST_TXT' PicType='IPTYPE'        | ICON_TXT_KETH CONST_TXT PicType=IPTYPE Pic=n
+        Ctx='NAME_IP_VAL' Attr='CONST_TXT' PicType='CONFIRMTYPE' | NAME_IP_VAL CONST_TXT PicType=CONFIRMTYPE NumOfChar=15
+        Ctx='NAME_BAR_VAL' Attr='CONST_TXT' ValType='edittxt' PicType='subtype' | NAME_BAR_VAL CONST_TXT
+        Ctx='NAME_VAL' Attr='CONST_TXT' ValType='EDITTXT'            | NAME_VAL CONST_TXT ValType=EDITTXT
+        Ctx='NAME' Attr='KEY_WITH_MSG' DataZone='LONG'               | NAME KEY_WITH_MSG DataZone=FITS Msg=m reads=t.m
+        Ctx='NAME' Attr='MSG_WITH_SUBITEM' ItemCnt='x'               | NAME MSG_WITH_SUBITEM Msg=m reads=t.m
+        Ctx='NAME' Attr='SUBPAGE' ItemCnt='3' ItemIndexOnLine='2' | NAME SUBPAGE ItemCnt=3 ItemIndexOnLine=2 SubPage=s
+        Ctx='NAME' Attr='CONFIRM_POP_BTN'                | NAME CONFIRM_POP_BTN ItemPos=Center Line=1 ConfirmPage=c
+    )",
+                rest);
+    expectItems(R"(
+        Ctx='NAME' Attr='CONFIRM_POP_BTN' ConfirmPage='FITS'         | NAME CONFIRM_POP_BTN ConfirmPage=FITS
+        Ctx='NAME' Attr='KEY_WITH_MSG' Msg='Refused'                 | NAME KEY_WITH_MSG Msg=Refused
+        Attr='CONST_TXT'                                             | fails
+        Ctx='name' Attr='CONST_TXT'                                  | fails
+        Ctx='NAME' Attr='TITLE_LINE'                                 | fails
+        Ctx='NAME' Attr='KEY_WITH_MSG'                               | fails
+        Ctx='NAME' Attr='MSG_WITH_SUBITEM'                           | fails
+        Ctx='NAME' Attr='CONFIRM_POP_BTN'                            | fails
+        Ctx='ICON' Attr='CONST_TXT' Pic='LONG'                       | fails
+    )");
+    EXPECT_EQ(parsed("<I Ctx='NAME' Attr='CONST_TXT'/>"), "fails");
+    EXPECT_EQ(parsed("<I ItemIndex='Refused' Ctx='NAME' Attr='CONST_TXT'/>"), "fails");
     enMenuStyle = 1;
-    EXPECT_THAT(parsed(page(item("A ICON_TXT CONST_TXT" + rest))), EndsWith(" icon=n selected=s"));
+    EXPECT_THAT(parsed("<I ItemIndex='A' Ctx='ICON_TXT' Attr='CONST_TXT'" + rest + "/>"),
+                EndsWith("Pic=n SelectPic=s"));
 }
 
 TEST_F(ParseTest, OptionsAndSubItems)
 {
-    setText("Mode", "", "Manual");
-    setText("Live", "", "Low");
-    const std::string inner = item("B NAME SUBITEM", "<O ModeIndex='X'>" + GOOD + "</O>");
+    setText("A", "", "Manual");
+    const std::string inner = "<I ItemIndex='B' Ctx='NAME' Attr='SUBITEM'><O ModeIndex='X'>" + GOOD + "</O></I>";
     const std::string options = "<O ModeIndex='Auto'/>text<!-- --><O ModeIndex='Manual'>" + GOOD + inner + "</O>";
-    EXPECT_EQ(parsed("<!-- -->" + page(item("Mode NAME_VAL SUBITEM", options) + GOOD,
-                                       "Layout='vertical_align' Title='T' TitlePos='Left'")),
-              "p layout=1 title=T|t.T items=2; Mode|t.Mode ctx=4 attr=8 level=1 active=1 [Auto|t.Auto][Manual|t.Manual"
-              "{A|t.A ctx=2 attr=0 level=2 sub=1}{B|t.B ctx=2 attr=8 level=2 sub=1 [X|t.X"
-              "{A|t.A ctx=2 attr=0 level=3 sub=1}]}] cur=1 saved=1; A|t.A ctx=2 attr=0 level=1");
-    EXPECT_EQ(parsed(page(item("Mode NAME SUBITEM", "<O ModeIndex='X'>" + GOOD + "</O><O/>"))), "fails");
-    EXPECT_THAT(parsed(page(item("Live NAME SUBITEM ShowValue='0'", "<O ModeIndex='On'/>"))),
-                EndsWith(" live=1 [On|t.On][|]")); // the live value counts as one
-    EXPECT_THAT(parsed(page(item("Live NAME CONST_TXT ShowValue=''", options))), EndsWith(" live=1 [|t.Low]"));
-    platform().untranslated = {"Low"};
-    EXPECT_THAT(parsed(page(item("Live NAME CONST_TXT ShowValue=''"))), EndsWith(" live=1 [|Low]"));
+    EXPECT_EQ(parsed("<!-- -->" + nested(options, "Ctx='NAME_VAL'") + GOOD,
+                     "Layout='vertical_align' Title='T' TitlePos='Left'"),
+              "p vertical_align Title=t.T (T) Left items=2; > t.A (A) NAME_VAL SUBITEM level=1 [Auto t.Auto] "
+              "[Manual t.Manual: t.A (A) NAME CONST_TXT level=2 sub=1: t.B (B) NAME SUBITEM level=2 sub=1 [X t.X: "
+              "t.A (A) NAME CONST_TXT level=3 sub=1] = t.X] = t.Manual; t.A (A) NAME CONST_TXT level=1");
+    EXPECT_EQ(parsed(nested("<O ModeIndex='X'>" + GOOD + "</O><O/>")), "fails");
+    EXPECT_THAT(parsed(nested("<O ModeIndex='On'/>", "Ctx='NAME' ShowValue='0'")),
+                EndsWith(" ShowValue=1 [On t.On] [] = t.On")); // the live value counts as one
+    const std::string live = "<I ItemIndex='A' Ctx='NAME' Attr='CONST_TXT' ShowValue=''><O ModeIndex='On'/></I>";
+    EXPECT_THAT(parsed(live), EndsWith(" ShowValue=1 [ t.Manual] = t.Manual"));
+    platform().untranslated = {"Manual"};
+    EXPECT_THAT(parsed(live), EndsWith(" ShowValue=1 [ Manual] = Manual"));
 }
 
 TEST_F(ParseTest, OptionsAndDepthAreBounded)
@@ -92,32 +104,33 @@ TEST_F(ParseTest, OptionsAndDepthAreBounded)
         options += "<O ModeIndex='o'/>";
     }
     options += "<O ModeIndex='last'>" + GOOD + "</O>";
-    EXPECT_THAT(parsed(page(item("A NAME SUBITEM", options))),
-                AllOf(HasSubstr(" [first|t.first][o|"), EndsWith("[last|t.last{A|t.A ctx=2 attr=0 level=1 sub=1}]")));
-    EXPECT_EQ(parsed(page(item("A NAME SUBITEM", options + "<O ModeIndex='more'/>"))), "fails");
-    EXPECT_EQ(parsed(page(item("A NAME SUBITEM ShowValue='1'", options))), "fails") << "the live value takes one";
-
-    std::string nested = GOOD;
+    EXPECT_THAT(parsed(nested(options)), AllOf(HasSubstr(" [first t.first] [o "),
+                                               HasSubstr("[last t.last: t.A (A) NAME CONST_TXT level=1 sub=1]")));
+    EXPECT_EQ(parsed(nested(options + "<O ModeIndex='more'/>")), "fails");
+    EXPECT_EQ(parsed(nested(options, "Ctx='NAME' ShowValue='1'")), "fails") << "the live value takes one";
+    std::string deep = GOOD;
     for (int level = 0; level < 135; level++) {
-        EXPECT_TRUE(level != 20 || parsed(page(nested)) != "fails");
-        nested = item("A NAME SUBITEM", "<O ModeIndex='On'>" + nested + "</O>");
+        EXPECT_TRUE(level != 20 || parsed(deep) != "fails");
+        deep = nested("<O ModeIndex='On'>" + deep + "</O>");
     }
-    EXPECT_EQ(parsed(page(nested)), "fails") << "deeper than tinyxml2 reads";
+    EXPECT_EQ(parsed(deep), "fails") << "deeper than tinyxml2 reads";
     EXPECT_THAT(linesOf({"log 3 line", "log 3 Acquire"}), SizeIs(3)) << "each bound is told";
 }
 
 TEST_F(ParseTest, FailuresKeepWhatWasThereBefore)
 {
-    const std::string bad = item("Bad NAME SUBITEM", "<O ModeIndex='On'>" + GOOD + item("B NAME SUBPAGE") + "</O>");
+    const std::string bad = nested("<O ModeIndex='On'>" + GOOD + "<I ItemIndex='B' Ctx='NAME' Attr='SUBPAGE'/></O>");
+    const std::string items = "<P Layout='vertical_align'>" + GOOD + GOOD + bad + GOOD + "</P>";
     const std::string path = OSD_RESOURCE_DIR "/menu/p_page.xml";
     const std::vector<std::string> cases[] = {
-        {"document", "<P/>", "before layout=2", "", "log 3 Load " + path + " failed\n"},
-        {"", "<", "before layout=2", "[F:L] \n", "log 3 Acquire " + path + " root failed\n"},
-        {"language", "<P/>", "before layout=2", "[F:L] \nF L failed\n"},
-        {"", page(GOOD + GOOD + bad + GOOD), "p layout=1 items=2", "[F:L] \nF L failed\nF L failed\nF L failed\n"}};
-    for (const std::vector<std::string>& c : cases) { // failing call, document, page, what is printed, what is logged
-        setField(addPage(PAGE_LAYOUT_HORIZONTAL)->acPageName, "before");
-        gstPageMgr.s32PageCnt = 0;
+        // failing call, document, page, what is printed, what is logged
+        {"document", "<P/>", "before horizontal_align", "", "log 3 Load " + path + " failed\n"},
+        {"", "<", "before horizontal_align", "[F:L] \n", "log 3 Acquire " + path + " root failed\n"},
+        {"language", "<P/>", "before horizontal_align", "[F:L] \nF L failed\n"},
+        {"", items, "p vertical_align items=2", "[F:L] \nF L failed\nF L failed\nF L failed\n"}};
+    for (const std::vector<std::string>& c : cases) {
+        gstPageMgr.astPage[0].enLayout = PAGE_LAYOUT_HORIZONTAL;
+        setField(gstPageMgr.astPage[0].acPageName, "before");
         calls().lines.clear();
         failCall(c[0]);
         EXPECT_EQ(printed([&] { open("p", c[1], -1); }), c[3]);
@@ -125,5 +138,5 @@ TEST_F(ParseTest, FailuresKeepWhatWasThereBefore)
         EXPECT_EQ(linesOf({"log"}), std::vector<std::string>(c.begin() + 4, c.end()));
         stop();
     }
-    open(LONG, page(""), -1); // no page record holds such a name
+    open(LONG, items, -1); // no page record holds such a name
 }

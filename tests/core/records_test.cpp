@@ -1,48 +1,39 @@
 // Page stack, flattened lists, selection, release.
-#include "menu/core/flat_list.h"
-#include "menu/core/page.h"
 #include "tests/core/page_text.h"
 
 using namespace fake;
 
 class RecordsTest : public PageTest {
 protected:
-    // An item of three options (without sub-items; "b1" with "deep" below it and "b2"; "c1") and one behind it.
+    // An item of three options, the first without sub-items, and one behind it.
     tagITEM_NODE_S* openTree()
     {
-        const std::string b1 = item("b1 NAME SUBITEM", "<O ModeIndex='X'>" + item("deep NAME COMMON") + "</O>");
-        const std::string b = "<O ModeIndex='B'>" + b1 + item("b2 NAME COMMON") + "</O>";
-        const std::string c = "<O ModeIndex='C'>" + item("c1 NAME COMMON") + "</O>";
-        return opened(item("Mode NAME SUBITEM", "<O ModeIndex='A'/>" + b + c) + item("Last NAME COMMON"));
-    }
-
-    // The keys of the flattened list, with a mark before those of an item without sub-items.
-    static std::string flatten(tagITEM_NODE_S* item)
-    {
-        list_head head = {&head, &head};
-        EXPECT_EQ(osdMenuInsertItems2TmpList(item, &head), 0);
-        std::string names = osdMenuHasSubItem(item) == 0 ? "leaf" : "";
-        for (const tagITEM_NODE_S* entry : osdFlatItems(&head)) {
-            names += std::string(" ") + entry->acItemIndex;
-        }
-        return names;
+        return opened(R"(<I ItemIndex="Mode" Attr="SUBITEM"> <O ModeIndex="A"/>
+            <O ModeIndex="B"> <I ItemIndex="b1" Attr="SUBITEM"> <O ModeIndex="X"> <I ItemIndex="deep"/> </O> </I>
+                <I ItemIndex="b2"/> </O>
+            <O ModeIndex="C"> <I ItemIndex="c1"/> </O> </I> <I ItemIndex="Last"/>)");
     }
 };
 
 TEST_F(RecordsTest, FlattenedListShowsTheOptionInForce)
 {
     tagITEM_NODE_S* tree = openTree();
-    const std::tuple<tagITEM_ATTR_E, int, int, const char*> cases[] = {
+    const std::tuple<tagITEM_ATTR_E, int, int, const char*, bool> cases[] = {
         // options 3, 40 and -1 don't exist
-        {SUBITEM, 0, 1, "leaf Mode"},  {SUBITEM, 1, 2, " Mode b1 deep b2"},
-        {SUBITEM, 3, 1, "leaf Mode"},  {MSG_WITH_SUBITEM, 2, 1, " Mode b1 deep b2"},
-        {SUBITEM, -1, 1, "leaf Mode"}, {MSG_WITH_SUBITEM, 0, 1, "leaf Mode"},
-        {COMMON, 1, 1, "leaf Mode"},   {MSG_WITH_SUBITEM, 1, 40, " Mode"}};
-    for (const auto& [attr, current, saved, names] : cases) {
+        {SUBITEM, 0, 1, "Mode Last", false},  {SUBITEM, 1, 2, "Mode b1 deep b2 Last", true},
+        {SUBITEM, 3, 1, "Mode Last", false},  {MSG_WITH_SUBITEM, 2, 1, "Mode b1 deep b2 Last", true},
+        {SUBITEM, -1, 1, "Mode Last", false}, {MSG_WITH_SUBITEM, 0, 1, "Mode Last", false},
+        {COMMON, 1, 1, "Mode Last", false},   {MSG_WITH_SUBITEM, 1, 40, "Mode Last", true}};
+    for (const auto& [attr, current, saved, keys, has] : cases) {
         tree->enAttr = attr;
         tree->s32CurIdx = current;
         tree->s32SavedIdx = saved;
-        EXPECT_EQ(flatten(tree), names) << attr << " " << current << " " << saved;
+        std::vector<std::string> found;
+        for (const tagITEM_NODE_S* item : itemsOf(gstPageMgr.astPage[0])) {
+            found.emplace_back(item->acItemIndex);
+        }
+        EXPECT_EQ(joined(found, " "), keys) << attr << " " << current << " " << saved;
+        EXPECT_EQ(osdMenuHasSubItem(tree), has ? 1 : 0) << attr << " " << current << " " << saved;
     }
 }
 
@@ -70,9 +61,9 @@ TEST_F(RecordsTest, StackGivesAndReleasesTheTopPage)
 {
     EXPECT_EQ(osdMenuReleaseSinglePage(), 0);
     openTree();
-    addItem(addPage(PAGE_LAYOUT_VERTICAL, "Title"), "Gain", NAME, COMMON);
+    openTree();
     EXPECT_EQ(osdXmlGetCurPage(), &gstPageMgr.astPage[1]);
     EXPECT_EQ(osdMenuReleaseSinglePage(), 0);
-    EXPECT_EQ(describe(gstPageMgr.astPage[1]), "");
+    EXPECT_EQ(describe(gstPageMgr.astPage[1]), " icon");
     EXPECT_EQ(osdXmlGetCurPage(), &gstPageMgr.astPage[0]);
 }

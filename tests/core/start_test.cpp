@@ -111,7 +111,7 @@ TEST_F(StartTest, SenselessConfigurationDoesNoHarm)
                                                         {{1e30f, 1e30f, 0.5f, 0.5f}, 0}};
     for (const auto& [place, result] : cases) {
         EXPECT_EQ(init({0, 2, 0, place, false}), result) << place.f32X << " " << place.f32W;
-        addItem(addPage(PAGE_LAYOUT_VERTICAL), "Gain", NAME, CONST_TXT);
+        open("p", "<P Layout='vertical_align'><I ItemIndex='Gain' Ctx='NAME' Attr='CONST_TXT'/></P>");
         EXPECT_EQ(OSD_MENU_RenderCanvas(), result) << place.f32X << " " << place.f32W;
         EXPECT_EQ(osdMenuReleaseSinglePage(), 0);
     }

@@ -55,5 +55,7 @@ std::string printed(const std::function<void()>& function);
 
 // Items alive on the heap; "calloc" names their allocation.
 int liveItems();
+// The first option's text of the item released last.
+const char* releasedText();
 
 } // namespace fake

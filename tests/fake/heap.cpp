@@ -15,8 +15,10 @@ void __libc_free(void*);
 
 static size_t g_itemBlock = 0; // what the heap calls the size of an item's block
 static int g_live = 0;
+static char g_text[OSD_TEXT_LEN]; // of the item released last
 
 int fake::liveItems() { return g_live; }
+const char* fake::releasedText() { return g_text; }
 
 extern "C" void* calloc(size_t count, size_t size)
 {
@@ -34,6 +36,9 @@ extern "C" void* calloc(size_t count, size_t size)
 
 extern "C" void free(void* block)
 {
-    g_live -= block != nullptr && g_live > 0 && malloc_usable_size(block) == g_itemBlock ? 1 : 0;
+    if (block != nullptr && g_live > 0 && malloc_usable_size(block) == g_itemBlock) {
+        g_live--;
+        __builtin_memcpy(g_text, static_cast<tagITEM_NODE_S*>(block)->acValue[0], sizeof g_text);
+    }
     __interceptor_free != nullptr ? __interceptor_free(block) : __libc_free(block);
 }

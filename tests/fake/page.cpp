@@ -1,150 +1,214 @@
 #include "tests/fake/page.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdio>
-#include <cstdlib>
+#include <cstring>
+#include <sstream>
+#include <tinyxml2.h>
 
-#include "menu/core/flat_list.h"
+#include "osd_page.h"
 #include "tests/fake/calls.h"
+#include "tests/fake/platform.h"
 
 namespace fake {
 
-namespace {
-
-tagITEM_NODE_S* newItem(list_head* head, const std::string& name, tagITEM_CTX_E ctx, tagITEM_ATTR_E attr,
-                        const std::string& value)
+// The words that an item or option leaves out: those of the first row that fits an attribute, then of the next one.
+static void complete(tinyxml2::XMLElement* element)
 {
-    auto* item = static_cast<tagITEM_NODE_S*>(calloc(1, sizeof(tagITEM_NODE_S)));
-    setField(item->acItemName, name);
-    setField(item->acItemIndex, name);
-    setField(item->acValue[0], value);
-    item->enCtx = ctx;
-    item->enAttr = attr;
-    item->enValType = OPTTXT;
-    item->enPicType = PIC_TYPE_NONE;
-    item->s32ValCnt = value.empty() ? 0 : 1;
-    item->s32ItemCnt = 1;
-    osdListAddTail(&item->stNode, head);
-    return item;
-}
-
-std::string text(const char* label, const std::string& value)
-{
-    return value.empty() ? "" : std::string(" ") + label + "=" + value;
-}
-
-std::string number(const char* label, int value, int usual = 0)
-{
-    return text(label, value == usual ? "" : std::to_string(value));
-}
-
-std::string describeValue(const tagITEM_NODE_S& item)
-{
-    if (item.enValType == NUMERICAL) {
-        return format(" %d..%d/%d=%d,%d", item.s32Min, item.s32Max, item.s32Step, item.s32Cur, item.s32Saved);
-    }
-    if (item.enAttr == EDITABLE) {
-        return format(" [%s][%s]", item.acValue[0], item.acValue[1]);
-    }
-    std::string out = item.s32ValCnt > 0 ? " " : "";
-    for (int option = 0; option < item.s32ValCnt; option++) {
-        out += format("[%s|%s", item.acValueKey[option], item.acValue[option]);
-        for (const tagITEM_NODE_S* sub : osdItems(const_cast<list_head*>(&item.astSubList[option]))) {
-            out += "{" + describe(*sub) + "}";
+    static const struct {
+        const char *attribute, *value, *missing, *word;
+    } usual[] = {{nullptr, nullptr, "Attr", "COMMON"},
+                 {"Attr", "CONST_TXT", "Ctx", "NAME"},
+                 {"Attr", "SUBPAGE", "Ctx", "NAME"},
+                 {"Attr", "CONFIRM", "Ctx", "NAME"},
+                 {"Attr", "CONFIRM_POP_BTN", "Ctx", "NAME"},
+                 {"Attr", "EDITABLE", "Ctx", "NAME_IP_VAL"},
+                 {"Attr", "EDITABLE", "ValType", "EDITTXT"},
+                 {"Attr", "EDITABLE", "NumOfChar", "15"},
+                 {"Attr", "KEY_WITH_MSG", "Msg", "Press"},
+                 {"Attr", "MSG_WITH_SUBITEM", "Msg", "Press"},
+                 {"ValType", "NUMERICAL", "Ctx", "NAME_BAR_VAL"},
+                 {nullptr, nullptr, "Ctx", "NAME_VAL"},
+                 {nullptr, nullptr, "Value", "Go"}};
+    for (const auto& row : usual) {
+        const bool fits = row.attribute == nullptr || element->Attribute(row.attribute, row.value) != nullptr;
+        if (element->Attribute("ItemIndex") != nullptr && fits && element->Attribute(row.missing) == nullptr) {
+            element->SetAttribute(row.missing, row.word);
         }
-        out += "]";
     }
-    return out + number("cur", item.s32CurIdx) + number("saved", item.s32SavedIdx);
+    for (auto* child = element->FirstChildElement(); child != nullptr; child = child->NextSiblingElement()) {
+        complete(child);
+    }
 }
 
-} // namespace
+void setPage(const std::string& name, const std::string& items, const std::string& attributes)
+{
+    tinyxml2::XMLDocument document;
+    (void)document.Parse(("<Page " + attributes + ">" + items + "</Page>").c_str());
+    tinyxml2::XMLElement* root = document.RootElement();
+    if (root == nullptr) {
+        throw std::invalid_argument(name + ": " + document.ErrorStr());
+    }
+    if (root->Attribute("Layout") == nullptr) {
+        root->SetAttribute("Layout", "vertical_align");
+    }
+    complete(root);
+    tinyxml2::XMLPrinter printer;
+    document.Print(&printer);
+    platform().pages[name] = printer.CStr();
+}
+
+void setPages(const std::string& text)
+{
+    std::vector<std::string> page; // name, attributes, items
+    const auto store = [&page] { page.empty() ? void() : setPage(page[0], page[2], page[1]); };
+    for (const std::string& line : linesIn(text)) {
+        const std::vector<std::string> head = matched(line, R"((\w+)([^<]*):(.*))");
+        if (!head.empty()) {
+            store();
+            page = head;
+        } else {
+            page.at(2) += line;
+        }
+    }
+    store();
+}
+
+tagITEM_NODE_S* itemAt(const list_head& list, int index)
+{
+    const list_head* at = list.next; // null where there is no list
+    for (; at != &list && at != nullptr && index > 0; index--) {
+        at = at->next;
+    }
+    if (at == &list || at == nullptr) {
+        return nullptr;
+    }
+    const char* item = reinterpret_cast<const char*>(at) - offsetof(tagITEM_NODE_S, stNode);
+    return reinterpret_cast<tagITEM_NODE_S*>(const_cast<char*>(item));
+}
+
+std::vector<tagITEM_NODE_S*> itemsOf(tagPAGE_NODE_S& page)
+{
+    list_head head = {&head, &head};
+    for (int index = 0; itemAt(page.stItemList, index) != nullptr; index++) {
+        (void)osdMenuInsertItems2TmpList(itemAt(page.stItemList, index), &head);
+    }
+    std::vector<tagITEM_NODE_S*> items;
+    for (list_head* at = head.next; at != &head; at = at->next) {
+        char* item = reinterpret_cast<char*>(at) - offsetof(tagITEM_NODE_S, stTmpNode);
+        items.push_back(reinterpret_cast<tagITEM_NODE_S*>(item));
+    }
+    return items;
+}
+
+tagITEM_NODE_S& itemOf(const std::string& key, int page)
+{
+    const auto items = itemsOf(gstPageMgr.astPage[page]);
+    return **std::find_if(items.begin(), items.end(), [&](auto* item) { return key == item->acItemIndex; });
+}
 
 void setField(char (&field)[OSD_TEXT_LEN], const std::string& text)
 {
     snprintf(field, sizeof field, "%s", text.c_str());
 }
 
-tagPAGE_NODE_S* addPage(tagPAGE_LAYOUT_E layout, const std::string& title)
+static std::string optionOf(const tagITEM_NODE_S& item, int index)
 {
-    tagPAGE_NODE_S* page = &gstPageMgr.astPage[gstPageMgr.s32PageCnt++];
-    *page = {};
-    page->enLayout = layout;
-    page->bTitle = title.empty() ? 0 : 1;
-    setField(page->acTitle, title);
-    osdListInit(&page->stItemList);
-    return page;
+    const bool shown = index == 0 || (index > 0 && index < item.s32ValCnt);
+    return shown ? item.acValue[index] : format("option %d", index);
 }
 
-tagITEM_NODE_S* addItem(tagPAGE_NODE_S* page, const std::string& name, tagITEM_CTX_E ctx, tagITEM_ATTR_E attr,
-                        const std::string& value)
+static std::string addressOf(const tagITEM_NODE_S& item)
 {
-    tagITEM_NODE_S* item = newItem(&page->stItemList, name, ctx, attr, value);
-    item->enLevel = page->bTitle == 1 ? ITEM_LEVEL_UNDER_TITLE : ITEM_LEVEL_TOP;
-    page->s32ItemCnt++;
-    return item;
-}
-
-tagITEM_NODE_S* addSubItem(tagITEM_NODE_S* parent, int option, const std::string& name, tagITEM_CTX_E ctx,
-                           tagITEM_ATTR_E attr, const std::string& value)
-{
-    tagITEM_NODE_S* item = newItem(&parent->astSubList[option], name, ctx, attr, value);
-    item->enLevel = static_cast<tagITEM_LEVEL_E>(parent->enLevel + 1);
-    item->bSubItem = 1;
-    return item;
-}
-
-void setOptions(tagITEM_NODE_S* item, std::initializer_list<const char*> options, int current)
-{
-    item->s32ValCnt = 0;
-    for (const char* option : options) {
-        setField(item->acValue[item->s32ValCnt], option);
-        setField(item->acValueKey[item->s32ValCnt], option);
-        osdListInit(&item->astSubList[item->s32ValCnt++]);
+    std::string text = item.acValue[1];
+    const auto cursor = static_cast<size_t>(item.s32EditCursor);
+    if (item.bEditing == 1 && cursor < text.size()) {
+        text.replace(cursor, 1, std::string("[") + text[cursor] + "]");
+    } else if (item.bEditing == 1 || cursor != 0) {
+        text += format(", cursor at %d", item.s32EditCursor);
     }
-    item->s32SavedIdx = item->s32CurIdx = current;
+    return text + (strcmp(item.acValue[0], item.acValue[1]) == 0 ? "" : std::string(", was ") + item.acValue[0]);
 }
 
-void setRange(tagITEM_NODE_S* item, int min, int max, int step, int current)
+std::string valueOf(const tagITEM_NODE_S& item)
 {
-    item->enValType = NUMERICAL;
-    item->s32Min = min;
-    item->s32Max = max;
-    item->s32Step = step;
-    item->s32Saved = item->s32Cur = current;
+    if (item.enValType == NUMERICAL) {
+        const std::string was = item.s32Cur == item.s32Saved ? "" : format(", was %d", item.s32Saved);
+        return format("%d of %d..%d", item.s32Cur, item.s32Min, item.s32Max) + was;
+    }
+    if (item.enAttr == EDITABLE) {
+        return addressOf(item);
+    }
+    const std::string now = optionOf(item, item.s32CurIdx);
+    const std::string saved = optionOf(item, item.s32SavedIdx);
+    return item.s32CurIdx == item.s32SavedIdx
+               ? now
+               : (now.empty() ? "none" : now) + ", was " + (saved.empty() ? "none" : saved);
 }
 
-std::string describe(const tagPAGE_NODE_S& page)
+static std::string rowOf(const tagITEM_NODE_S& item, int below, bool selected)
 {
-    const tagPAGE_TURN_S& turn = page.stTurn;
-    const std::string title = format("%s|%s", page.acTitleKey, page.acTitle);
-    return page.acPageName + number("layout", page.enLayout) + number("perLine", page.s32CountPerLine) +
-           text("num", turn.bCurPagesNum == 1 ? turn.acCurPagesNum : "") +
-           text("next", turn.bNextPage == 1 ? turn.acNextPage : "") +
-           text("prev", turn.bPrevPage == 1 ? turn.acPrevPage : "") + text("msg", page.acPageMsg) +
-           text("title", page.bTitle == 1 ? title : "") + number("pos", page.enTitlePos) +
-           number("confirm", page.bConfirmBtn) + number("rdOnly", page.bRdOnly) + number("items", page.s32ItemCnt);
+    const std::string value = valueOf(item);
+    return (selected ? "> " : "  ") + std::string(2 * static_cast<size_t>(below), ' ') + item.acItemName +
+           (value.empty() ? "" : "  " + value);
 }
 
-std::string describe(const tagITEM_NODE_S& item)
+std::vector<std::string> screen()
 {
-    const std::string message = format("%s|%s", item.acMsgKey, item.acMsg);
-    return format("%s|%s ctx=%d attr=%d", item.acItemIndex, item.acItemName, item.enCtx, item.enAttr) +
-           number("type", item.enValType, OPTTXT) + number("pic", item.enPicType, PIC_TYPE_NONE) +
-           number("level", item.enLevel) + number("active", item.bActive) + number("sub", item.bSubItem) +
-           number("count", item.s32ItemCnt, 1) + number("index", item.s32ItemIndexOnLine) + text("icon", item.acPic) +
-           text("selected", item.acSelectPic) + number("chars", item.s32NumOfChar) + number("pos", item.enItemPos) +
-           number("line", item.bLine) + text("zone", item.acDataZone) + text("msg", message == "|" ? "" : message) +
-           text("opens", item.acSubPage) + text("asks", item.acConfirmPage) + number("live", item.bShowValue) +
-           describeValue(item);
-}
-
-tagITEM_NODE_S* itemAt(const list_head& list, int index)
-{
-    for (tagITEM_NODE_S* item : osdItems(const_cast<list_head*>(&list))) {
-        if (index-- == 0) {
-            return item;
+    std::string path = gstPageMgr.s32PageCnt > 0 ? "" : "closed";
+    std::vector<std::string> rows;
+    for (int at = 0; at < gstPageMgr.s32PageCnt; at++) {
+        tagPAGE_NODE_S& page = gstPageMgr.astPage[at];
+        const tagITEM_NODE_S* selected = osdMenuGetSelectedItem(&page);
+        path += (at == 0 ? "" : " / ") + std::string(*page.acPageName == '\0' ? "unread" : page.acPageName);
+        if (at + 1 < gstPageMgr.s32PageCnt) {
+            path += " at " + (selected == nullptr ? "nothing" : squeezed(rowOf(*selected, 0, false)));
+            continue;
+        }
+        for (const tagITEM_NODE_S* item : itemsOf(page)) {
+            const bool cursor = page.enLayout == PAGE_LAYOUT_ICON ? item == selected : item->bActive == 1;
+            rows.push_back(rowOf(*item, item->enLevel - (page.bTitle == 1 ? 1 : 0), cursor));
+        }
+        if (page.bKeyMsg == 1) {
+            rows.insert(rows.end(), {"---", page.acKeyMsg});
         }
     }
-    return nullptr;
+    rows.insert(rows.begin(), path);
+    return rows;
+}
+
+std::string squeezed(const std::string& line)
+{
+    const size_t first = line.find_first_not_of(' ');
+    return first == std::string::npos ? "" : replaced(replaced(line.substr(first), " +$", ""), "  +", " ");
+}
+
+std::vector<std::string> linesIn(const std::string& text)
+{
+    std::istringstream in(text);
+    std::vector<std::string> lines;
+    size_t margin = std::string::npos;
+    for (std::string line; std::getline(in, line);) {
+        const size_t first = line.find_first_not_of(' ');
+        if (first != std::string::npos) {
+            margin = std::min(margin, first);
+            lines.push_back(line.substr(0, line.find_last_not_of(' ') + 1));
+        }
+    }
+    for (std::string& line : lines) {
+        line.erase(0, margin);
+    }
+    return lines;
+}
+
+std::string joined(const std::vector<std::string>& parts, const std::string& between)
+{
+    std::string all;
+    for (size_t at = 0; at < parts.size(); at++) {
+        all += (at == 0 ? "" : between) + parts[at];
+    }
+    return all;
 }
 
 } // namespace fake

@@ -1,34 +1,44 @@
-// Builds pages and items as records, without a page file.
+// Pages as page files, and an open menu as a small screen of text:
+//     main at More / image            the pages, each lower one with what is selected on it
+//     > Mode     Manual               the item with the cursor, and its value
+//         Gain   40 of 0..100         an item below it
+//       Iris     Auto, was Low        a value that isn't committed
+//       Address  192.168.[0]01.005    the digit that is being edited
+//     ---
+//     Press                           the message line
 #pragma once
 
-#include <initializer_list>
+#include <map>
 #include <string>
+#include <vector>
 
 #include "osd_records.h"
 
 namespace fake {
 
-// Pushes an empty page; a title when the text isn't empty.
-tagPAGE_NODE_S* addPage(tagPAGE_LAYOUT_E layout, const std::string& title = "");
+// Stores the page file of that name with these items. Words that it leaves out are the usual ones: a vertical list of
+// values that a key changes at once. What an item does may set others: a button reads "Go", a message "Press".
+void setPage(const std::string& name, const std::string& items, const std::string& attributes = "");
 
-// Appends an item whose key is its name; a value text makes it an item of one option.
-tagITEM_NODE_S* addItem(tagPAGE_NODE_S* page, const std::string& name, tagITEM_CTX_E ctx, tagITEM_ATTR_E attr,
-                        const std::string& value = "");
+// Several of them: a line "name attributes:", with the items behind it or below.
+void setPages(const std::string& text);
 
-// Appends a sub-item under an option, one level below its parent.
-tagITEM_NODE_S* addSubItem(tagITEM_NODE_S* parent, int option, const std::string& name, tagITEM_CTX_E ctx,
-                           tagITEM_ATTR_E attr, const std::string& value = "");
+// The item at that place, or null.
+tagITEM_NODE_S* itemAt(const list_head& list, int index);
+// The items of a page that show, in order.
+std::vector<tagITEM_NODE_S*> itemsOf(tagPAGE_NODE_S& page);
+// The first one of that key on the page that was opened n-th; it must be there.
+tagITEM_NODE_S& itemOf(const std::string& key, int page = 0);
 
-// Gives an item its options, with empty lists of sub-items; labels equal keys.
-void setOptions(tagITEM_NODE_S* item, std::initializer_list<const char*> options, int current = 0);
-void setRange(tagITEM_NODE_S* item, int min, int max, int step, int current);
 void setField(char (&field)[OSD_TEXT_LEN], const std::string& text);
 
-// The fields that differ from what an empty record holds, as text. Options read [key|label{sub-items}], numbers
-// min..max/step=shown,saved.
-std::string describe(const tagPAGE_NODE_S& page);
-std::string describe(const tagITEM_NODE_S& item);
+std::string valueOf(const tagITEM_NODE_S& item);
+std::vector<std::string> screen();
 
-tagITEM_NODE_S* itemAt(const list_head& list, int index);
+// A text's lines without their common margin and without empty ones; a line without what only aligns it.
+std::vector<std::string> linesIn(const std::string& text);
+std::string squeezed(const std::string& line);
+
+std::string joined(const std::vector<std::string>& parts, const std::string& between);
 
 } // namespace fake

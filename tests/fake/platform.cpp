@@ -151,7 +151,9 @@ int CFG_LANG_GetString(char* language, char* key, char* out)
     if (fails("translate") || platform().untranslated.count(key) != 0) {
         return -1;
     }
-    copyText(out, OSD_TEXT_LEN, (strcmp(language, "German") == 0 ? "d." : platform().translated) + key);
+    const auto word = platform().words.find(key);
+    const std::string prefix = strcmp(language, "German") == 0 ? "d." : platform().translated;
+    copyText(out, OSD_TEXT_LEN, word != platform().words.end() ? word->second : prefix + key);
     return 0;
 }
 

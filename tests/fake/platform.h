@@ -31,7 +31,8 @@ struct Platform {
     std::function<void(tinyxml2::XMLDocument&)> build; // builds any document, when set
     std::set<std::string> untranslated;                // any other key answers this and the key
     std::string translated = "t.";
-    std::string language = "English"; // in "German" the answer is "d." and the key
+    std::map<std::string, std::string> words; // that are translated otherwise
+    std::string language = "English";         // in "German" the answer is "d." and the key
     std::string deviceType;
     std::map<int, std::string> answers;                    // of the get-callback, by event
     std::map<std::string, std::string> parents;            // of data zones

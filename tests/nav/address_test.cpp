@@ -1,5 +1,4 @@
 // Editing of an address: its two forms, the edit cursor, and texts that are no address.
-#include "menu/nav/address.h"
 #include "tests/nav/nav_test.h"
 
 using namespace fake;
@@ -7,40 +6,46 @@ using AddressTest = NavTest;
 
 TEST_F(AddressTest, FormsCursorAndDigits)
 {
+    setPage("a", "<I ItemIndex='Ip' Attr='EDITABLE'/>");
     check(R"(
-        a = Ip@
-        a; home; show a.Ip=192.168.1.5|192.168.001.005@0; a(Ip*=192.168.1.5|192.168.001.005@0)
-        a; home | home; show a.Ip=192.168.1.5; a(Ip*=192.168.1.5)
-        a; Ip=010.000.000.001 refresh | home; show a.Ip=010.000.000.001@0; a(Ip*=010.000.000.001@0)
-        a; Ip=010.000.000.001 refresh home | home; show a.Ip=010.000.000.001|10.0.0.1; a(Ip*=010.000.000.001|10.0.0.1)
-        a; home right right | right; show a.Ip=192.168.1.5|192.168.001.005@4; a(Ip*=192.168.1.5|192.168.001.005@4)
-        a; home right right right | left; show a.Ip=192.168.1.5|192.168.001.005@2; a(Ip*=192.168.1.5|192.168.001.005@2)
-        a; home left left left | down; show a.Ip=192.168.1.5|192.168.001.905@12; a(Ip*=192.168.1.5|192.168.001.905@12)
-        a; home left left left | left; show a.Ip=192.168.1.5|192.168.001.005@10; a(Ip*=192.168.1.5|192.168.001.005@10)
-        a; home left | up; show a.Ip=192.168.1.5|192.168.001.006@14; a(Ip*=192.168.1.5|192.168.001.006@14)
-        a; home left | right; show a.Ip=192.168.1.5|192.168.001.005@0; a(Ip*=192.168.1.5|192.168.001.005@0)
-        a; home right | up; show a.Ip=192.168.1.5|102.168.001.005@1; a(Ip*=192.168.1.5|102.168.001.005@1)
-        a; home | down_right; show a.Ip=192.168.1.5|092.168.001.005@1; a(Ip*=192.168.1.5|092.168.001.005@1)
-        a; Ip=10.0.0.255 refresh home left up right up | home; show a.Ip=10.0.0.255|110.0.0.256; a(Ip*=10.0.0.255|110.0.0.256)
+        a
+        > Ip  192.168.1.5
+        home                         | shows the menu | > Ip [1]92.168.001.005, was 192.168.1.5
+        then home                    | shows the menu | > Ip 192.168.1.5
+        home right right             | shows the menu | > Ip 19[2].168.001.005, was 192.168.1.5
+        then right                   | shows the menu | > Ip 192.[1]68.001.005, was 192.168.1.5
+        then left                    | shows the menu | > Ip 19[2].168.001.005, was 192.168.1.5
+        then home                    | shows the menu | > Ip 192.168.1.5
+        then home                    | shows the menu | > Ip [1]92.168.001.005, was 192.168.1.5
+        then left                    | shows the menu | > Ip 192.168.001.00[5], was 192.168.1.5
+        then up                      | shows the menu | > Ip 192.168.001.00[6], was 192.168.1.5
+        then left left left          | shows the menu | > Ip 192.168.00[1].006, was 192.168.1.5
+        home left left down          | shows the menu | > Ip 192.168.001.0[9]5, was 192.168.1.5
+        home left right              | shows the menu | > Ip [1]92.168.001.005, was 192.168.1.5
+        then right up                | shows the menu | > Ip 1[0]2.168.001.005, was 192.168.1.5
+        home down_right              | shows the menu | > Ip 0[9]2.168.001.005, was 192.168.1.5
+        then home                    | shows the menu | > Ip 92.168.1.5, was 192.168.1.5
+        Ip=010.000.000.001 refresh home | shows the menu | > Ip [0]10.000.000.001
+        then home                    | shows the menu | > Ip 10.0.0.1, was 010.000.000.001
+        Ip=10.0.0.255 refresh home left up right up home | shows the menu | > Ip 110.0.0.256, was 10.0.0.255
     )");
 }
 
 // The edit cursor stays in the text, and the text in its field.
 TEST_F(AddressTest, WithoutLengthAndWithoutAddress)
 {
-    check("a = Ip@");
-    tagPAGE_NODE_S& page = gstPageMgr.astPage[0];
+    setPage("a", "<I ItemIndex='Ip' Attr='EDITABLE'/>");
     for (const int length : {0, -5, 16, 32, 1000000}) {
         for (const char* text : {"192.168.1.5", "", "...", "a.b.c.d", "99999999999999", "-2147483648.-2.-3.-4"}) {
             setText("Ip", "", text);
             openAll("a");
-            itemAt(page.stItemList, 0)->s32NumOfChar = length;
+            tagITEM_NODE_S& item = itemOf("Ip");
+            item.s32NumOfChar = length;
             for (const char* key :
                  {"home", "left", "up", "left", "down", "right", "right", "up", "home", "home", "left"}) {
-                (void)pressed(key);
-                const tagITEM_NODE_S& item = *itemAt(page.stItemList, 0);
+                (void)press(key);
                 const size_t end = strnlen(item.acValue[1], OSD_TEXT_LEN);
-                EXPECT_TRUE(end < 32 && item.s32EditCursor >= 0 && item.s32EditCursor < 31) << text << ": " << state();
+                EXPECT_TRUE(end < 32 && item.s32EditCursor >= 0 && item.s32EditCursor < 31) << text << ": " << key;
             }
         }
     }

@@ -1,6 +1,4 @@
 // Which changes are committed and reach the host, the colour text, the host's questions, and another language.
-#include "menu/core/flat_list.h"
-#include "menu/nav/change.h"
 #include "tests/nav/nav_test.h"
 
 using namespace fake;
@@ -8,34 +6,67 @@ using ChangeTest = NavTest;
 
 TEST_F(ChangeTest, HeldModesAndConfirmedPages)
 {
-    check(R"(
-        v = Z# W! F- S? Mode{ (A ) (B ) ] Ip@ More>sub
-        network ConfirmBtn='Yes' = IpMode[ (DhcpIp ) (StaticIp ) ] DnsMode{ (AutoMode ) (Manual ) ] G
-        other ConfirmBtn='Yes' = IpMode[ (DhcpIp ) (StaticIp Z# ) ] DnsMode{ (AutoMode ) (Manual ) ] W!
-        alone ConfirmBtn='Yes' = DnsMode{ (AutoMode ) (Manual ) ]
-        v; left_update set set; show v.Z=6, do Z=6, show v.Z=6, do Z=6, show v.Z=6; v(Z*=6 W=1 F S Mode Ip=192.168.1.5 More)
-        v; down right | set; show v.W=2/1; v(Z=9 W*=2/1 F S Mode Ip=192.168.1.5 More) 't.Press'
-        network; right | down right; show network.DnsMode, do DnsMode=1, show network.DnsMode=1; network(IpMode=1/0 DnsMode*=1 G)
-        network; down | right_update; show network.DnsMode=1; network(IpMode DnsMode*=1 G)
-        network; IpMode=StaticIp refresh left down | right home set; show network.DnsMode=1/0, show network.DnsMode=1/0; network(IpMode=0/1 DnsMode*=1/0 G) 't.Press'
-        network; set down set; do IpMode, show network.IpMode, show network.DnsMode, do DnsMode, show network.DnsMode; network(IpMode DnsMode* G)
-        network; up | right set; show network.G=1/0, do G=1/0, show network.G=1/0; network(IpMode DnsMode G*=1/0)
-        other; up right | set home set; do W=2, show other.W=2; other(IpMode DnsMode W*=2)
-        other; Z=4 | right; show other.IpMode=1/0; other(IpMode*=1/0 Z=4 DnsMode W=1)
-        other; right down right Z=5 | up; show other.IpMode=1/0; other(IpMode*=1/0 Z=5 DnsMode W=1)
-        other; IpMode=StaticIp refresh down down | right; do DnsMode=1, show other.DnsMode=1; other(IpMode=1 Z=9 DnsMode*=1 W=1)
-        alone; right; do DnsMode=1, show alone.DnsMode=1; alone(DnsMode*=1)
+    setPages(R"(
+        network ConfirmBtn="Yes":
+            <I ItemIndex="IpMode" Attr="SUBITEM"> <O ModeIndex="DhcpIp"/> <O ModeIndex="StaticIp"/> </I>
+            <I ItemIndex="DnsMode" Attr="MSG_WITH_SUBITEM"> <O ModeIndex="AutoMode"/> <O ModeIndex="Manual"/> </I>
+            <I ItemIndex="Gain"/>
+        other ConfirmBtn="Yes":
+            <I ItemIndex="IpMode" Attr="SUBITEM"> <O ModeIndex="DhcpIp"/>
+                <O ModeIndex="StaticIp"> <I ItemIndex="Zoom" ValType="NUMERICAL"/> </O> </I>
+            <I ItemIndex="DnsMode" Attr="MSG_WITH_SUBITEM"> <O ModeIndex="AutoMode"/> <O ModeIndex="Manual"/> </I>
+            <I ItemIndex="Wait" Attr="KEY_WITH_MSG"/>
+        alone ConfirmBtn="Yes":
+            <I ItemIndex="DnsMode" Attr="MSG_WITH_SUBITEM"> <O ModeIndex="AutoMode"/> <O ModeIndex="Manual"/> </I>
     )");
-    seen = {"do "};
-    openAll("v");
-    EXPECT_EQ(pressed("set down set down set down set down set down set down set"),
-              "do Z=9, do F, do S, do Ip=192.168.1.5, do More");
+    check(R"(
+        list
+        left_update         | shows the menu                          | > Zoom 6 of 0..10
+        then set            | sets Zoom to 6, shows the menu          | > Zoom 6 of 0..10
+        then set            | sets Zoom to 6, shows the menu          | > Zoom 6 of 0..10
+        down down right set | shows the menu                          | > Wait C, was B --- Press
+        down down down set  | passes Note, shows the menu             | > Note
+        up up up up set     | passes SN, shows the menu               | > SN
+        up up up set        | sets Ip to 192.168.1.5, shows the menu  | > Ip 192.168.1.5
+        up up set           | shows the menu                          | > Mode A
+        up set              | passes More, shows the menu             | > More
+        network
+        > IpMode   DhcpIp
+          DnsMode  AutoMode
+          Gain     Auto
+        right down         | shows the menu                          | IpMode StaticIp, was DhcpIp; > DnsMode AutoMode
+        then right         | sets DnsMode to Manual, shows the menu  | IpMode StaticIp, was DhcpIp; > DnsMode Manual
+        down right_update  | shows the menu                          | > DnsMode Manual
+        IpMode=StaticIp refresh left down right | shows the menu
+                           | IpMode DhcpIp, was StaticIp; > DnsMode Manual, was AutoMode --- Press
+        then home          |     | IpMode DhcpIp, was StaticIp; > DnsMode Manual, was AutoMode --- Press
+        then set           | shows the menu | IpMode DhcpIp, was StaticIp; > DnsMode Manual, was AutoMode --- Press
+        set                | sets IpMode to DhcpIp, shows the menu   | > IpMode DhcpIp
+        down set           | sets DnsMode to AutoMode, shows the menu | > DnsMode AutoMode
+        up right           | shows the menu                          | > Gain Low, was Auto
+        then set           | sets Gain to Low, was Auto, shows the menu | > Gain Low, was Auto
+        other
+        up right           | shows the menu                          | > Wait C, was B --- Press
+        then set           |                                         | > Wait C, was B --- Press
+        then home          | sets Wait to C, shows the menu          | > Wait C
+        then set           |                                         | > Wait C
+        Zoom=4 right       | shows the menu                          | > IpMode StaticIp, was DhcpIp; Zoom 4 of 0..10;
+            | DnsMode AutoMode; Wait B
+        right down right Zoom=5 up | shows the menu                  | > IpMode StaticIp, was DhcpIp; Zoom 5 of 0..10;
+            | DnsMode AutoMode; Wait B
+        IpMode=StaticIp refresh down down right | sets DnsMode to Manual, shows the menu
+            | IpMode StaticIp; Zoom 9 of 0..10; > DnsMode Manual; Wait B
+        alone
+        right              | sets DnsMode to Manual, shows the menu  | > DnsMode Manual
+    )");
 }
 
 // The neighbour is the one of the list that was flattened last, not of what the records say by now.
 TEST_F(ChangeTest, NeighbourOfTheLastList)
 {
-    check("p = IpMode[ (DhcpIp ) (StaticIp Z# ) ] DnsMode[ (AutoMode ) (Manual ) ]");
+    setPage("p", R"(<I ItemIndex="IpMode" Attr="SUBITEM"> <O ModeIndex="DhcpIp"/>
+            <O ModeIndex="StaticIp"> <I ItemIndex="Zoom" ValType="NUMERICAL"/> </O> </I>
+        <I ItemIndex="DnsMode" Attr="SUBITEM"> <O ModeIndex="AutoMode"/> </I>)");
     openAll("p");
     tagPAGE_NODE_S& page = gstPageMgr.astPage[0];
     tagITEM_NODE_S* mode = itemAt(page.stItemList, 0);
@@ -50,45 +81,80 @@ TEST_F(ChangeTest, NeighbourOfTheLastList)
     platform().language = "English";
     (void)osdMenuGetSelectedItem(&page);
     EXPECT_EQ(osdXmlIsStaticOfNetMode(dns), 0);
+
+    tagITEM_NODE_S records[2] = {}; // items that stand on no page
+    tagITEM_NODE_S& before = records[0];
+    tagITEM_NODE_S& behind = records[1];
+    setField(before.acItemIndex, "IpMode");
+    setField(before.acValue[0], "StaticIp");
+    before.s32ValCnt = 1;
+    setField(behind.acItemIndex, "DnsMode");
+    before.stTmpNode = {&behind.stTmpNode, &behind.stTmpNode};
+    behind.stTmpNode = {&before.stTmpNode, &before.stTmpNode};
+    EXPECT_EQ(osdXmlIsStaticOfNetMode(&behind), 1) << "there the link is taken as it stands";
+    setField(before.acItemIndex, "Other");
+    EXPECT_EQ(osdXmlIsStaticOfNetMode(&behind), 0);
 }
 
-TEST_F(ChangeTest, ColourTextAndQuestions)
+TEST_F(ChangeTest, ColourText)
 {
     setNumber("LedCustomColor", 0, 0xFFFFFF, 153, 0x123456); // red 18, green 52
     platform().answers[OSD_MENU_GET_LED_CUSTOM_COLOR] = "1a3456";
     platform().host = [](tagITEM_NODE_S*) { platform().answers[OSD_MENU_GET_LED_CUSTOM_COLOR] = "FEDCBA"; };
+    setPages(R"(
+        tally Layout="vertical_align_keth": <I ItemIndex="LedCustomRed" ValType="NUMERICAL"/>
+            <I ItemIndex="LedCustomGreen" ValType="NUMERICAL"/> <I ItemIndex="Gain"/>
+            <I ItemIndex="LedCustomColor" Attr="STATUS"/>
+        other Layout="vertical_align_keth": <I ItemIndex="LedCustomRed" ValType="NUMERICAL"/>
+            <I ItemIndex="LedCustomColor" Attr="STATUS"/>
+    )");
+    check(R"(
+        tally
+        > LedCustomRed    18 of 0..255
+          LedCustomGreen  52 of 0..255
+          Gain            Auto
+          LedCustomColor  1a3456
+        right_update            | shows the menu | > LedCustomRed 171 of 0..255; LedCustomColor AB3456
+        down right_update       | shows the menu | > LedCustomGreen 205 of 0..255; LedCustomColor 1ACD56
+        right                   | shows the menu | > LedCustomRed 171 of 0..255; LedCustomColor FEDCBA
+        down right              | shows the menu | > LedCustomGreen 205 of 0..255; LedCustomColor FEDCBA
+        down down right         | shows the menu | > Gain Low
+        other
+        right right_update      | shows the menu | > LedCustomRed 0 of 0..255
+    )");
+    setPage("tally", R"(<I ItemIndex="LedCustomRed" ValType="NUMERICAL"/>)", "Layout='vertical_align_keth'");
+    check("tally\n right_update | shows the menu | > LedCustomRed 171 of 0..255\n");
+}
+
+TEST_F(ChangeTest, Questions)
+{
+    const std::string both = R"(<I ItemIndex="ViewFollowExposure"/> <I ItemIndex="ViewFollowWB"/>)";
     for (const char* key : {"ViewFollowExposure", "ViewFollowWB"}) {
         setText(key, "Off:On", "Off");
     }
-    platform().translated = ""; // the question is for the label "On"
-    check(R"(
-        tally Layout='vertical_align_keth' = LedCustomRed# LedCustomGreen# G LedCustomColor?
-        other Layout='vertical_align_keth' = LedCustomRed# LedCustomColor?
-        bare Layout='vertical_align_keth' = LedCustomRed#
-        tally; right_update; ; tally(LedCustomRed*=171 LedCustomGreen=52 G LedCustomColor='AB3456')
-        tally; down right_update; ; tally(LedCustomRed=18 LedCustomGreen*=205 G LedCustomColor='1ACD56')
-        tally; right; ; tally(LedCustomRed*=171 LedCustomGreen=52 G LedCustomColor='FEDCBA')
-        tally; down right; ; tally(LedCustomRed=18 LedCustomGreen*=205 G LedCustomColor='FEDCBA')
-        tally; down down right; ; tally(LedCustomRed=18 LedCustomGreen=52 G*=1 LedCustomColor='1a3456')
-        other; right right_update; ; other(LedCustomRed*=0 LedCustomColor='1a3456')
-        bare; right_update; ; bare(LedCustomRed*=171)
-    )");
-    seen = {"do "};
     for (const std::string name : {"exposure", "wblance", "network"}) {
-        check(name + " = ViewFollowExposure ViewFollowWB\n" + "net" + name + " = ViewFollowExposure ViewFollowWB");
+        setPage(name, both);
+        setPage("net" + name, both);
         openAll(name);
-        EXPECT_EQ(pressed("is_exposure") + pressed("is_wb") + pressed("is_network"), name == "network" ? "1" : "");
-        EXPECT_EQ(pressed("right is_exposure"), name == "exposure" ? "1" : "");
-        EXPECT_EQ(pressed("down right is_wb"), name == "wblance" ? "1" : "");
+        EXPECT_EQ(pressed("is_exposure") + pressed("is_wb"), "");
+        EXPECT_EQ(pressed("is_network"), name == "network" ? "answers yes" : "");
+        EXPECT_EQ(pressed("right is_exposure"), name == "exposure" ? "answers yes" : "");
+        EXPECT_EQ(pressed("down right is_wb"), name == "wblance" ? "answers yes" : "");
         openAll("net" + name);
         EXPECT_EQ(pressed("down_right is_exposure") + pressed("is_wb") + pressed("is_network"), "");
     }
+    setPage("exposure", both, "ConfirmBtn='Yes'");
+    setPage("wblance",
+            R"(<I ItemIndex="Mode" Attr="SUBITEM"> <O ModeIndex="A"> <I ItemIndex="ViewFollowWB"/> </O> </I>)");
     check(R"(
-        exposure ConfirmBtn='Yes' = ViewFollowExposure
-        wblance = Mode[ (A ViewFollowWB ) ]
-        exposure; right is_exposure; ; exposure(ViewFollowExposure*=1/0)
-        wblance; down right is_wb; ; wblance(Mode ViewFollowWB*=1)
-        ; is_exposure is_wb is_network; ;
+        exposure
+        right is_exposure | | > ViewFollowExposure On, was Off
+        wblance
+        down right is_wb  | | > ViewFollowWB On
+        closed
+        is_exposure       | |
+        is_wb             | |
+        is_network        | |
     )");
 }
 
@@ -98,29 +164,38 @@ TEST_F(ChangeTest, AnotherLanguage)
     platform().host = [](tagITEM_NODE_S* item) {
         platform().language = item->s32SavedIdx == item->s32CurIdx ? item->acValueKey[item->s32CurIdx] : "early";
     };
-    check(R"(
-        main Title='Top' TitlePos='Left' = G~ Mode[ (A G ) ] W! Go:c Push, More> S? Z#
-        sub = Language
+    setPages(R"(
+        main Title="Top" TitlePos="Left": <I ItemIndex="Gain" Ctx="NAME_IP_VAL"/>
+            <I ItemIndex="Mode" Attr="SUBITEM"> <O ModeIndex="A"> <I ItemIndex="Gain"/> </O> </I>
+            <I ItemIndex="Wait" Attr="KEY_WITH_MSG"/> <I ItemIndex="Pop" Attr="CONFIRM_POP" ConfirmPage="c"/>
+            <I ItemIndex="Push" Attr="CONFIRM" Ctx="NAME_VAL"/> <I ItemIndex="More" Attr="SUBPAGE" SubPage="sub"/>
+            <I ItemIndex="SN" Attr="STATUS"/> <I ItemIndex="Zoom" ValType="NUMERICAL"/>
+        sub: <I ItemIndex="Language"/>
     )");
-    const auto texts = [] { // title, labels, option labels, messages
-        std::string text = gstPageMgr.astPage[0].acTitle;
-        for (const tagITEM_NODE_S* item : visibleItems(gstPageMgr.astPage[0])) {
-            text += std::string(" ") + item->acItemName + "=" + (item->enValType == OPTTXT ? item->acValue[0] : "") +
-                    item->acMsg;
-        }
-        return text + " / " + itemAt(gstPageMgr.astPage[1].stItemList, 0)->acValue[0];
+    const auto texts = [] { // the page below, and the message of one that waits
+        const std::string message = itemOf("Wait").acMsg;
+        const std::string on = valueOf(itemOf("Language", 1));
+        const int count = gstPageMgr.s32PageCnt;
+        gstPageMgr.s32PageCnt = 1;
+        std::vector<std::string> rows = screen();
+        gstPageMgr.s32PageCnt = count;
+        rows.insert(rows.end(), {gstPageMgr.astPage[0].acTitle, message, on});
+        std::transform(rows.begin(), rows.end(), rows.begin(), squeezed);
+        return rows;
     };
-    const std::string german =
-        "d.Top d.G=t.Auto d.Mode=t.A t.G=t.Auto d.W=t.Ad.Press d.Go=d.Go d.Push=t.Go d.More= d.S= d.Z= / d.English";
-    openAll("main sub");
-    const std::string english = texts();
+    const std::vector<std::string> german = {
+        "main",   "> d.Gain Auto", "d.Mode A",          "Gain Auto", "d.Wait B", "d.Pop d.Go", "d.Push Go",
+        "d.More", "d.SN",          "d.Zoom 9 of 0..10", "d.Top",     "d.Press",  "d.German"};
+    openAll("main / sub");
+    std::vector<std::string> english = texts();
+    english.back() = "German";
     failCall("language");
-    EXPECT_EQ(pressed("right"), "show sub.Language=1");
+    EXPECT_EQ(pressed("right"), "shows the menu");
     EXPECT_EQ(texts(), english);
-    EXPECT_EQ(pressed("left_update"), "show sub.Language");
-    EXPECT_EQ(texts(), german) << "also without the host";
+    EXPECT_EQ(pressed("left_update"), "shows the menu");
+    EXPECT_EQ(texts().back(), "d.English") << "also without the host";
     platform().language = "English";
-    openAll("main sub");
-    EXPECT_EQ(pressed("right"), "show sub.Language=1");
+    openAll("main / sub");
+    EXPECT_EQ(pressed("right"), "shows the menu");
     EXPECT_EQ(texts(), german) << "behind the host's function";
 }

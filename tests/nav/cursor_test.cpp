@@ -6,116 +6,192 @@ using CursorTest = NavTest;
 
 TEST_F(CursorTest, VerticalList)
 {
-    check(R"(
-        v = Z# G W! F- S?
-        t Layout='vertical_tolvane_align' = Z# G
-        one = W!
-        more = More>sub
-        s = Mode[ (A G ) (B Z# W! ) ]
-        m = Mode{ (A G ) (B Z# W! ) ]
-        v; right right right left left; do Z=0, show v.Z=0, do Z=3, show v.Z=3, do Z=6, show v.Z=6, do Z=3, show v.Z=3, do Z=0, show v.Z=0; v(Z*=0 G W=1 F S)
-        v; Z=1 refresh | left; do Z=10, show v.Z=10; v(Z*=10 G W=1 F S)
-        v; down | left right right_update set down up; do G=2, show v.G=2, do G, show v.G, show v.G=1, do G=1, show v.G=1, show v.W=1, show v.G=1; v(Z=9 G*=1 W=1 F S)
-        v; down_right up_right; do G=1, show v.G=1, do Z=0, show v.Z=0; v(Z*=0 G=1 W=1 F S)
-        v; down_left up_left; do G=2, show v.G=2, do Z=6, show v.Z=6; v(Z*=6 G=2 W=1 F S)
-        v; down down right; show v.G, show v.W=1, show v.W=2/1; v(Z=9 G W*=2/1 F S) 't.Press'
-        v; down down right | left; show v.W=1; v(Z=9 G W*=1 F S)
-        v; down down right | down; show v.F; v(Z=9 G W=1 F* S)
-        v; down down right | up; show v.G; v(Z=9 G* W=1 F S)
-        v; up right up left; show v.S, show v.S, show v.F, show v.F=-1/0; v(Z=9 G W=1 F*=-1/0 S)
-        v; up | down; show v.Z=9; v(Z*=9 G W=1 F S)
-        t; down right; do G=1; t(Z=9 G*=1)
-        one; right down right up; show one.W=2/1, show one.W=1, show one.W=2/1, show one.W=1; one(W*=1)
-        more; left right; do More=-1, show more.More=-1, do More, show more.More; more(More*)
-        s; up; show s.G; s(Mode G*)
-        s; Z=4 | right_update up; show s.Mode=1, show s.W=1; s(Mode=1 Z=4 W*=1)
-        m; right; show m.Mode=1/0; m(Mode*=1/0 G) 't.Press'
-        m; right | down; show m.G; m(Mode G*)
-        m; right | home; do Mode=1, show m.Mode=1; m(Mode*=1 Z=9 W=1)
+    setPages(R"(
+        tolvane Layout="vertical_tolvane_align": <I ItemIndex="Zoom" ValType="NUMERICAL"/> <I ItemIndex="Gain"/>
+        one: <I ItemIndex="Wait" Attr="KEY_WITH_MSG"/>
+        waits: <I ItemIndex="Mode" Attr="MSG_WITH_SUBITEM"> <O ModeIndex="A"> <I ItemIndex="Gain"/> </O>
+            <O ModeIndex="B"> <I ItemIndex="Zoom" ValType="NUMERICAL"/> </O> </I>
     )");
-    platform().pages["empty"] = "<P Layout='vertical_align'/>";
-    check("empty; up right set; show empty., show empty.; empty()\n empty; home; -1; empty()");
+    check(R"(
+        list
+        > Zoom   9 of 0..10
+          Gain   Auto
+          Wait   B
+          Note
+          SN
+          Ip     192.168.1.5
+          Mode   A
+          More
+        right                | sets Zoom to 0, shows the menu        | > Zoom 0 of 0..10
+        then right           | sets Zoom to 3, shows the menu        | > Zoom 3 of 0..10
+        Zoom=1 refresh left  | sets Zoom to 10, shows the menu       | > Zoom 10 of 0..10
+        down right_update    | shows the menu                        | > Gain Low
+        then set             | sets Gain to Low, shows the menu      | > Gain Low
+        then down up         | shows the menu                        | > Gain Low
+        down_left            | sets Gain to High, shows the menu     | > Gain High
+        then up_left         | sets Zoom to 6, shows the menu        | > Zoom 6 of 0..10; Gain High
+        then down_right      | sets Gain to Auto, shows the menu     | Zoom 6 of 0..10; > Gain Auto
+        then up_right        | sets Zoom to 9, shows the menu        | > Zoom 9 of 0..10
+        down down right      | shows the menu                        | > Wait C, was B --- Press
+        then left            | shows the menu                        | > Wait B
+        then right down      | shows the menu                        | > Note
+        then up right up     | shows the menu                        | > Gain Auto
+        down down down left  | shows the menu                        | > Note option -1, was none
+        up                   | shows the menu                        | > More
+        then left            | sets More to option -1, shows the menu | > More option -1
+        then right           | passes More, shows the menu           | > More
+        then down            | shows the menu                        | > Zoom 9 of 0..10
+        tolvane
+        down right           | sets Gain to Low, shows the menu      | > Gain Low
+        one
+        right down           | shows the menu                        | > Wait B
+        right up             | shows the menu                        | > Wait B
+        modes
+        > Mode   A
+            Gain Auto
+        up                   | shows the menu                        | > Gain Auto
+        Zoom=4 right_update  | shows the menu                        | > Mode B; Zoom 4 of 0..10; Wait B
+        then up              | shows the menu                        | Mode B; Zoom 4 of 0..10; > Wait B
+        waits
+        right                | shows the menu                        | > Mode B, was A --- Press
+        then down            | shows the menu                        | > Gain Auto
+        right home           | sets Mode to B, shows the menu        | > Mode B; Zoom 9 of 0..10
+    )");
+    setPage("empty", "");
+    check(R"(
+        empty
+        up                   | shows the menu                        |
+        right set            |                                       |
+        home                 | fails                                 |
+    )");
     EXPECT_EQ(printed([] { press("up"); }), "F don't find selected item\nNo active item found, weird\n"
                                             "No active item found, weird\n");
+    list_head none = {&none, &none};
+    for (const auto move : {osdMenuUpdateVerticalItemCursor, osdMenuUpdateHorizontalItemCursor,
+                            osdMenuUpdateVerticalItemCursorWithKETH}) {
+        (void)printed([&] { EXPECT_EQ(move(&none, OSD_MENU_KEY_LEFT), -1); });
+    }
 }
 
-TEST_F(CursorTest, PopupAndIconGrid)
+TEST_F(CursorTest, Popups)
 {
     for (const std::string layout : {"horizontal_align", "horizontal_align_keth"}) {
-        check("h Layout='" + layout + R"(' = G W! Ip@
-            h; right; ; h(G W*=1 Ip=192.168.1.5)
-            h; left; ; h(G W=1 Ip*=192.168.1.5)
-            h; right right right; ; h(G* W=1 Ip=192.168.1.5)
-            h; right up down set; ; h(G W*=1 Ip=192.168.1.5)
-            h; left home up right; ; h(G* W=1 Ip=192.168.1.5|192.168.001.005@0)
+        setPage("popup",
+                "<I ItemIndex='Gain'/> <I ItemIndex='Wait' Attr='KEY_WITH_MSG'/> "
+                "<I ItemIndex='Ip' Attr='EDITABLE'/>",
+                "Layout='" + layout + "'");
+        check(R"(
+            popup
+            > Gain Auto
+              Wait B
+              Ip   192.168.1.5
+            right                | shows the menu | > Wait B
+            then up              | shows the menu | > Wait B
+            then down            | shows the menu | > Wait B
+            then set             |                | > Wait B
+            then right right     | shows the menu | > Gain Auto
+            left                 | shows the menu | > Ip 192.168.1.5
+            then home up right   | shows the menu | > Gain Auto; Ip [1]92.168.001.005, was 192.168.1.5
         )");
     }
+}
+
+TEST_F(CursorTest, IconGrid)
+{
+    setPage("grid", "<I ItemIndex='A'/><I ItemIndex='B'/><I ItemIndex='C'/>", "Layout='icon' CountPerLine='2'");
     check(R"(
-        i Layout='icon' CountPerLine='4' = A B C D E F G H I J
-        row Layout='icon' CountPerLine='4' = A B C D
-        few Layout='icon' CountPerLine='4' = A B C
-        one Layout='icon' CountPerLine='1' = A
-        loose Layout='icon' CountPerLine='0' = A B C
-        i; left set; ; i#9
-        i; left right; ; i#0
-        i; left down; ; i#1
-        i; left down up; ; i#9
-        i; down_right; ; i#5
-        i; down_right down; ; i#9
-        i; down right right down; ; i#2
-        i; right right up; ; i#6
-        i; right right right up left; ; i#6
-        i; down up_left; ; i#9
-        i; down left; ; i#3
-        i; up up; ; i#4
-        row; right down up up; ; row#1
-        few; right right up down; ; few#2
-        few; down left; ; few#2
-        one; down up left right; ; one#0
-        loose; right up down; ; loose#1
-        loose; left right right; ; loose#1
+        grid
+        down_right    | shows the menu | > A
+        right         | shows the menu | > B
+        then set      |                | > B
     )");
+    // cells in all and in a row, the position before, and behind up, down, left and right; also outside the page
+    const int cases[][7] = {
+        {10, 4, 0, 8, 4, 9, 1}, {10, 4, 1, 9, 5, 0, 2},    {10, 4, 3, 7, 7, 2, 4},  {10, 4, 4, 0, 8, 3, 5},
+        {10, 4, 5, 1, 9, 4, 6}, {10, 4, 6, 2, 2, 5, 7},    {10, 4, 9, 5, 1, 8, 0},  {4, 4, 1, 1, 1, 0, 2},
+        {3, 4, 2, 2, 2, 1, 0},  {1, 1, 0, 0, 0, 0, 0},     {3, 0, 1, 1, 1, 0, 2},   {0, 4, 0, -4, 0, -1, 1},
+        {0, 0, 0, 0, 0, -1, 1}, {10, 4, 12, 8, 0, 11, 13}, {10, 4, -1, 7, 3, 9, 0}, {10, 4, -6, 2, -2, 9, -5}};
+    const tagOSD_MENU_KEY_E directions[] = {OSD_MENU_KEY_UP, OSD_MENU_KEY_DOWN, OSD_MENU_KEY_LEFT, OSD_MENU_KEY_RIGHT};
+    for (const auto& c : cases) {
+        for (int at = 0; at < 4; at++) {
+            tagPAGE_NODE_S page = {};
+            page.s32ItemCnt = c[0];
+            page.s32CountPerLine = c[1];
+            page.s32SelIdx = c[2];
+            EXPECT_EQ(osdMenuUpdateItemCursor(&page, directions[at], 1), 0);
+            EXPECT_EQ(page.s32SelIdx, c[3 + at]) << c[0] << " cells, from " << c[2] << ", key " << at;
+        }
+    }
 }
 
 TEST_F(CursorTest, PagedList)
 {
-    check(R"(
-        list Layout='vertical_align_keth' = G S? Z#
-        led Layout='vertical_align_keth' = S? G Z#
-        one Layout='vertical_align_keth' = S? W! S?
-        lines Layout='vertical_align_keth' = S? S?
-        plain Layout='vertical_align_keth' NextPage='two' PrevPage='one' = G
-        first Layout='vertical_align_keth' CurPagesNum='1' NextPage='two' = G S? W! S?
-        short Layout='vertical_align_keth' CurPagesNum='1' NextPage='two' = G
-        lost Layout='vertical_align_keth' CurPagesNum='1' NextPage='none' = G
-        two Layout='vertical_align_keth' CurPagesNum='2' PrevPage='first' = S? Z# G
-        deep Layout='vertical_align_keth' = More>two
-        list; down; ; list(G S Z*=9)
-        list; down up; ; list(G* S Z=9)
-        list; down down right; do G=1; list(G*=1 S Z=9)
-        list; up; ; list(G S Z*=9)
-        led; up; ; led(S G Z*=9)
-        led; down up; ; led(S G Z*=9)
-        led; down down down; ; led(S G* Z=9)
-        one; down right down; ; one(S W*=1 S)
-        one; down right up; ; one(S W*=1 S)
-        lines; down up up; ; lines(S* S)
-        plain; down up; ; plain(G*)
-        first; up; ; first(G S W*=1 S)
-        first; down right down; read two; first.W=2/1 / two(S* Z=9 G)
-        first; down right down | up; ; first(G S W*=2/1 S) 't.Press'
-        first; down right | up; ; first(G* S W=1 S)
-        first two; down down down; ; first.G / two(S Z*=9 G)
-        first two; down down up up; ; first(G* S W=1 S)
-        first; down | down_right; read two; first.W=2/1 / two(S* Z=9 G) 't.Press'
-        lost; down; read none; lost.G / #0
-        short; down_right; read two, do G=1; short.G=1 / two(S* Z=9 G)
-        short two; down up_left; ; short(G*)
-        short two; up_right; ; short(G*)
-        deep; right; read two; deep.More / two(S* Z=9 G)
-        deep; home; read two; deep.More / two(S* Z=9 G)
-        deep; left; do More=-1; deep(More*=-1)
-        deep; left | right; read two; deep.More=0/-1 / two(S* Z=9 G)
-        deep; left right up | down; do More; deep(More*)
+    setPages(R"(
+        list Layout="vertical_align_keth":
+            <I ItemIndex="Gain"/> <I ItemIndex="SN" Attr="STATUS"/> <I ItemIndex="Zoom" ValType="NUMERICAL"/>
+        told Layout="vertical_align_keth":
+            <I ItemIndex="SN" Attr="STATUS"/> <I ItemIndex="Gain"/> <I ItemIndex="Zoom" ValType="NUMERICAL"/>
+        one Layout="vertical_align_keth":
+            <I ItemIndex="SN" Attr="STATUS"/> <I ItemIndex="Wait" Attr="KEY_WITH_MSG"/> <I ItemIndex="Mac" Attr="STATUS"/>
+        facts Layout="vertical_align_keth": <I ItemIndex="SN" Attr="STATUS"/> <I ItemIndex="Mac" Attr="STATUS"/>
+        plain Layout="vertical_align_keth" NextPage="two" PrevPage="one": <I ItemIndex="Gain"/>
+        first Layout="vertical_align_keth" CurPagesNum="1" NextPage="two":
+            <I ItemIndex="Gain"/> <I ItemIndex="Mac" Attr="STATUS"/> <I ItemIndex="Wait" Attr="KEY_WITH_MSG"/>
+            <I ItemIndex="SN" Attr="STATUS"/>
+        short Layout="vertical_align_keth" CurPagesNum="1" NextPage="two": <I ItemIndex="Gain"/>
+        lost Layout="vertical_align_keth" CurPagesNum="1" NextPage="none": <I ItemIndex="Gain"/>
+        two Layout="vertical_align_keth" CurPagesNum="2" PrevPage="first": <I ItemIndex="SN" Attr="STATUS"/>
+            <I ItemIndex="Zoom" ValType="NUMERICAL"/>
+        deep Layout="vertical_align_keth": <I ItemIndex="More" Attr="SUBPAGE" SubPage="two"/>
     )");
+    check(R"(
+        list
+        down                  | shows the menu                    | > Zoom 9 of 0..10
+        then up               | shows the menu                    | > Gain Auto
+        then up               | shows the menu                    | > Zoom 9 of 0..10
+        then down right       | sets Gain to Low, shows the menu  | > Gain Low
+        told
+        up                    | shows the menu                    | > Zoom 9 of 0..10
+        down up               | shows the menu                    | > Zoom 9 of 0..10
+        then down             | shows the menu                    | > Gain Auto
+        one
+        down right            | shows the menu                    | > Wait C, was B --- Press
+        then down             | shows the menu                    | > Wait B
+        then right up         | shows the menu                    | > Wait B
+        facts
+        down up up            | shows the menu                    | > SN
+        plain
+        down up               | shows the menu                    | > Gain Auto
+        first
+        up                    | shows the menu                    | > Wait B
+        then right down       | reads two, shows the menu         | first at Wait C, was B / two: > SN; Zoom 9 of 0..10
+        then down down        | shows the menu                    | first at Wait C, was B / two: SN; > Zoom 9 of 0..10
+        then up               | shows the menu                    | > Wait C, was B --- Press
+        then up               | shows the menu                    | > Gain Auto
+        down down_right       | reads two, shows the menu | first at Wait C, was B / two: > SN; Zoom 9 of 0..10 --- Press
+        short
+        down_right            | reads two, sets Gain to Low, shows the menu | short at Gain Low / two: > SN; Zoom 9 of 0..10
+        short / two
+        up_right              | shows the menu                    | short: > Gain Auto
+        lost
+        down                  | reads none, shows the menu        | lost at Gain Auto / unread
+        deep
+        right                 | reads two, shows the menu         | deep at More / two: > SN; Zoom 9 of 0..10
+        home                  | reads two, shows the menu         | deep at More / two: > SN; Zoom 9 of 0..10
+        left                  | sets More to option -1, shows the menu | > More option -1
+        then right            | reads two, shows the menu         | deep at More none, was option -1 / two: > SN; Zoom 9 of 0..10
+        then up down          | passes More, shows the menu       | > More
+    )");
+    openAll("one"); // no direction
+    tagPAGE_NODE_S& page = gstPageMgr.astPage[0];
+    (void)press("down right");
+    const std::vector<std::string> before = screen();
+    for (const int key : {0, 5}) {
+        EXPECT_EQ(osdMenuUpdateItemCursor(&page, static_cast<tagOSD_MENU_KEY_E>(key), 0), 0);
+        EXPECT_EQ(screen(), before);
+        itemOf("Wait").s32CurIdx = itemOf("Wait").s32SavedIdx;
+        EXPECT_EQ(osdMenuUpdateItemCursor(&page, static_cast<tagOSD_MENU_KEY_E>(key), 0), 0);
+        EXPECT_EQ(page.bKeyMsg, 1) << "the message neither";
+        (void)press("right");
+    }
 }

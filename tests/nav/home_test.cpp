@@ -2,117 +2,217 @@
 #include "tests/nav/nav_test.h"
 
 using namespace fake;
-using HomeTest = NavTest;
 
-static const char ANSWERS[] = "confirm = Yes. No. Other.\n restart = Yes. No. Other.\n";
+class HomeTest : public NavTest {
+protected:
+    void SetUp() override
+    {
+        NavTest::SetUp();
+        for (const char* word : {"Loading", "Finish", "Confirm", "Go", "Press"}) {
+            platform().words[word] = std::string(1, static_cast<char>(tolower(*word))) + (word + 1); // as people see it
+        }
+    }
+};
 
 TEST_F(HomeTest, RulesInTheirOrder)
 {
-    check(ANSWERS + std::string(R"(
-        sub = G
-        open = More>sub Go:confirm Btn+confirm
-        this_confirms_restart = More>sub Go:confirm No.
-        restart = More>sub Other.
-        push = Push,CONFIRMTYPE Back,SUBTYPE Any,MAINTYPE
-        wait = W! Mode{ (A ) (B ) ]
-        plain = G F- S? Mode[ (A ) ]
-        ; home; ;
-        open; home; read sub, show sub.G; open.More / sub(G*)
-        open; down | home; show open.Go='t.Loading', read confirm, show confirm.Yes; open.Go='t.Loading' / confirm(Yes* No Other)
-        open; up | home; show open.Btn, read confirm, show confirm.Yes; open.Btn / confirm(Yes* No Other)
-        open this_confirms_restart; home; read sub, show sub.G; open.More / this_confirms_restart.More / sub(G*)
-        open this_confirms_restart; down | home return; show this_confirms_restart.Go='t.Loading', read confirm, show confirm.Yes, show this_confirms_restart.Go='t.Loading'; open.More / this_confirms_restart(More Go*='t.Loading' No)
-        open this_confirms_restart; up | home; show open.More; open(More* Go='t.Go' Btn)
-        open restart; home; read sub, show sub.G; open.More / restart.More / sub(G*)
-        open restart; up | home; ; open.More / restart(More Other*)
-        push; home; show push.Push='t.Loading', do Push='t.Loading', show push.Push='t.Go'; push(Push*='t.Go' Back='t.Go' Any='t.Go')
-        push; down | home; do Back='t.Go'; push(Push='t.Go' Back*='t.Go' Any='t.Go')
-        push; up | home; do Any='t.Go'; push(Push='t.Go' Back='t.Go' Any*='t.Go')
-        wait; home right home home; show wait.W=2/1, do W=2, show wait.W=2; wait(W*=2 Mode)
-        wait; down right | home; do Mode=1, show wait.Mode=1; wait(W=1 Mode*=1)
-        plain; home down home down home down home; show plain.G, show plain.F, show plain.F, show plain.S, show plain.S, show plain.Mode, show plain.Mode; plain(G F S Mode*)
-    )"));
+    setPages(R"(
+        opens: <I ItemIndex="More" Attr="SUBPAGE" SubPage="advanced"/>
+            <I ItemIndex="Pop" Attr="CONFIRM_POP" ConfirmPage="confirm"/>
+            <I ItemIndex="Confirm" Attr="CONFIRM_POP_BTN" ConfirmPage="confirm"/>
+        this_confirms_restart: <I ItemIndex="More" Attr="SUBPAGE" SubPage="advanced"/>
+            <I ItemIndex="Pop" Attr="CONFIRM_POP" ConfirmPage="confirm"/> <I ItemIndex="No" Attr="CONFIRM"/>
+        restart: <I ItemIndex="More" Attr="SUBPAGE" SubPage="advanced"/> <I ItemIndex="Other" Attr="CONFIRM"/>
+        push: <I ItemIndex="Push" Attr="CONFIRM" Ctx="NAME_VAL"/>
+            <I ItemIndex="Back" Attr="CONFIRM" Ctx="NAME_VAL" PicType="SUBTYPE"/>
+            <I ItemIndex="Any" Attr="CONFIRM" Ctx="NAME_VAL" PicType="MAINTYPE"/>
+    )");
+    check(R"(
+        opens
+        > More
+          Pop         go
+          confirm
+        home            | reads advanced, shows the menu | opens at More / advanced: > Gain Auto
+        down home       | shows Pop loading, reads confirm, shows the menu
+                        | opens at Pop loading / confirm: > Yes; No; Other
+        up home         | shows confirm, reads confirm, shows the menu
+                        | opens at confirm / confirm: > Yes; No; Other
+        opens / this_confirms_restart
+        home            | reads advanced, shows the menu
+                        | opens at More / this_confirms_restart at More / advanced: > Gain Auto
+        down home       | shows Pop loading, reads confirm, shows the menu
+                        | opens at More / this_confirms_restart at Pop loading / confirm: > Yes; No; Other
+        then return     | shows the menu                               | > Pop loading
+        up home         | shows the menu                               | opens: > More confirm; Pop go; confirm
+        opens / restart
+        home            | reads advanced, shows the menu
+                        | opens at More / restart at More / advanced: > Gain Auto
+        up home         |                                              | > Other
+        push
+        home            | shows Push loading, presses Push loading, shows the menu | > Push go
+        down home       | presses Back go                            | > Back go
+        up home         | presses Any go                             | > Any go
+        list
+        down down home       |                                         | > Wait B
+        down down right home | sets Wait to C, shows the menu          | > Wait C
+        then home            |                                         | > Wait C
+        up up right home     | sets Mode to B, shows the menu          | > Mode B
+        down home            | shows the menu                          | > Gain Auto
+        down down down home  | shows the menu                          | > Note
+        up up up up home     | shows the menu                          | > SN
+        modes
+        home                 | shows the menu                          | > Mode A
+    )");
     platform().untranslated = {"Loading"};
-    platform().host = [](tagITEM_NODE_S* item) { item->s32CurIdx = 2; };
     openAll("push");
-    EXPECT_EQ(pressed("home").substr(0, 20), "show push.Push='...'");
-    EXPECT_STREQ(itemAt(gstPageMgr.astPage[0].stItemList, 0)->acValue[2], "t.Go") << "where the option is by then";
+    EXPECT_EQ(pressed("home"), "shows Push ..., presses Push ..., shows the menu");
+    platform().host = [](tagITEM_NODE_S* item) { item->s32CurIdx = 2; };
+    (void)pressed("home");
+    EXPECT_STREQ(itemOf("Push").acValue[2], "go") << "where the option is by then";
     failCall("language");
-    EXPECT_EQ(pressed("home"), "-1");
+    EXPECT_EQ(pressed("home"), "fails");
 }
 
 TEST_F(HomeTest, AnswersForOneItem)
 {
-    for (const std::string key : {"FactoryRestore", "Restart", "LensCorrection", "RestoreImg"}) {
+    for (const std::string key : {"FactoryRestore", "Restart", "LensCorrection"}) {
         for (const std::string page : {"p", "network"}) {
-            const bool item = key == "RestoreImg";
-            const std::string button = " " + page + "." + key + "=";
-            const std::string yes =
-                item ? "do " + key + "='t.Loading'" : "show" + button + "'t.Finish', do " + key + "='t.Finish'";
-            const std::string after = ", show" + button + "'t.Confirm'; " + page + "(" + key + "*='t.Confirm' G";
-            if (item && page == "network") {
-                continue; // the page's own answer
-            }
-            check(ANSWERS + page + " = " + key + ":confirm G\n" + page + "; home G=High | home; " + yes + ", sleep 1" +
-                  after + (item ? "=2)\n" : ")\n") + page + "; home G=High down | home; " + after.substr(2) + ")\n" +
-                  page + "; home up | home; ;" + button + "'t.Loading' / confirm(Yes No Other*)");
-            openAll(page);
-            (void)pressed("home");
-            failCall("language", 2); // the first is the key's own
-            EXPECT_EQ(pressed("home"), "");
-            EXPECT_EQ(gstPageMgr.s32PageCnt, 2);
+            setPage(page,
+                    "<I ItemIndex='" + key + "' Attr='CONFIRM_POP' ConfirmPage='confirm'/> <I ItemIndex='Gain'/>");
+            const std::string text = page + R"(
+                home                     | shows KEY loading, reads confirm, shows the menu
+                                         | PAGE at KEY loading / confirm: > Yes; No; Other
+                then home                | shows KEY finish, presses KEY finish, waits 1 s, shows the menu
+                                         | > KEY confirm
+                home down home           | shows the menu | > KEY confirm
+                Gain=High home home      | shows KEY finish, presses KEY finish, waits 1 s, shows the menu
+                                         | > KEY confirm
+                home up home             |                | PAGE at KEY loading / confirm: Yes; No; > Other
+            )";
+            check(replaced(replaced(text, "KEY", key), "PAGE", page));
         }
+    }
+    setPage("p", R"(<I ItemIndex="RestoreImg" Attr="CONFIRM_POP" ConfirmPage="confirm"/> <I ItemIndex="Gain"/>)");
+    check(R"(
+        p
+        Gain=High home home          | presses RestoreImg loading, waits 1 s, shows the menu
+                                     | > RestoreImg confirm; Gain High
+        Gain=High home down home     | shows the menu | > RestoreImg confirm
+        home up home                 |                | p at RestoreImg loading / confirm: Yes; No; > Other
+    )");
+    for (const std::string key : {"FactoryRestore", "RestoreImg"}) { // no language: nothing is done
+        setPage("p", "<I ItemIndex='" + key + "' Attr='CONFIRM_POP' ConfirmPage='confirm'/>");
+        openAll("p");
+        (void)pressed("home");
+        tagPAGE_NODE_S* top = osdXmlGetCurPage();
+        const bool factory = key[0] == 'F';
+        const auto answer = factory ? OSD_MENU_FactoryRestoreHandleHomeKey : OSD_MENU_IspHandleHomeKey;
+        failCall("language");
+        EXPECT_EQ(printed([&] { EXPECT_EQ(answer(&itemOf("Yes", 1), top), -1); }), "F L failed\n");
+        failCall("language", 2); // the first is the key's own
+        EXPECT_EQ(pressed("home"), "");
+        EXPECT_EQ(screen()[0], "p at " + key + " loading / confirm");
     }
 }
 
 TEST_F(HomeTest, AnswersForAPage)
 {
     (void)press("IpMode=StaticIp Dns=8.8.8.8");
-    platform().texts["Dns"].acList[0] = '\0';
+    setText("Dns", "", "8.8.8.8");
     platform().host = [](tagITEM_NODE_S* item) {
-        record("do " + shown(*item));
+        record("host " + handed(*item));
         EXPECT_EQ(gstPageMgr.s32PageCnt, 1) << "the confirm page has gone before";
     };
-    const std::string edit =
-        "; right down down home up home down down home right up home up up up up up right up home ";
-    const std::string yes = "do Z=0/9, do IpMode=1, do Ip=292.168.1.5, do DnsMode, do Dns=18.8.8.8, do G, do Confirm, "
-                            "show network.IpMode=1";
-    check(ANSWERS +
-          std::string("network ConfirmBtn='Yes' = Z# IpMode[ (DhcpIp ) (StaticIp Ip@ DnsMode[ (AutoMode Dns@ ) (Manual "
-                      ") ] G ) ] Confirm+confirm X\n"
-                      "network") +
-          edit + "| home; " + yes +
-          "; network(Z=0/9 IpMode*=1 Ip=292.168.1.5 DnsMode Dns=18.8.8.8 G Confirm* X=1/0)\n"
-          "network" +
-          edit +
-          "down | home; show network.Confirm; network(Z=0/9 IpMode=1 Ip=192.168.1.5|292.168.1.5 DnsMode "
-          "Dns=8.8.8.8|18.8.8.8 G Confirm* X=1/0)\n");
-    // the item behind an automatic mode loses the cursor, when there is one
-    check(R"(
-        network = IpMode[ (DhcpIp ) (StaticIp DnsMode Go+confirm ) ]
-        network; up home | home; do IpMode=1, do DnsMode, do Go, show network.IpMode=1; network(IpMode*=1 DnsMode Go)
-        network = Go+confirm IpMode[ (DhcpIp ) (StaticIp DnsMode ) ]
-        network; home | home; do Go, do IpMode=1, do DnsMode, show network.Go; network(Go* IpMode*=1 DnsMode)
-        network; home up | home; ; network.Go / confirm(Yes No Other*)
+    setPages(R"(
+        network ConfirmBtn="Yes": <I ItemIndex="Zoom" ValType="NUMERICAL"/>
+            <I ItemIndex="IpMode" Attr="SUBITEM"> <O ModeIndex="DhcpIp"/> <O ModeIndex="StaticIp">
+                <I ItemIndex="Ip" Attr="EDITABLE"/>
+                <I ItemIndex="DnsMode" Attr="SUBITEM">
+                    <O ModeIndex="AutoMode"> <I ItemIndex="Dns" Attr="EDITABLE"/> </O> <O ModeIndex="Manual"/> </I>
+                <I ItemIndex="Gain"/> </O> </I>
+            <I ItemIndex="Confirm" Attr="CONFIRM_POP_BTN" ConfirmPage="confirm"/> <I ItemIndex="Last"/>
     )");
-    const std::vector<std::string> cases[] = {
-        // page, "Yes", the key then, bytes behind it, a second "Yes"
-        {"format", "do G=1, do Mode, do Deep, do Confirm", "Confirm", "", "do G=1, do Mode, do Deep, do Confirm"},
-        {"rotate", "do G=1, do Mode, do Restart", "Restart", "", "do G=1, do Mode, do Restart, do X=1"},
-        {"pip", "set G=Low 1, set Mode=A 1, set Confirm= 1, do Pip", "Pip", "irm",
-         "set G=Low 1, set Mode=A 1, set Pip= 1, set X=Y 1"},
-        {"video", "set G=Low 1, set Mode=A 1, set Deep=A 1, set Confirm= 1, do HdmiCfg", "HdmiCfg", "",
-         "set G=Low 1, set Mode=A 1, set Deep=A 1, set HdmiCfg= 1, set X=Y 1"}};
-    for (const std::vector<std::string>& c : cases) {
+    const std::string edit = "right down down home up home down down home right up home up up up up up right up home ";
+    check(replaced(R"(
+        network
+        > Zoom     9 of 0..10
+          IpMode     StaticIp
+            Ip       192.168.1.5
+            DnsMode  AutoMode
+              Dns    8.8.8.8
+            Gain     Auto
+          confirm
+          Last       X
+        EDIT down home | shows the menu | Zoom 0 of 0..10, was 9; Ip 292.168.1.5, was 192.168.1.5;
+            | Dns 18.8.8.8, was 8.8.8.8; > confirm; Last Y, was X
+        EDIT home | sets Zoom to 0, was 9, sets IpMode to StaticIp, sets Ip to 292.168.1.5, sets DnsMode to AutoMode,
+            | sets Dns to 18.8.8.8, sets Gain to Auto, presses Confirm, shows the menu
+            | Zoom 0 of 0..10, was 9; > IpMode StaticIp; Ip 292.168.1.5; Dns 18.8.8.8; > confirm; Last Y, was X
+    )",
+                   "EDIT", edit));
+}
+
+TEST_F(HomeTest, CursorBehindAnAutomaticMode)
+{
+    (void)press("IpMode=StaticIp");
+    setPages(R"(
+        network: <I ItemIndex="IpMode" Attr="SUBITEM"> <O ModeIndex="DhcpIp"/> <O ModeIndex="StaticIp">
+            <I ItemIndex="DnsMode"/> <I ItemIndex="Sure" Attr="CONFIRM_POP_BTN" ConfirmPage="confirm"/> </O> </I>
+    )");
+    check(R"(
+        network
+        up home home   | sets IpMode to StaticIp, sets DnsMode to AutoMode, presses Sure, shows the menu
+                       | > IpMode StaticIp
+    )");
+    setPages(R"(
+        network: <I ItemIndex="Sure" Attr="CONFIRM_POP_BTN" ConfirmPage="confirm"/>
+            <I ItemIndex="IpMode" Attr="SUBITEM"> <O ModeIndex="DhcpIp"/>
+                <O ModeIndex="StaticIp"> <I ItemIndex="DnsMode"/> </O> </I>
+    )");
+    check(R"(
+        network
+        home home      | presses Sure, sets IpMode to StaticIp, sets DnsMode to AutoMode, shows the menu
+                       | > Sure; > IpMode StaticIp
+        home up home   |                | network at Sure / confirm: Yes; No; > Other
+    )");
+}
+
+TEST_F(HomeTest, AnswersForPagesWithAConfirmItem)
+{
+    const std::string edit = "right up right up up left down home ";
+    // page, key of "Confirm" afterwards, bytes behind it, calls of "Yes", of another "Yes"
+    const std::string cases = R"(
+        format | Confirm |     | sets Gain to Low, sets Mode to A, sets Deep to A, NOTE, presses Confirm
+                               | sets Gain to Low, sets Mode to A, sets Deep to A, NOTE, presses Confirm
+        rotate | Restart |     | sets Gain to Low, sets Mode to A, NOTE, presses Restart
+                               | sets Gain to Low, sets Mode to A, NOTE, presses Restart, sets Last to Y
+        pip    | Pip     | irm | STORED, stores '' as Note, stores '' as Confirm, presses Pip
+                               | STORED, stores '' as Note, stores '' as Pip, stores 'Y' as Last
+        video  | HdmiCfg |     | STORED, stores 'A' as Deep, stores '' as Note, stores '' as Confirm, presses HdmiCfg
+                               | STORED, stores 'A' as Deep, stores '' as Note, stores '' as HdmiCfg, stores 'Y' as Last
+    )";
+    for (std::string line : linesIn(replaced(cases, R"(\n *\|)", " |"))) {
+        line = replaced(replaced(line, "NOTE", "sets Note to option -1"), "STORED",
+                        "stores 'Low' as Gain, stores 'A' as Mode");
+        const std::vector<std::string> c = matched(line, R"((\w+) *\| (\w+) *\| (\w*) *\| (.*\w) *\| (.*))");
         const std::string answer = c[0] == "rotate" ? "restart" : "confirm";
-        const std::string rest = " ConfirmBtn='Yes' = G Mode[ (A Deep[ (A Z# ) ] ) ] Confirm+" + answer + " X\n";
-        check(c[0] + rest + c[0] + "; right up right up home down | home; show " + c[0] + ".Confirm; " + c[0] +
-              "(G=1/0 Mode Deep Z=9 Confirm* X=1/0)\n" + c[0] + "; right up right up home up | home; ; " + c[0] +
-              ".Confirm / " + answer + "(Yes No Other*)\n" + c[0] + "; right up right up home | home; " + c[1] +
-              ", show " + c[0] + "." + c[2] + "; " + c[0] + "(G=1 Mode Deep Z=9 " + c[2] + "* X=1/0)\n");
+        setPage(c[0],
+                replaced(R"(<I ItemIndex="Gain"/> <I ItemIndex="Mode" Attr="SUBITEM"> <O ModeIndex="A">
+            <I ItemIndex="Deep" Attr="SUBITEM"> <O ModeIndex="A"> <I ItemIndex="Zoom" ValType="NUMERICAL"/> </O> </I>
+            </O> </I> <I ItemIndex="Note" Attr="CONST_TXT"/>
+            <I ItemIndex="Confirm" Attr="CONFIRM_POP_BTN" ConfirmPage="ASK"/> <I ItemIndex="Last"/>)",
+                         "ASK", answer),
+                "ConfirmBtn='Yes'");
+        const std::string rows = R"(
+            EDIThome      | CALLS, shows the menu | Gain Low; Note option -1; > confirm; Last Y, was X
+            EDITdown home | shows the menu | Gain Low, was Auto; Note option -1, was none; > confirm; Last Y, was X
+            EDITup home   | | PAGE at confirm / ASK: Yes; No; > Other
+        )";
+        const std::string filled = replaced(replaced(rows, "EDIT", edit), "CALLS", c[3]);
+        check(c[0] + replaced(replaced(filled, "PAGE", c[0]), "ASK", answer));
         openAll(c[0]);
-        (void)pressed("right up right up home home");
-        EXPECT_STREQ(itemAt(gstPageMgr.astPage[0].stItemList, 2)->acItemIndex + c[2].size() + 1, c[3].c_str());
-        EXPECT_EQ(pressed("home | home"), c[4] + ", show " + c[0] + "." + c[2]);
+        (void)pressed(edit + "home");
+        EXPECT_EQ(itemOf(c[1]).acItemIndex + c[1].size() + 1, c[2]);
+        EXPECT_EQ(pressed("home home"), c[4] + ", shows the menu");
     }
 }

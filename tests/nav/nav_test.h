@@ -1,12 +1,16 @@
-// Keys on pages, as a table of text.
-//     page   "name attributes = items", a vertical list without attributes
-//     row    "pages opened; keys; calls that they make; state afterwards", with the calls behind the last "|" alone and a
-//            result that isn't 0 as the last of them
+// Keys on pages, as blocks of text.
+//     main / image                                          pages that are opened, as screen() has them
+//     > Gain  Low                                           what is seen then, may be left out
+//       Zoom  40 of 0..100
+//     right      | sets Gain to High, shows the menu | > Gain High
+//     then down  | shows the menu                    | > Zoom 40 of 0..100
+// A row tells keys, the calls that the last one makes, and the rows that differ from the first screen, with that of the
+// cursor; all rows where there are others. It begins with the pages just opened and the settings as they were, behind
+// "then" where the row above ended. A line with "|" in front continues the row above, with its next cell unless the cell
+// goes on behind a comma.
 #pragma once
 
-#include <sstream>
-
-#include "menu/core/page.h"
+#include "osd_page.h"
 #include "tests/fake/keys.h"
 #include "tests/fake/menu_test.h"
 
@@ -17,105 +21,179 @@ protected:
     void SetUp() override
     {
         MenuTest::SetUp();
-        setText("G", "Auto:Low:High", "Auto");
-        setText("W", "A:B:C", "B");
-        setText("X", "X:Y", "X");
+        setText("Gain", "Auto:Low:High", "Auto");
+        setText("Wait", "A:B:C", "B");
+        setText("Last", "X:Y", "X");
         setText("DnsMode", "AutoMode:Manual", "AutoMode");
         setText("Ip", "", "192.168.1.5");
-        setNumber("Z", 0, 10, 3, 9);
+        setNumber("Zoom", 0, 10, 3, 9);
         (void)press("Mode=A Deep=A IpMode=DhcpIp");
-        platform().host = [](tagITEM_NODE_S* item) { record("do " + shown(*item)); };
-        // redraws of lists stand for those of all layouts
-        platform().pushed = [](OSD_BOOL show) {
-            const tagPAGE_NODE_S* page = osdXmlGetCurPage();
-            if (show == 0 || page == nullptr || page->enLayout == PAGE_LAYOUT_VERTICAL) {
-                record(show == 0 ? "hide" : "show " + pageState(*page, false));
+        platform().translated = "";
+        setPages(R"(
+            main: <I ItemIndex="More" Attr="SUBPAGE" SubPage="sub"/> <I ItemIndex="Gain"/>
+            sub: <I ItemIndex="More" Attr="SUBPAGE" SubPage="third"/> <I ItemIndex="Ip" Attr="EDITABLE"/>
+            third: <I ItemIndex="Ip" Attr="EDITABLE"/> <I ItemIndex="Gain"/>
+            advanced: <I ItemIndex="Gain"/>
+            list: <I ItemIndex="Zoom" ValType="NUMERICAL"/> <I ItemIndex="Gain"/>
+                <I ItemIndex="Wait" Attr="KEY_WITH_MSG"/> <I ItemIndex="Note" Attr="CONST_TXT"/>
+                <I ItemIndex="SN" Attr="STATUS"/> <I ItemIndex="Ip" Attr="EDITABLE"/>
+                <I ItemIndex="Mode" Attr="MSG_WITH_SUBITEM"> <O ModeIndex="A"/> <O ModeIndex="B"/> </I>
+                <I ItemIndex="More" Attr="SUBPAGE" SubPage="list"/>
+            modes: <I ItemIndex="Mode" Attr="SUBITEM"> <O ModeIndex="A"> <I ItemIndex="Gain"/> </O> <O ModeIndex="B">
+                <I ItemIndex="Zoom" ValType="NUMERICAL"/> <I ItemIndex="Wait" Attr="KEY_WITH_MSG"/> </O> </I>
+            confirm: <I ItemIndex="Yes" Attr="CONFIRM"/> <I ItemIndex="No" Attr="CONFIRM"/>
+                <I ItemIndex="Other" Attr="CONFIRM"/>
+            restart: <I ItemIndex="Yes" Attr="CONFIRM"/> <I ItemIndex="No" Attr="CONFIRM"/>
+                <I ItemIndex="Other" Attr="CONFIRM"/>
+        )");
+        platform().host = [](tagITEM_NODE_S* item) { record("host " + handed(*item)); };
+        platform().pushed = [](OSD_BOOL show) { show == 1 ? record("picture " + drawn()) : void(); };
+        start({0, 2, 0, {0.0f, 0.0f, 0.1f, 0.04f}, false});
+    }
+
+    // What the host gets.
+    static std::string handed(const tagITEM_NODE_S& item)
+    {
+        const std::string value = replaced(valueOf(item), R"( of [-\d]+\.\.[-\d]+)", "");
+        const bool button = item.enAttr == CONFIRM || item.enAttr == CONFIRM_POP || item.enAttr == CONFIRM_POP_BTN;
+        return button          ? squeezed(std::string("presses ") + item.acItemIndex + " " + value)
+               : value.empty() ? std::string("passes ") + item.acItemIndex
+                               : std::string("sets ") + item.acItemIndex + " to " + value;
+    }
+
+    // What the last redraw put onto the canvas, and its bright texts.
+    static std::string drawn()
+    {
+        const std::vector<std::string> lines = linesOf({"blit ", "push "});
+        std::string picture;
+        for (auto line = lines.rbegin() + 1; line != lines.rend() && line->rfind("push", 0) != 0; ++line) {
+            picture.insert(0, *line + "; ");
+        }
+        return picture;
+    }
+    static std::string bright(const std::string& picture)
+    {
+        std::string texts;
+        for (size_t at = 0; (at = picture.find(" white '", at)) != std::string::npos; at++) {
+            texts += " " + picture.substr(at + 8, picture.find("' at ", at) - at - 8);
+        }
+        return texts;
+    }
+
+    // What the library calls, where "shows the menu" is the picture of the menu as it is now.
+    std::string sentences()
+    {
+        static const std::pair<const char*, const char*> forms[] = {
+            {"^host (.*)", "$1"},           {"^set (.*)=(.*) 1$", "stores '$2' as $1"},
+            {"^sleep (.*)", "waits $1 s"},  {"^document .*/(.*)_page.xml 1$", "reads $1"},
+            {"^push 0$", "hides the menu"}, {"^language$", "asks the language"}};
+        const std::vector<std::string> lines = calls().lines;
+        calls().lines.clear();
+        (void)printed([] { (void)OSD_MENU_RenderCanvas(); });
+        const std::string now = calls().lines.empty() ? "" : calls().lines.back();
+        std::vector<std::string> found;
+        for (const std::string& line : lines) {
+            if (line.rfind("picture ", 0) == 0) {
+                found.push_back(line == now ? "shows the menu" : "shows" + bright(line));
             }
-        };
-        start({0, 2, 0, {0.0f, 0.0f, 0.02f, 0.04f}, false});
-    }
-
-    // The kind of an item is the mark behind its key: "Gain", "Zoom#", "More>page"; "Mode[ (A Gain ) (B ) ]" has options.
-    static std::string itemText(const std::string& token)
-    {
-        // clang-format off
-        static const std::map<char, const char*> kinds = {
-            {' ', "NAME_VAL' Attr='COMMON"}, {'~', "NAME_IP_VAL' Attr='COMMON"}, {'!', "NAME_VAL' Attr='KEY_WITH_MSG"},
-            {'[', "NAME_VAL' Attr='SUBITEM"}, {'{', "NAME_VAL' Attr='MSG_WITH_SUBITEM"}, {'>', "NAME' Attr='SUBPAGE"},
-            {'.', "NAME' Attr='CONFIRM"}, {',', "NAME_VAL' Attr='CONFIRM"}, {':', "NAME_VAL' Attr='CONFIRM_POP"},
-            {'+', "NAME' Attr='CONFIRM_POP_BTN"}, {'-', "NAME' Attr='CONST_TXT"}, {'?', "NAME_VAL' Attr='STATUS"},
-            {'#', "NAME_BAR_VAL' Attr='COMMON' ValType='NUMERICAL"}, {'@', "NAME_IP_VAL' Attr='EDITABLE' ValType='EDITTXT"}};
-        // clang-format on
-        if (token == ")" || token == "]" || token[0] == '(') {
-            return token == ")" ? "</O>" : token == "]" ? "</I>" : "<O ModeIndex='" + token.substr(1) + "'>";
+            for (const auto& [pattern, with] : forms) {
+                const std::string sentence = replaced(line, pattern, with);
+                if (sentence != line && (line != "language" || tellsLanguage)) {
+                    found.push_back(sentence);
+                }
+            }
         }
-        const size_t at = std::min(token.find_first_of("#!@-{?[>:.+,~"), token.size());
-        const std::string rest = at < token.size() ? token.substr(at + 1) : "";
-        const char mark = at < token.size() ? token[at] : ' ';
-        return "<I ItemIndex='" + token.substr(0, at) + "' Ctx='" + kinds.at(mark) +
-               "' NumOfChar='15' Msg='Press' Value='Go' " + "SubPage='" + rest + "' ConfirmPage='" + rest +
-               "' PicType='" + rest + (mark == '[' || mark == '{' ? "'>" : "'/>");
+        return joined(found, ", ");
     }
 
-    static void file(const std::string& line)
-    {
-        std::istringstream items(line.substr(line.find(" = ") + 3));
-        const size_t end = line.find(' ');
-        const std::string attributes = line.substr(end, line.find(" = ") - end);
-        const bool bare = attributes.find("Layout") == std::string::npos;
-        std::string text = "<P " + attributes + (bare ? " Layout='vertical_align'>" : ">");
-        for (std::string token; items >> token;) {
-            text += itemText(token);
-        }
-        platform().pages[line.substr(0, end)] = text + "</P>";
-    }
-
-    void openAll(const std::string& names)
+    void openAll(const std::string& path)
     {
         while (gstPageMgr.s32PageCnt > 0) {
             (void)osdMenuReleaseSinglePage();
         }
-        std::istringstream in(names);
-        for (std::string name; in >> name; gstPageMgr.s32PageCnt++) {
-            (void)printed([&] {
-                EXPECT_EQ(OSD_MENU_ParseXml(name.data(), &gstPageMgr.astPage[gstPageMgr.s32PageCnt]), 0) << name;
-            });
-        }
+        (void)printed([&] {
+            for (size_t at = 0, end = 0; path != "closed" && at < path.size(); at = end + 3) {
+                end = std::min(path.find(" / ", at), path.size());
+                std::string name = path.substr(at, end - at);
+                EXPECT_EQ(OSD_MENU_ParseXml(name.data(), &gstPageMgr.astPage[gstPageMgr.s32PageCnt++]), 0) << name;
+            }
+        });
     }
 
+    // Presses keys, and tells the calls of the last one with its result.
     std::string pressed(const std::string& words)
     {
         int result = 0;
-        calls().lines.clear();
-        (void)printed([&] { result = press(words); });
-        std::string text;
-        for (const std::string& line : linesOf(seen)) {
-            text += (text.empty() ? "" : ", ") + replaced(line, R"(document .*/(\w+)_page.xml 1)", "read $1");
-        }
-        return text + (result == 0 ? "" : (text.empty() ? "" : ", ") + std::to_string(result));
+        (void)printed([&] {
+            const size_t last = words.rfind(' ') + 1;
+            (void)press(words.substr(0, last));
+            calls().lines.clear();
+            result = press(words.substr(last));
+        });
+        const std::string text = sentences();
+        return result == 0 ? text : text + (text.empty() ? "" : ", ") + (result == 1 ? "answers yes" : "fails");
     }
 
-    void check(const std::string& table)
+    // Rows that differ from those before, and the one with the cursor.
+    static std::string changed(const std::vector<std::string>& before, const std::vector<std::string>& now)
     {
-        std::istringstream in(table);
-        for (std::string line; std::getline(in, line);) {
-            line = line.substr(std::min(line.find_first_not_of(' '), line.size()));
-            const auto row = matched(line, R"(([^;]*); ?([^;]*); ?([^;]*); ?([^;]*))");
-            if (!row.empty()) {
-                SCOPED_TRACE(line);
-                auto& now = platform();
-                const auto before = std::make_tuple(now.texts, now.numbers, now.answers, now.language);
-                openAll(row[0]);
-                EXPECT_EQ(pressed(row[1]), row[2]);
-                EXPECT_EQ(state(), row[3]);
-                std::tie(now.texts, now.numbers, now.answers, now.language) = before; // for the next row
-            } else if (!line.empty()) {
-                file(line);
+        const auto label = [](const std::string& row) { return row.substr(2, row.find("  ", 2) - 2); };
+        const auto end = std::find(now.begin(), now.end(), "---");
+        const auto rows = static_cast<size_t>(end - now.begin());
+        bool same = before[0] == now[0];
+        for (size_t at = 1; at < rows; at++) {
+            same = same && at < before.size() && label(before[at]) == label(now[at]);
+        }
+        std::vector<std::string> found;
+        for (size_t at = 1; at < rows; at++) {
+            if (now[at][0] == '>' || !same || before[at].substr(1) != now[at].substr(1)) {
+                found.push_back(squeezed(now[at]));
             }
         }
+        return (before[0] == now[0] ? "" : now[0] + (rows > 1 ? ": " : "")) + joined(found, "; ") +
+               (end == now.end() ? "" : " --- " + now.back());
     }
 
-    std::vector<std::string> seen = {"show ", "hide", "do ", "set ", "sleep ", "document "};
+    void check(const std::string& text)
+    {
+        auto& now = platform();
+        const auto settings = std::make_tuple(now.texts, now.numbers, now.answers, now.language, now.pages);
+        const auto reset = [&] { std::tie(now.texts, now.numbers, now.answers, now.language, now.pages) = settings; };
+        std::string path;
+        std::vector<std::string> first;
+        std::vector<std::string> expected;
+        for (const std::string& line : linesIn(replaced(replaced(text, R"(([,;])\n *\|)", "$1"), R"(\n *\|)", " |"))) {
+            const std::vector<std::string> row = matched(squeezed(line), R"((then )?([^|]*) \|(.*)\|(.*))");
+            SCOPED_TRACE(path + ": " + line);
+            if (row.empty() && (expected.empty() || !first.empty())) {
+                path = line;
+                expected = {path};
+                first.clear();
+                continue;
+            }
+            if (row.empty()) {
+                expected.push_back(line);
+                continue;
+            }
+            if (row[0].empty()) {
+                reset();
+                openAll(path);
+            }
+            if (first.empty()) {
+                first = screen();
+                std::vector<std::string> seen;
+                std::transform(first.begin() + 1, first.end(), std::back_inserter(seen), squeezed);
+                std::transform(expected.begin(), expected.end(), expected.begin(), squeezed);
+                EXPECT_TRUE(expected.size() == 1 || seen == decltype(seen)(expected.begin() + 1, expected.end()))
+                    << joined(first, "\n");
+            }
+            EXPECT_EQ(pressed(squeezed(row[1])), squeezed(row[2]));
+            EXPECT_EQ(changed(first, screen()), squeezed(row[3]));
+        }
+        reset();
+    }
+
+    bool tellsLanguage = false; // also that the library asks for it
 };
 
 } // namespace fake

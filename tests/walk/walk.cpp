@@ -11,7 +11,7 @@
 #include <random>
 #include <sstream>
 
-#include "menu/core/page.h"
+#include "osd_page.h"
 #include "tests/fake/keys.h"
 #include "tests/fake/menu_test.h"
 
@@ -83,7 +83,7 @@ protected:
         const tagPAGE_NODE_S* page = osdXmlGetCurPage();
         // what the host itself sets needn't be committed
         if (pending && item->enAttr != CONST_TXT && page != nullptr && page->bConfirmBtn == 0 && sets == 0) {
-            fault("not committed: " + shown(*item));
+            fault(std::string("not committed: ") + item->acItemIndex + " " + valueOf(*item));
         }
         const char* parent = dataZoneParent(item->acDataZone);
         const std::string key = (parent != nullptr ? std::string(parent) + "/" : "") + item->acItemIndex;
@@ -143,8 +143,8 @@ protected:
             fault(format("%d pages, %d items", count, liveItems()));
         }
         for (int at = 0; at < count && problem.empty(); at++) {
-            const tagPAGE_NODE_S& page = gstPageMgr.astPage[at];
-            const auto items = visibleItems(page);
+            tagPAGE_NODE_S& page = gstPageMgr.astPage[at];
+            const auto items = itemsOf(page);
             const auto active =
                 std::count_if(items.begin(), items.end(), [](auto* item) { return item->bActive == 1; });
             const bool icon = page.enLayout == PAGE_LAYOUT_ICON;
@@ -153,7 +153,7 @@ protected:
             const bool cursor =
                 icon ? page.s32SelIdx >= 0 && page.s32SelIdx < std::max(page.s32ItemCnt, 1) : active < 2 || two;
             if (!cursor || !std::all_of(items.begin(), items.end(), [](auto* item) { return inRange(*item); })) {
-                fault("cursor or value: " + state());
+                fault("cursor or value: " + joined(screen(), "\n"));
             }
         }
     }
