@@ -12,13 +12,19 @@
 #include <string>
 
 #include "bench/page.h"
-#include "menu/core/page.h"
+#include "osd_page.h"
 #include "platform/config_service.h"
 #include "platform/log_service.h"
 #include "platform/media_service.h"
 
 namespace bench {
 namespace {
+
+// What the camera answers. Bars stand in the middle of their steps.
+constexpr char option_value[] = "Automatic";
+constexpr char address_value[] = "192.168.100.120";
+constexpr char status_value[] = "1.2.3.4";
+constexpr tagCFG_VALUE_INT_S bar_value = {0, 100, 0, 1, 50};
 
 std::map<std::string, std::string, std::less<>> page_files; // name of the file to its path
 
@@ -42,7 +48,7 @@ PageFolder::PageFolder()
     folder_ = pattern;
     page_files[file_of(camera_page)] = OSD_RESOURCE_DIR "/menu/" + file_of(camera_page);
     for (const Page& page : pages()) {
-        const std::string file = file_of(std::string(page.name));
+        const std::string file = file_of(page.name);
         const std::string path = folder_ / file;
         std::ofstream(path) << page_xml(page);
         page_files[file] = path;
@@ -112,7 +118,7 @@ int CFG_COM_GetTxtParamByParent(char* /*parent*/, char* key, tagCFG_VALUE_TXT_S*
 
 int CFG_COM_GetIntParams(char* /*key*/, tagCFG_VALUE_INT_S* value)
 {
-    *value = {0, bench::bar_steps - 1, 0, 1, bench::bar_position};
+    *value = bench::bar_value;
     return 0;
 }
 

@@ -1,7 +1,9 @@
 #include "bench/cases.h"
 
+#include <stdexcept>
+#include <vector>
+
 #include "bench/camera.h"
-#include "bench/plan.h"
 #include "osd_menu.h"
 #include "osd_prompt.h"
 
@@ -9,7 +11,6 @@ namespace bench {
 namespace {
 
 constexpr float zoom_ratio = 12.5f;
-constexpr char zoom_text[] = "12.5X";
 
 void update_zoom() { OSD_PROMPT_ShowZoomRatio(zoom_ratio); }
 
@@ -26,27 +27,30 @@ std::vector<unsigned char> take_pixels(SDL_Surface* surface)
 
 Case page_case(const Page& page)
 {
-    open_page(std::string(page.name));
-    return {std::string(page.name), [] { OSD_MENU_RenderCanvas(); }, plan_page(page)};
+    open_page(page.name);
+    return {page.name, gstMenuMgr.pstSurface, [] { OSD_MENU_RenderCanvas(); }};
 }
 
 Case zoom_case()
 {
     update_zoom(); // from here on the ratio is live
-    return {"zoom", update_zoom, plan_zoom(zoom_text)};
+    return {"zoom", gsZoomRatioOsdItem.pstSurface, update_zoom};
 }
 
-bool is_same_picture(const Case& measured)
+Record record_redraw(const Case& measured)
 {
-    SDL_Surface* surface = measured.bare.surface;
-    if (surface == nullptr) {
-        return false;
+    if (measured.surface == nullptr) {
+        throw std::runtime_error(measured.name + ": there is no surface");
     }
-    take_pixels(surface);
-    measured.by_library();
-    const auto by_library = take_pixels(surface);
-    draw_bare(measured.bare);
-    return take_pixels(surface) == by_library;
+    measured.redraw(); // once before, so that nothing of a first time is recorded
+    take_pixels(measured.surface);
+    Record made = record(measured.redraw);
+    const auto by_library = take_pixels(measured.surface);
+    replay(made);
+    if (take_pixels(measured.surface) != by_library) {
+        throw std::runtime_error(measured.name + ": the replay draws another picture than the library");
+    }
+    return made;
 }
 
 } // namespace bench

@@ -1,27 +1,29 @@
 // What is measured: the redraw of each page, and an update of the zoom ratio.
 #pragma once
 
+#include <SDL.h>
+
 #include <functional>
 #include <string>
 
-#include "bench/bare_redraw.h"
 #include "bench/page.h"
+#include "bench/recorder.h"
 
 namespace bench {
 
 struct Case {
     std::string name;
-    std::function<void()> by_library;
-    Plan bare;
+    SDL_Surface* surface;
+    std::function<void()> redraw;
 };
 
-// Opens the page, and plans its redraw.
+// Opens the page.
 Case page_case(const Page& page);
 
-// Shows the zoom ratio, and plans its next update. Its canvas is the same for every menu.
+// Shows the zoom ratio. Its canvas is the same for every menu.
 Case zoom_case();
 
-// The yardstick is one only if it draws the same picture.
-bool is_same_picture(const Case& measured);
+// The calls of one redraw, when replaying them draws the same picture; throws otherwise: they are no yardstick then.
+Record record_redraw(const Case& measured);
 
 } // namespace bench

@@ -1,7 +1,7 @@
 # libosdmenu.so, layer by layer.
 add_library(osdmenu SHARED
   comm/arrow.cpp
-  comm/bar.cpp
+  comm/exports.cpp
   comm/font.cpp
   comm/image.cpp
   comm/log.cpp
@@ -10,38 +10,50 @@ add_library(osdmenu SHARED
   comm/surface.cpp
   comm/text.cpp
   comm/text_surface.cpp
+  comm/widget.cpp
   menu/core/attr.cpp
   menu/core/canvas.cpp
+  menu/core/change.cpp
+  menu/core/exports.cpp
   menu/core/flat_list.cpp
+  menu/core/item.cpp
   menu/core/item_parse.cpp
   menu/core/language.cpp
   menu/core/manager.cpp
+  menu/core/network.cpp
   menu/core/page.cpp
   menu/core/page_parse.cpp
+  menu/core/query.cpp
   menu/core/refresh.cpp
   menu/core/value_bind.cpp
   menu/core/value_status.cpp
   menu/nav/address.cpp
-  menu/nav/change.cpp
+  menu/nav/apply.cpp
+  menu/nav/button.cpp
   menu/nav/confirm_item.cpp
   menu/nav/confirm_page.cpp
   menu/nav/cursor.cpp
+  menu/nav/exports.cpp
   menu/nav/home_key.cpp
   menu/nav/icon_cursor.cpp
   menu/nav/keys.cpp
+  menu/nav/list_cursor.cpp
   menu/nav/paged_cursor.cpp
-  menu/nav/query.cpp
   menu/nav/stack.cpp
   menu/nav/tally.cpp
   menu/nav/value_step.cpp
+  menu/nav/waiting.cpp
+  menu/render/exports.cpp
   menu/render/icon_grid.cpp
   menu/render/layouts.cpp
+  menu/render/list.cpp
   menu/render/paged_list.cpp
   menu/render/popup.cpp
   menu/render/row.cpp
   menu/render/tolvane_list.cpp
   menu/render/value.cpp
   menu/render/vertical_list.cpp
+  prompt/exports.cpp
   prompt/prompt.cpp
   prompt/zoom_ratio.cpp)
 add_library(osdmenu::osdmenu ALIAS osdmenu)

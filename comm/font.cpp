@@ -1,6 +1,6 @@
-// Fonts, read through a mapping of their file: SDL_ttf seeks and reads a file several thousand times for one page.
+#include "comm/font.h"
+
 #include <SDL.h>
-#include <SDL_ttf.h>
 #include <fcntl.h>
 #include <pthread.h>
 #include <sys/mman.h>
@@ -8,13 +8,13 @@
 #include <unistd.h>
 
 #include <climits>
+#include <utility>
 
-#include "comm/guard.h"
 #include "comm/log.h"
 #include "comm/paths.h"
 #include "osd_comm.h"
 
-static constexpr int gs_s32FontSize = 32; // pixels, until the first text sets its own
+static constexpr int c_s32FontSize = 32; // pixels, until the first text sets its own
 
 // SDL_RWops::close of a mapped font: the mapping ends with the font.
 static int osdFontUnmap(SDL_RWops* pstFile)
@@ -24,11 +24,11 @@ static int osdFontUnmap(SDL_RWops* pstFile)
     return 0;
 }
 
-static SDL_RWops* osdFontWrap(void* pvFont, size_t u32Size)
+static SDL_RWops* osdFontWrap(void* pvFont, size_t uSize)
 {
-    SDL_RWops* pstFile = SDL_RWFromConstMem(pvFont, static_cast<int>(u32Size));
+    SDL_RWops* pstFile = SDL_RWFromConstMem(pvFont, static_cast<int>(uSize));
     if (pstFile == nullptr) {
-        (void)munmap(pvFont, u32Size);
+        (void)munmap(pvFont, uSize);
         return nullptr;
     }
     pstFile->close = osdFontUnmap;
@@ -54,40 +54,54 @@ static SDL_RWops* osdFontMap(const char* pcPath)
 // one opening or closing, never while something is drawn.
 static pthread_mutex_t gs_stFontMutex = PTHREAD_MUTEX_INITIALIZER;
 
-static TTF_Font* osdFontOpen(const char* pcPath)
+// Takes the lock for as long as it lives.
+struct OSD_FONT_LOCK {
+    OSD_FONT_LOCK() { (void)pthread_mutex_lock(&gs_stFontMutex); }
+    ~OSD_FONT_LOCK() { (void)pthread_mutex_unlock(&gs_stFontMutex); }
+    OSD_FONT_LOCK(const OSD_FONT_LOCK&) = delete;
+    OSD_FONT_LOCK& operator=(const OSD_FONT_LOCK&) = delete;
+};
+
+static OSD_FONT_PTR osdFontOpen(const char* pcPath)
 {
     SDL_RWops* pstFile = osdFontMap(pcPath);
     if (pstFile == nullptr) {
         return nullptr;
     }
-    (void)pthread_mutex_lock(&gs_stFontMutex);
-    TTF_Font* pstFont = TTF_OpenFontRW(pstFile, 1, gs_s32FontSize); // 1: closes the file, always
-    (void)pthread_mutex_unlock(&gs_stFontMutex);
-    return pstFont;
+    const OSD_FONT_LOCK stLock;
+    return OSD_FONT_PTR(TTF_OpenFontRW(pstFile, 1, c_s32FontSize)); // 1: closes the file, always
 }
 
 void osdFontClose(TTF_Font* pstFont)
 {
-    (void)pthread_mutex_lock(&gs_stFontMutex);
+    const OSD_FONT_LOCK stLock;
     TTF_CloseFont(pstFont);
-    (void)pthread_mutex_unlock(&gs_stFontMutex);
 }
 
-TTF_Font* OSD_COMM_OpenTtfFont()
+OSD_FONT_PTR osdFontRegular()
 {
-    TTF_Font* pstFont = osdFontOpen(OSD_PATH_FONT);
+    OSD_FONT_PTR pstFont = osdFontOpen(OSD_PATH_FONT);
     if (pstFont == nullptr) {
-        osdTrace("[MENU:%s:%d] Error! %s\n", OSD_PLACE, "Load Font Error.");
+        osdTrace("[MENU:%s:%d] Error! %s\n", OSD_PLACE(OSD_COMM_OpenTtfFont), "Load Font Error.");
     }
     return pstFont;
 }
 
-static TTF_Font* osdFontOpenOrRegular(const char* pcPath)
+static OSD_FONT_PTR osdFontOpenOrRegular(const char* pcPath)
 {
-    TTF_Font* pstFont = osdFontOpen(pcPath);
-    return pstFont != nullptr ? pstFont : OSD_COMM_OpenTtfFont();
+    OSD_FONT_PTR pstFont = osdFontOpen(pcPath);
+    return pstFont != nullptr ? std::move(pstFont) : osdFontRegular();
 }
 
-TTF_Font* OSD_COMM_OpenSelectTtfFont() { return osdFontOpenOrRegular(OSD_PATH_BOLD_FONT); }
+OSD_FONT_PTR osdFontBold() { return osdFontOpenOrRegular(OSD_PATH_BOLD_FONT); }
 
-TTF_Font* OSD_COMM_OpenTraditionalChineseTtfFont() { return osdFontOpenOrRegular(OSD_PATH_TC_FONT); }
+OSD_FONT_PTR osdFontTraditionalChinese() { return osdFontOpenOrRegular(OSD_PATH_TC_FONT); }
+
+bool osdFontSetSize(TTF_Font* pstFont, int s32Size, const char* pcFunc)
+{
+    if (TTF_SetFontSize(pstFont, s32Size) != 0) {
+        osdTrace("%s %d\n", pcFunc, __LINE__);
+        return false;
+    }
+    return true;
+}

@@ -6,9 +6,6 @@
 
 #include "osd_types.h"
 
-// A text field of the records, zero at its end included.
-using OSD_TEXT = char[OSD_TEXT_LEN];
-
 // Exact equality; mostly the first byte tells.
 inline bool osdTextEqual(const char* pcLeft, const char* pcRight)
 {
@@ -30,9 +27,9 @@ bool osdTextAmong(const char* const (&apcText)[N], const char* pcText)
 // A text with its end fits a field of the records.
 inline bool osdTextFits(const char* pcText) { return strlen(pcText) < OSD_TEXT_LEN; }
 
-// Copies at most u32SrcMax bytes of a text into a field of u32Size bytes and clears the rest of the field. What doesn't
+// Copies at most uSrcMax bytes of a text into a field of uSize bytes and clears the rest of the field. What doesn't
 // fit is cut before the character that would not be whole.
-void osdTextCopy(char* pcDst, size_t u32Size, const char* pcSrc, size_t u32SrcMax);
+void osdTextCopy(char* pcDst, size_t uSize, const char* pcSrc, size_t uSrcMax);
 
 template <size_t N>
 void osdTextSet(char (&acDst)[N], const char* pcSrc)

@@ -35,3 +35,6 @@ enum {
     OSD_CFG_VALUE_LEN = 16, /* bytes of a setting's value text, zero included */
     OSD_ANSWER_LEN = 4096   /* bytes of an answer block: get-callback and device attributes */
 };
+
+/* A text field of the records, its end included. */
+typedef char OSD_TEXT[OSD_TEXT_LEN];

@@ -23,21 +23,27 @@ inline void osdCfgGetInt(const char* pcParent, const char* pcKey, tagCFG_VALUE_I
     }
 }
 
-// Translates a key; returns the service's result and ends the text within its field, whatever the service wrote.
-inline int osdCfgTranslate(const char* pcLanguage, const char* pcKey, char (&acOut)[OSD_TEXT_LEN])
+// Stores an option of a setting; the service's result is not read.
+inline void osdCfgSetTxt(const char* pcKey, const char* pcValue)
+{
+    (void)CFG_COM_SetTxtParams(const_cast<char*>(pcKey), const_cast<char*>(pcValue), 1);
+}
+
+// Translates a key; false when the service refuses. The text ends within its field, whatever the service wrote.
+inline bool osdCfgTranslate(const char* pcLanguage, const char* pcKey, OSD_TEXT& acOut)
 {
     const int s32Ret = CFG_LANG_GetString(const_cast<char*>(pcLanguage), const_cast<char*>(pcKey), acOut);
     acOut[OSD_TEXT_LEN - 1] = '\0';
-    return s32Ret;
+    return s32Ret == 0;
 }
 
-// The name of the current language, cleared first; returns the service's result.
-inline int osdCfgLanguage(char (&acLanguage)[OSD_TEXT_LEN])
+// The name of the current language, cleared first; false when the service can't tell.
+inline bool osdCfgLanguage(OSD_TEXT& acLanguage)
 {
     for (char& cByte : acLanguage) {
         cByte = '\0';
     }
     const int s32Ret = CFG_SYSTEM_GetLanguage(acLanguage);
     acLanguage[OSD_TEXT_LEN - 1] = '\0';
-    return s32Ret;
+    return s32Ret == 0;
 }

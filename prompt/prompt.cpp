@@ -1,20 +1,18 @@
-// Text prompts: each has a canvas of its own, just as large as its text.
-#include "osd_prompt.h"
+#include "prompt/prompt.h"
 
 #include <SDL_ttf.h>
 #include <unistd.h>
 
-#include <cstdio>
-
 #include "comm/arith.h"
-#include "comm/guard.h"
-#include "osd_comm.h"
-#include "platform/media_service.h"
+#include "comm/font.h"
+#include "comm/log.h"
+#include "comm/shape.h"
+#include "comm/surface.h"
 
-static constexpr SDL_Rect gs_stPromptBase = {0, 0, 3840, 2160};
-static constexpr uint32_t gs_u32PromptPixFmt = 1;  // ARGB4444
-static constexpr int gs_s32PromptAlign = 4;        // canvases start on and cover multiples of this
-static constexpr unsigned gs_u32PromptSeconds = 3; // so long OSD_PROMPT_Update shows its text
+static constexpr SDL_Rect c_stPromptBase = {0, 0, 3840, 2160};
+static constexpr uint32_t c_u32PromptPixFmt = 1;  // ARGB4444
+static constexpr int c_s32PromptAlign = 4;        // canvases start on and cover multiples of this
+static constexpr unsigned c_u32PromptSeconds = 3; // so long OSD_PROMPT_Update shows its text
 
 OSD_PROMPT_HANDLER_S gsOsdPromptItem;
 
@@ -31,7 +29,7 @@ struct tagPROMPT_TEXT_S {
 
 static tagPROMPT_TEXT_S osdPromptText(const OSD_PROMPT_CFG_S& stCfg, const char* pcText)
 {
-    tagPROMPT_TEXT_S stText = {OSD_FONT_PTR(OSD_COMM_OpenTtfFont()), nullptr};
+    tagPROMPT_TEXT_S stText = {osdFontRegular(), nullptr};
     TTF_Font* pstFont = stText.pstFont.get();
     if (pstFont != nullptr) {
         (void)TTF_SetFontSize(pstFont, osdClampS32(int64_t{stCfg.u32FontSize} * 2)); // else the size it opened with
@@ -40,17 +38,19 @@ static tagPROMPT_TEXT_S osdPromptText(const OSD_PROMPT_CFG_S& stCfg, const char*
     return stText;
 }
 
-static void osdPromptFill(SDL_Surface* pstSurface, const SDL_Rect* pstRect, const OSD_PROMPT_COLOR_S& stColor)
+// Fills the ground, a null rectangle being the whole canvas, and blits the text onto it. A text without ground is still
+// a text.
+static void osdPromptDraw(SDL_Surface* pstSurface, SDL_Surface* pstTxt, const SDL_Rect* pstGround, SDL_Rect stPlace,
+                          const OSD_PROMPT_COLOR_S& stGround)
 {
-    const Uint32 u32Pixel =
-        SDL_MapRGBA(pstSurface->format, stColor.u8Red, stColor.u8Green, stColor.u8Blue, stColor.u8Alpha);
-    (void)SDL_FillRect(pstSurface, pstRect, u32Pixel); // a text without ground is still a text
+    (void)SDL_FillRect(pstSurface, pstGround, osdShapePixel(pstSurface, osdPromptColor(stGround)));
+    (void)SDL_UpperBlit(pstTxt, nullptr, pstSurface, &stPlace);
 }
 
 static int osdPromptAlignUp(int s32Size)
 {
-    const int s32Over = s32Size % gs_s32PromptAlign;
-    return s32Over == 0 ? s32Size : s32Size - s32Over + gs_s32PromptAlign;
+    const int s32Over = s32Size % c_s32PromptAlign;
+    return s32Over == 0 ? s32Size : s32Size - s32Over + c_s32PromptAlign;
 }
 
 // Places the canvas for a text; gives the text's place on the canvas.
@@ -60,7 +60,7 @@ static SDL_Rect osdPromptPlace(OSD_PROMPT_HANDLER_S* pstHandler, const SDL_Surfa
     const SDL_Rect& stBase = stCanvas.stBaseRect;
     const int s32X = osdTruncF64(static_cast<double>(stBase.w - pstTxt->w) * pstHandler->stCfg.f64XRatio);
     const int s32Y = osdTruncF64(static_cast<double>(stBase.h - pstTxt->h) * pstHandler->stCfg.f64YRatio);
-    const SDL_Rect stOnCanvas = {s32X % gs_s32PromptAlign, s32Y % gs_s32PromptAlign, osdPromptAlignUp(pstTxt->w),
+    const SDL_Rect stOnCanvas = {s32X % c_s32PromptAlign, s32Y % c_s32PromptAlign, osdPromptAlignUp(pstTxt->w),
                                  osdPromptAlignUp(pstTxt->h)};
     stCanvas.stMenuRect = {s32X - stOnCanvas.x, s32Y - stOnCanvas.y, stOnCanvas.w, stOnCanvas.h};
     stCanvas.f32W = osdF32(pstTxt->w) / osdF32(stBase.w);
@@ -68,78 +68,59 @@ static SDL_Rect osdPromptPlace(OSD_PROMPT_HANDLER_S* pstHandler, const SDL_Surfa
     return stOnCanvas;
 }
 
-int OSD_PROMPT_CreateEx(OSD_PROMPT_HANDLER_S* pstHandler, OSD_PROMPT_CFG_S stCfg, char* pcText)
+bool osdPromptCreate(OSD_PROMPT_HANDLER_S* pstHandler, const OSD_PROMPT_CFG_S& stCfg, const char* pcText)
 {
+    tagOSD_MENU_CANVAS_S& stCanvas = pstHandler->stCanvas;
     pstHandler->stCfg = stCfg;
-    pstHandler->stCanvas.stBaseRect = gs_stPromptBase;
-    pstHandler->stCanvas.enPixFmt = gs_u32PromptPixFmt;
+    stCanvas.stBaseRect = c_stPromptBase;
+    stCanvas.enPixFmt = c_u32PromptPixFmt;
     tagPROMPT_TEXT_S stText = osdPromptText(stCfg, pcText);
-    SDL_Surface* pstTxt = stText.pstTxt.get();
-    if (pstTxt == nullptr) {
-        return -1;
+    if (stText.pstTxt == nullptr) {
+        return false;
     }
-    SDL_Rect stOnCanvas = osdPromptPlace(pstHandler, pstTxt);
-    pstHandler->pstSurface = OSD_COMM_CreateSurface(&pstHandler->stCanvas);
+    const SDL_Rect stOnCanvas = osdPromptPlace(pstHandler, stText.pstTxt.get());
+    pstHandler->pstSurface = osdSurfaceCreate(&stCanvas);
     if (pstHandler->pstSurface == nullptr) {
-        return -1;
+        return false;
     }
-    osdPromptFill(pstHandler->pstSurface, &stOnCanvas, stCfg.stBgColor);
-    (void)SDL_UpperBlit(pstTxt, nullptr, pstHandler->pstSurface, &stOnCanvas);
-    if (MPP_MENU_UpdateCanvasToAllChns(1, &pstHandler->stCanvas) != 0) {
-        (void)puts("failed update all target");
-        (void)OSD_COMM_DestroySurface(&pstHandler->stCanvas, pstHandler->pstSurface); // 0, as there is a surface
-        stText.pstFont.reset();                                                       // the font goes first here
-        return -1;
+    osdPromptDraw(pstHandler->pstSurface, stText.pstTxt.get(), &stOnCanvas, stOnCanvas, stCfg.stBgColor);
+    const bool bShown = osdSurfacePush(&stCanvas, 1) == 0;
+    if (!bShown) {
+        osdTrace("failed update all target\n");
+        osdSurfaceDestroy(&stCanvas, pstHandler->pstSurface);
     }
-    stText.pstFont.reset();
-    return 0;
+    stText.pstFont.reset(); // before the text here
+    return bShown;
 }
 
-int OSD_PROMPT_UpdateTextEx(OSD_PROMPT_HANDLER_S* pstHandler, OSD_PROMPT_CFG_S stCfg, char* pcText)
+bool osdPromptChange(OSD_PROMPT_HANDLER_S* pstHandler, const OSD_PROMPT_CFG_S& stCfg, const char* pcText)
 {
     if (pstHandler->pstSurface == nullptr) {
-        return -1;
+        return false;
     }
     const tagPROMPT_TEXT_S stText = osdPromptText(stCfg, pcText);
     SDL_Surface* pstTxt = stText.pstTxt.get();
     if (pstTxt == nullptr) {
-        return -1;
+        return false;
     }
     const SDL_Rect& stCanvas = pstHandler->stCanvas.stMenuRect;
-    SDL_Rect stMiddle = {(stCanvas.w - pstTxt->w) / 2, (stCanvas.h - pstTxt->h) / 2, 0, 0};
-    osdPromptFill(pstHandler->pstSurface, nullptr, stCfg.stBgColor);
-    (void)SDL_UpperBlit(pstTxt, nullptr, pstHandler->pstSurface, &stMiddle);
-    (void)MPP_MENU_UpdateCanvasToAllChns(1, &pstHandler->stCanvas); // the canvas is on the channels already
-    return 0;
+    const SDL_Rect stMiddle = {(stCanvas.w - pstTxt->w) / 2, (stCanvas.h - pstTxt->h) / 2, 0, 0};
+    osdPromptDraw(pstHandler->pstSurface, pstTxt, nullptr, stMiddle, stCfg.stBgColor);
+    osdSurfacePush(&pstHandler->stCanvas, 1); // the canvas is on the channels already
+    return true;
 }
 
-int OSD_PROMPT_DestroyEx(OSD_PROMPT_HANDLER_S* pstHandler)
+void osdPromptDestroy(OSD_PROMPT_HANDLER_S* pstHandler)
 {
-    (void)MPP_MENU_UpdateCanvasToAllChns(0, &pstHandler->stCanvas);               // the canvas goes, shown or not
-    (void)OSD_COMM_DestroySurface(&pstHandler->stCanvas, pstHandler->pstSurface); // -1 when there was none
-    return 0;
-}
-
-int OSD_PROMPT_Create(OSD_PROMPT_CFG_S stCfg, char* pcText)
-{
-    return OSD_PROMPT_CreateEx(&gsOsdPromptItem, stCfg, pcText);
-}
-
-int OSD_PROMPT_UpdateText(OSD_PROMPT_CFG_S stCfg, char* pcText)
-{
-    return OSD_PROMPT_UpdateTextEx(&gsOsdPromptItem, stCfg, pcText);
-}
-
-int OSD_PROMPT_Destroy() { return OSD_PROMPT_DestroyEx(&gsOsdPromptItem); }
-
-int OSD_PROMPT_Show(OSD_BOOL bShow) { return MPP_MENU_UpdateCanvasToAllChns(bShow, &gsOsdPromptItem.stCanvas); }
-
-int OSD_PROMPT_Update(OSD_PROMPT_CFG_S stCfg, char* pcText)
-{
-    if (stCfg.bSuppress != 0) {
-        return 0;
+    osdSurfacePush(&pstHandler->stCanvas, 0); // the canvas goes, shown or not
+    if (pstHandler->pstSurface != nullptr) {
+        osdSurfaceDestroy(&pstHandler->stCanvas, pstHandler->pstSurface);
     }
-    (void)OSD_PROMPT_Create(stCfg, pcText); // the caller counts on the three seconds, shown or not
-    (void)sleep(gs_u32PromptSeconds);       // a signal may shorten them
-    return OSD_PROMPT_Destroy();
+}
+
+void osdPromptFlash(const OSD_PROMPT_CFG_S& stCfg, const char* pcText)
+{
+    osdPromptCreate(&gsOsdPromptItem, stCfg, pcText); // the caller counts on the three seconds, shown or not
+    (void)sleep(c_u32PromptSeconds);                  // a signal may shorten them
+    osdPromptDestroy(&gsOsdPromptItem);
 }

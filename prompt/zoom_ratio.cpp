@@ -1,14 +1,15 @@
-// The zoom ratio in the middle of the picture.
+#include "prompt/zoom_ratio.h"
+
 #include <unistd.h>
 
 #include <cstdio>
 
-#include "osd_prompt.h"
+#include "prompt/prompt.h"
 
 // While this file exists the camera's media service starts anew and nothing may be drawn.
-static constexpr char gs_acReloading[] = "/tmp/.mpp_reloading";
+static constexpr char c_acReloading[] = "/tmp/.mpp_reloading";
 
-static constexpr OSD_PROMPT_CFG_S gs_stZoomCfg = {
+static constexpr OSD_PROMPT_CFG_S c_stZoomCfg = {
     /* u32FontSize */ 164,
     /* bSuppress */ 0,
     /* stTxtColor */ {255, 255, 255, 255},
@@ -20,31 +21,26 @@ static constexpr OSD_PROMPT_CFG_S gs_stZoomCfg = {
 OSD_PROMPT_HANDLER_S gsZoomRatioOsdItem;
 uint32_t bZoomRatioActive;
 
-int OSD_PROMPT_ShowZoomRatio(float f32Ratio)
+bool osdZoomShow(float f32Ratio)
 {
-    if (access(gs_acReloading, F_OK) == 0) {
-        return 0;
+    if (access(c_acReloading, F_OK) == 0) {
+        return true;
     }
-    char acRatio[64] = {};
-    (void)snprintf(acRatio, sizeof(acRatio), "%.1fX", static_cast<double>(f32Ratio)); // 43 bytes at most
     if (bZoomRatioActive == 0) {
-        char acWidest[] = "888.8X";
-        const int s32Ret = OSD_PROMPT_CreateEx(&gsZoomRatioOsdItem, gs_stZoomCfg, acWidest);
-        if (s32Ret != 0) {
-            return s32Ret;
+        if (!osdPromptCreate(&gsZoomRatioOsdItem, c_stZoomCfg, "888.8X")) { // room for the widest
+            return false;
         }
         bZoomRatioActive = 1;
     }
-    return OSD_PROMPT_UpdateTextEx(&gsZoomRatioOsdItem, gs_stZoomCfg, acRatio);
+    char acRatio[64] = {};
+    (void)snprintf(acRatio, sizeof(acRatio), "%.1fX", static_cast<double>(f32Ratio)); // 43 bytes at most
+    return osdPromptChange(&gsZoomRatioOsdItem, c_stZoomCfg, acRatio);
 }
 
-int OSD_PROMPT_HideZoomRatio()
+void osdZoomHide()
 {
-    if (bZoomRatioActive == 0) {
-        return 0;
+    if (bZoomRatioActive != 0) {
+        bZoomRatioActive = 0;
+        osdPromptDestroy(&gsZoomRatioOsdItem);
     }
-    bZoomRatioActive = 0;
-    return OSD_PROMPT_DestroyEx(&gsZoomRatioOsdItem);
 }
-
-uint32_t OSD_PROMPT_IsZoomRatioActive() { return bZoomRatioActive; }

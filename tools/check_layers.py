@@ -17,7 +17,7 @@ SEES = {  # folder: what it includes beside itself
     "simulator": ["include", "platform"],
     "tools": LIBRARY + ["simulator"],
     "tests": LIBRARY + ["simulator", "tools"],
-    "bench": LIBRARY + ["tests"],
+    "bench": ["include", "platform"],
 }
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.M)
 

@@ -11,8 +11,8 @@ FIXED = {"enMenuStyle", "bZoomRatioActive", "gs_OsdHandler", "next", "prev", "i"
 
 # Comments, macros, and what stands in quotes; line breaks stay, so that line numbers do.
 NO_CODE = re.compile(r'^ *#define(?:[^\n]*\\\n)*[^\n]*|/\*.*?\*/|//[^\n]*|"(?:\\.|[^"\\\n])*"|\'(?:\\.|[^\'\\\n])+\'', re.S | re.M)
-GLOBAL = re.compile(r"^(?:(?:static|inline|constexpr|const|extern|OSD_API|thread_local) )+[\w:<>, ]*?[*&]* ?(\w+)(?:\[[^\]]*\])* ?[;={]", re.M)
-# A type before a name, and the prefix that the name has behind g_, gs_ (shared, static) and a (array).
+GLOBAL = re.compile(r"^((?:(?:static|inline|constexpr|const|extern|OSD_API|thread_local) )+)[\w:<>, ]*?[*&]* ?(\w+)(?:\[[^\]]*\])* ?[;={]", re.M)
+# A type before a name, and the prefix that the name has behind g_, gs_, c_ (shared, static, constant) and a (array).
 END = r"(?=\[| *[;,={)])"
 PREFIX = [(re.compile(rf"(?<![\w:])(?:{types}) (?:const )?(\w+){END}"), prefix) for types, prefix in [
     (r"[\w:]+\*", r"p[a-z0-9]+"),
@@ -22,6 +22,7 @@ PREFIX = [(re.compile(rf"(?<![\w:])(?:{types}) (?:const )?(\w+){END}"), prefix) 
     (r"unsigned int|unsigned|uint32_t", r"u32|en"),
     (r"float", r"f32"),
     (r"double", r"f64"),
+    (r"size_t", r"u(?![0-9])"),
     (r"OSD_BOOL|bool", r"b"),
     (r"tag\w+_E", r"en"),
     (r"(?:tag\w+_S|SDL_Rect)&?", r"st"),
@@ -45,11 +46,12 @@ for path in sorted(p for folder in FOLDERS for p in (ROOT / folder).rglob("*") i
         faults.append(f"{path.relative_to(ROOT)}:{code.count(chr(10), 0, match.start(0)) + 1}: {text}")
 
     for match in GLOBAL.finditer(code):
-        if not named(match[1], r"gs?_|gs?[a-z]"):
-            fault(match, f"{match[1]}: a global is called g_..., a static one gs_...")
+        constant = re.search(r"\bconst(?:expr)?\b", match[1])
+        if not named(match[2], r"c_" if constant else r"gs?_|gs?[a-z]"):
+            fault(match, f"{match[2]}: " + ("a constant is called c_..." if constant else "a global is called g_..., a static one gs_..."))
     for pattern, prefix in PREFIX:
         for match in pattern.finditer(code):
-            if not named(match[1], rf"(?:gs?_?)?a?(?:{prefix})(?:[A-Z0-9]|$)"):
+            if not named(match[1], rf"(?:gs?_?|c_)?a?(?:{prefix})(?:[A-Z0-9]|$)"):
                 fault(match, f"{match[1]}: expected prefix {prefix}")
     for pattern, reason in FORBIDDEN.items():
         for match in re.finditer(pattern, code, re.M) if path.suffix == ".cpp" or "extern" not in pattern else ():

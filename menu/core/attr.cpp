@@ -4,18 +4,19 @@
 #include <string_view>
 
 #include "comm/log.h"
+#include "osd_menu.h"
 
-static constexpr char gs_aacAttrName[][16] = { // in the order of tagATTR_ID_E, which is that of the names
+static constexpr char c_aacAttrName[][16] = { // in the order of tagATTR_ID_E, which is that of the names
     "Attr",      "ConfirmBtn", "ConfirmPage",     "CountPerLine", "Ctx",      "CurPagesNum", "DataZone",
     "ItemCnt",   "ItemIndex",  "ItemIndexOnLine", "ItemPos",      "Layout",   "Line",        "ModeIndex",
     "Msg",       "NextPage",   "NumOfChar",       "Pic",          "PicType",  "PrevPage",    "RdOnly",
     "SelectPic", "ShowValue",  "SubPage",         "Title",        "TitlePos", "ValType",     "Value"};
-static_assert(std::size(gs_aacAttrName) == ATTR_ID_CNT);
+static_assert(std::size(c_aacAttrName) == ATTR_ID_CNT);
 
 static constexpr bool osdAttrNamesAscend()
 {
     for (size_t i = 1; i < ATTR_ID_CNT; i++) {
-        if (std::string_view(gs_aacAttrName[i - 1]) >= gs_aacAttrName[i]) {
+        if (std::string_view(c_aacAttrName[i - 1]) >= c_aacAttrName[i]) {
             return false;
         }
     }
@@ -32,7 +33,7 @@ static constexpr tagLETTER_INDEX_S osdLetterIndex()
     tagLETTER_INDEX_S stIndex = {};
     uint8_t u8Id = 0;
     for (int i = 0; i < 26; i++) {
-        while (u8Id < ATTR_ID_CNT && gs_aacAttrName[u8Id][0] < 'A' + i) {
+        while (u8Id < ATTR_ID_CNT && c_aacAttrName[u8Id][0] < 'A' + i) {
             u8Id++;
         }
         stIndex.au8First[i] = u8Id;
@@ -48,8 +49,8 @@ static size_t osdAttrId(const char* pcName)
     if (s32Letter < 0 || s32Letter >= 26) {
         return ATTR_ID_CNT;
     }
-    for (size_t i = stIndex.au8First[s32Letter]; i < ATTR_ID_CNT && gs_aacAttrName[i][0] == *pcName; i++) {
-        if (strcmp(gs_aacAttrName[i], pcName) == 0) {
+    for (size_t i = stIndex.au8First[s32Letter]; i < ATTR_ID_CNT && c_aacAttrName[i][0] == *pcName; i++) {
+        if (strcmp(c_aacAttrName[i], pcName) == 0) {
             return i;
         }
     }
@@ -61,26 +62,26 @@ tagATTR_SET_S osdAttrCollect(const tinyxml2::XMLElement* pstElem)
     tagATTR_SET_S stSet = {pstElem, {}};
     const tinyxml2::XMLAttribute* pstAttr = pstElem != nullptr ? pstElem->FirstAttribute() : nullptr;
     for (; pstAttr != nullptr; pstAttr = pstAttr->Next()) {
-        const size_t u32Id = osdAttrId(pstAttr->Name());
-        if (u32Id < ATTR_ID_CNT) {
-            stSet.apstAttr[u32Id] = pstAttr;
+        const size_t uId = osdAttrId(pstAttr->Name());
+        if (uId < ATTR_ID_CNT) {
+            stSet.apstAttr[uId] = pstAttr;
         }
     }
     return stSet;
 }
 
-tagATTR_E osdAttrText(const tagATTR_SET_S& stSet, tagATTR_ID_E enId, char (&acOut)[OSD_TEXT_LEN])
+tagATTR_E osdAttrText(const tagATTR_SET_S& stSet, tagATTR_ID_E enId, OSD_TEXT& acOut)
 {
     const char* pcValue = osdAttrValue(stSet, enId);
     if (pcValue == nullptr) {
         return ATTR_ABSENT;
     }
-    const size_t u32Len = strlen(pcValue);
-    if (u32Len >= OSD_TEXT_LEN) {
-        OSD_LOG(OSD_LOG_LEVEL_ERR, "line %d: %s holds %zu bytes, at most %d fit\n", stSet.pstElem->GetLineNum(),
-                gs_aacAttrName[enId], u32Len, OSD_TEXT_LEN - 1);
+    const size_t uLen = strlen(pcValue);
+    if (uLen >= OSD_TEXT_LEN) {
+        OSD_LOG(OSD_MENU_ParseXml, OSD_LOG_LEVEL_ERR, "line %d: %s holds %zu bytes, at most %d fit\n",
+                stSet.pstElem->GetLineNum(), c_aacAttrName[enId], uLen, OSD_TEXT_LEN - 1);
         return ATTR_TOO_LONG;
     }
-    memcpy(acOut, pcValue, u32Len + 1);
+    memcpy(acOut, pcValue, uLen + 1);
     return ATTR_READ;
 }

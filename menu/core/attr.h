@@ -62,30 +62,29 @@ enum tagATTR_E : int32_t {
 };
 
 // A text, refused as a whole when it doesn't fit its field.
-tagATTR_E osdAttrText(const tagATTR_SET_S& stSet, tagATTR_ID_E enId, char (&acOut)[OSD_TEXT_LEN]);
+tagATTR_E osdAttrText(const tagATTR_SET_S& stSet, tagATTR_ID_E enId, OSD_TEXT& acOut);
 
-// A text that may be absent: -1 only when it is too long.
-inline int osdAttrOptText(const tagATTR_SET_S& stSet, tagATTR_ID_E enId, char (&acOut)[OSD_TEXT_LEN])
+// A text that may be absent: false only when it is too long.
+inline bool osdAttrOptText(const tagATTR_SET_S& stSet, tagATTR_ID_E enId, OSD_TEXT& acOut)
 {
-    return osdAttrText(stSet, enId, acOut) == ATTR_TOO_LONG ? -1 : 0;
+    return osdAttrText(stSet, enId, acOut) != ATTR_TOO_LONG;
 }
 
-// A text that must be there: -1 when it is absent or too long.
-inline int osdAttrReqText(const tagATTR_SET_S& stSet, tagATTR_ID_E enId, char (&acOut)[OSD_TEXT_LEN])
+// A text that must be there: false when it is absent or too long.
+inline bool osdAttrReqText(const tagATTR_SET_S& stSet, tagATTR_ID_E enId, OSD_TEXT& acOut)
 {
-    return osdAttrText(stSet, enId, acOut) == ATTR_READ ? 0 : -1;
+    return osdAttrText(stSet, enId, acOut) == ATTR_READ;
 }
 
-// An integer; -1 when it is absent or none, and *ps32Out is left alone.
-inline int osdAttrInt(const tagATTR_SET_S& stSet, tagATTR_ID_E enId, int32_t* ps32Out)
+// An integer; false when it is absent or none, and *ps32Out is left alone.
+inline bool osdAttrInt(const tagATTR_SET_S& stSet, tagATTR_ID_E enId, int32_t* ps32Out)
 {
-    return osdAttrIsThere(stSet, enId) && stSet.apstAttr[enId]->QueryIntValue(ps32Out) == tinyxml2::XML_SUCCESS ? 0
-                                                                                                                : -1;
+    return osdAttrIsThere(stSet, enId) && stSet.apstAttr[enId]->QueryIntValue(ps32Out) == tinyxml2::XML_SUCCESS;
 }
 
-// A word of a table; -1 when it is absent or not in the table, and *penOut is left alone.
+// A word of a table; false when it is absent or not in the table, and *penOut is left alone.
 template <typename E, size_t N>
-int osdAttrWord(const tagATTR_SET_S& stSet, tagATTR_ID_E enId, const tagKEYWORD_S<E> (&astWord)[N], E* penOut)
+bool osdAttrWord(const tagATTR_SET_S& stSet, tagATTR_ID_E enId, const tagKEYWORD_S<E> (&astWord)[N], E* penOut)
 {
-    return osdAttrIsThere(stSet, enId) ? osdKeywordFind(astWord, stSet.apstAttr[enId]->Value(), penOut) : -1;
+    return osdAttrIsThere(stSet, enId) && osdKeywordFind(astWord, stSet.apstAttr[enId]->Value(), penOut);
 }

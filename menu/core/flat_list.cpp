@@ -1,59 +1,29 @@
 #include "menu/core/flat_list.h"
 
-#include <algorithm>
-
+#include "menu/core/item.h"
 #include "menu/core/page.h"
 
-int32_t osdItemListCnt(const tagITEM_NODE_S* pstItem)
+void osdFlatAppend(tagITEM_NODE_S* pstItem, list_head* pstHead)
 {
-    return osdItemHasOptionLists(pstItem) ? std::min<int32_t>(pstItem->s32ValCnt, OSD_OPTION_MAX) : 0;
-}
-
-list_head* osdItemSubList(tagITEM_NODE_S* pstItem, int32_t s32Option)
-{
-    const bool bInRange = s32Option >= 0 && s32Option < OSD_OPTION_MAX && s32Option < pstItem->s32ValCnt;
-    return bInRange && osdItemHasOptionLists(pstItem) ? &pstItem->astSubList[s32Option] : nullptr;
-}
-
-const char (&osdItemOption(const tagITEM_NODE_S* pstItem, int32_t s32Option))[OSD_TEXT_LEN]
-{
-    static constexpr char acNone[OSD_TEXT_LEN] = "";
-    return s32Option >= 0 && s32Option < OSD_OPTION_MAX ? pstItem->acValue[s32Option] : acNone;
-}
-
-OSD_BOOL osdMenuHasSubItem(tagITEM_NODE_S* pstItemNode)
-{
-    if (pstItemNode->enValType == NUMERICAL) {
-        return 0;
-    }
-    const list_head* pstList = osdItemSubList(pstItemNode, pstItemNode->s32CurIdx);
-    return pstList != nullptr && !osdListEmpty(pstList) ? 1 : 0;
-}
-
-int osdMenuInsertItems2TmpList(tagITEM_NODE_S* pstItemNode, list_head* pstHead)
-{
-    osdListAddTail(&pstItemNode->stTmpNode, pstHead);
-    if (osdMenuHasSubItem(pstItemNode) == 0) {
-        return 0;
+    osdListAddTail(&pstItem->stTmpNode, pstHead);
+    if (!osdItemHasSubItems(pstItem)) {
+        return;
     }
     // sub-items behind a message wait with their option for the commit
-    const int32_t s32Option =
-        pstItemNode->enAttr == MSG_WITH_SUBITEM ? pstItemNode->s32SavedIdx : pstItemNode->s32CurIdx;
-    list_head* pstSubList = osdItemSubList(pstItemNode, s32Option);
-    if (pstSubList == nullptr) {
-        return 0;
+    list_head* pstSubList =
+        osdItemSubList(pstItem, pstItem->enAttr == MSG_WITH_SUBITEM ? pstItem->s32SavedIdx : pstItem->s32CurIdx);
+    if (pstSubList != nullptr) {
+        for (tagITEM_NODE_S* pstSub : osdItems(pstSubList)) {
+            osdFlatAppend(pstSub, pstHead);
+        }
     }
-    for (tagITEM_NODE_S* pstSub : osdItems(pstSubList)) {
-        (void)osdMenuInsertItems2TmpList(pstSub, pstHead); // always 0
-    }
-    return 0;
 }
 
 void osdPageFlatten(tagPAGE_NODE_S* pstPage, list_head* pstHead)
 {
     osdListInit(pstHead);
     for (tagITEM_NODE_S* pstItem : osdItems(&pstPage->stItemList)) {
-        (void)osdMenuInsertItems2TmpList(pstItem, pstHead); // always 0
+        osdFlatAppend(pstItem, pstHead);
     }
 }
 
@@ -126,7 +96,7 @@ static tagITEM_NODE_S* osdIconSelected(tagPAGE_NODE_S* pstPage)
     return nullptr;
 }
 
-tagITEM_NODE_S* osdMenuGetSelectedItem(tagPAGE_NODE_S* pstPage)
+tagITEM_NODE_S* osdPageSelected(tagPAGE_NODE_S* pstPage)
 {
     if (pstPage->enLayout == PAGE_LAYOUT_ICON) {
         return osdIconSelected(pstPage);
@@ -134,17 +104,4 @@ tagITEM_NODE_S* osdMenuGetSelectedItem(tagPAGE_NODE_S* pstPage)
     list_head stFlatList;
     osdPageFlatten(pstPage, &stFlatList);
     return osdFlatActive(&stFlatList);
-}
-
-OSD_BOOL osdMenuIsSubItemSelected(tagITEM_NODE_S* pstItemNode)
-{
-    if (osdMenuHasSubItem(pstItemNode) == 0) {
-        return 0;
-    }
-    for (const tagITEM_NODE_S* pstSub : osdItems(&pstItemNode->astSubList[pstItemNode->s32CurIdx])) {
-        if (pstSub->bActive == 1) {
-            return 1;
-        }
-    }
-    return 0;
 }

@@ -12,7 +12,7 @@ struct tagKEYWORD_S {
     E enValue;
 };
 
-inline constexpr tagKEYWORD_S<tagPAGE_LAYOUT_E> g_astLayoutWord[] = {
+inline constexpr tagKEYWORD_S<tagPAGE_LAYOUT_E> c_astLayoutWord[] = {
     {"icon", PAGE_LAYOUT_ICON},
     {"vertical_align", PAGE_LAYOUT_VERTICAL},
     {"horizontal_align", PAGE_LAYOUT_HORIZONTAL},
@@ -20,10 +20,10 @@ inline constexpr tagKEYWORD_S<tagPAGE_LAYOUT_E> g_astLayoutWord[] = {
     {"vertical_align_keth", PAGE_LAYOUT_VERTICAL_KETH},
     {"horizontal_align_keth", PAGE_LAYOUT_HORIZONTAL_KETH}};
 
-inline constexpr tagKEYWORD_S<tagPAGE_TITLE_POS_E> g_astTitlePosWord[] = {
+inline constexpr tagKEYWORD_S<tagPAGE_TITLE_POS_E> c_astTitlePosWord[] = {
     {"Left", PAGE_TITLE_LEFT}, {"Right", PAGE_TITLE_RIGHT}, {"Center", PAGE_TITLE_CENTER}};
 
-inline constexpr tagKEYWORD_S<tagITEM_CTX_E> g_astCtxWord[] = {{"ICON", ICON},
+inline constexpr tagKEYWORD_S<tagITEM_CTX_E> c_astCtxWord[] = {{"ICON", ICON},
                                                                {"ICON_TXT", ICON_TXT},
                                                                {"ICON_TXT_KETH", ICON_TXT_KETH},
                                                                {"NAME", NAME},
@@ -31,7 +31,7 @@ inline constexpr tagKEYWORD_S<tagITEM_CTX_E> g_astCtxWord[] = {{"ICON", ICON},
                                                                {"NAME_VAL", NAME_VAL},
                                                                {"NAME_IP_VAL", NAME_IP_VAL}};
 
-inline constexpr tagKEYWORD_S<tagITEM_ATTR_E> g_astAttrWord[] = {{"CONST_TXT", CONST_TXT},
+inline constexpr tagKEYWORD_S<tagITEM_ATTR_E> c_astAttrWord[] = {{"CONST_TXT", CONST_TXT},
                                                                  {"STATUS", STATUS},
                                                                  {"KEY_WITH_MSG", KEY_WITH_MSG},
                                                                  {"COMMON", COMMON},
@@ -43,23 +43,23 @@ inline constexpr tagKEYWORD_S<tagITEM_ATTR_E> g_astAttrWord[] = {{"CONST_TXT", C
                                                                  {"SUBPAGE", SUBPAGE},
                                                                  {"MSG_WITH_SUBITEM", MSG_WITH_SUBITEM}};
 
-inline constexpr tagKEYWORD_S<tagITEM_VAL_TYPE_E> g_astValTypeWord[] = {
+inline constexpr tagKEYWORD_S<tagITEM_VAL_TYPE_E> c_astValTypeWord[] = {
     {"NUMERICAL", NUMERICAL}, {"OPTTXT", OPTTXT}, {"EDITTXT", EDITTXT}};
 
-inline constexpr tagKEYWORD_S<tagITEM_PIC_TYPE_E> g_astPicTypeWord[] = {
+inline constexpr tagKEYWORD_S<tagITEM_PIC_TYPE_E> c_astPicTypeWord[] = {
     {"MAINTYPE", MAINTYPE}, {"SUBTYPE", SUBTYPE}, {"IPTYPE", IPTYPE}, {"CONFIRMTYPE", CONFIRMTYPE}};
 
-inline constexpr tagKEYWORD_S<tagITEM_POS_E> g_astItemPosWord[] = {{"Center", ITEM_POS_CENTER}};
+inline constexpr tagKEYWORD_S<tagITEM_POS_E> c_astItemPosWord[] = {{"Center", ITEM_POS_CENTER}};
 
-// Exact match; -1 leaves *penValue as it was.
+// Exact match; false leaves *penValue as it was.
 template <typename E, size_t N>
-int osdKeywordFind(const tagKEYWORD_S<E> (&astWord)[N], const char* pcWord, E* penValue)
+bool osdKeywordFind(const tagKEYWORD_S<E> (&astWord)[N], const char* pcWord, E* penValue)
 {
     for (const tagKEYWORD_S<E>& stWord : astWord) {
         if (osdTextEqual(stWord.pcWord, pcWord)) {
             *penValue = stWord.enValue;
-            return 0;
+            return true;
         }
     }
-    return -1;
+    return false;
 }

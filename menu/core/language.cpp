@@ -1,55 +1,53 @@
-
-#include "osd_page.h"
-#include <algorithm>
+#include "menu/core/language.h"
 
 #include "comm/log.h"
-#include "menu/core/flat_list.h"
+#include "menu/core/item.h"
+#include "menu/core/item_walk.h"
 #include "menu/core/page.h"
+#include "osd_page.h"
 #include "platform/config_call.h"
 
-// A text without translation keeps what the service made of it: the results are not read.
+// A text without translation keeps what the service made of it: no result is read here.
 static void osdLanguageOptions(const char* pcLanguage, tagITEM_NODE_S* pstItem)
 {
-    const int32_t s32Cnt = std::min<int32_t>(pstItem->s32ValCnt, OSD_OPTION_MAX);
+    const int32_t s32Cnt = osdItemOptionCnt(pstItem);
     for (int32_t i = 0; i < s32Cnt; i++) {
-        (void)osdCfgTranslate(pcLanguage, pstItem->acValueKey[i], pstItem->acValue[i]);
+        osdCfgTranslate(pcLanguage, pstItem->acValueKey[i], pstItem->acValue[i]);
     }
 }
 
-int osdMenuReplaceItemLang(char* pcLanguage, tagITEM_NODE_S* pstItemNode)
+void osdLanguageItem(const char* pcLanguage, tagITEM_NODE_S* pstItem)
 {
-    (void)osdCfgTranslate(pcLanguage, pstItemNode->acItemIndex, pstItemNode->acItemName);
-    if (pstItemNode->enCtx != NAME_BAR_VAL && pstItemNode->enCtx != NAME_VAL) {
-        return 0;
+    osdCfgTranslate(pcLanguage, pstItem->acItemIndex, pstItem->acItemName);
+    if (pstItem->enCtx != NAME_BAR_VAL && pstItem->enCtx != NAME_VAL) {
+        return;
     }
-    const tagITEM_ATTR_E enAttr = pstItemNode->enAttr;
-    if (enAttr == KEY_WITH_MSG || enAttr == MSG_WITH_SUBITEM) {
-        (void)osdCfgTranslate(pcLanguage, pstItemNode->acMsgKey, pstItemNode->acMsg);
-    } else if ((enAttr == COMMON || enAttr == CONFIRM_POP) && pstItemNode->enValType == OPTTXT) {
-        osdLanguageOptions(pcLanguage, pstItemNode);
+    if (osdItemWaits(pstItem)) {
+        osdCfgTranslate(pcLanguage, pstItem->acMsgKey, pstItem->acMsg);
+    } else if ((pstItem->enAttr == COMMON || pstItem->enAttr == CONFIRM_POP) && pstItem->enValType == OPTTXT) {
+        osdLanguageOptions(pcLanguage, pstItem);
     }
-    return 0;
 }
 
-static void osdLanguagePage(char* pcLanguage, tagPAGE_NODE_S* pstPage)
+static void osdLanguagePage(const char* pcLanguage, tagPAGE_NODE_S* pstPage)
 {
     if (pstPage->bTitle == 1) {
-        (void)osdCfgTranslate(pcLanguage, pstPage->acTitleKey, pstPage->acTitle);
+        osdCfgTranslate(pcLanguage, pstPage->acTitleKey, pstPage->acTitle);
     }
     for (tagITEM_NODE_S* pstItem : osdItems(&pstPage->stItemList)) {
-        (void)osdMenuReplaceItemLang(pcLanguage, pstItem); // always 0
+        osdLanguageItem(pcLanguage, pstItem);
     }
 }
 
-int osdMenuReparseParamByLang()
+bool osdLanguageTranslateAll()
 {
-    char acLanguage[OSD_TEXT_LEN];
-    if (osdCfgLanguage(acLanguage) != 0) {
-        OSD_TRACE_FAILED();
-        return -1;
+    OSD_TEXT acLanguage;
+    if (!osdCfgLanguage(acLanguage)) {
+        OSD_TRACE_FAILED(osdMenuReparseParamByLang);
+        return false;
     }
     for (int32_t i = 0; i < osdPageCnt(&gstPageMgr); i++) {
         osdLanguagePage(acLanguage, &gstPageMgr.astPage[i]);
     }
-    return 0;
+    return true;
 }

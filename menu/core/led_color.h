@@ -9,12 +9,12 @@ struct tagLED_BYTE_S {
     unsigned u32Shift;
 };
 
-inline constexpr tagLED_BYTE_S g_astLedByte[] = {{OSD_KEY_LED_RED, 16}, {OSD_KEY_LED_GREEN, 8}};
+inline constexpr tagLED_BYTE_S c_astLedByte[] = {{OSD_KEY_LED_RED, 16}, {OSD_KEY_LED_GREEN, 8}};
 
 // The byte that an item of this key shows, or null.
 inline const tagLED_BYTE_S* osdLedByteFind(const char* pcKey)
 {
-    for (const tagLED_BYTE_S& stByte : g_astLedByte) {
+    for (const tagLED_BYTE_S& stByte : c_astLedByte) {
         if (osdTextEqual(stByte.pcKey, pcKey)) {
             return &stByte;
         }

@@ -1,8 +1,7 @@
 #include "menu/core/page.h"
 
-#include <cstdlib>
-
-#include "menu/core/flat_list.h"
+#include "comm/list.h"
+#include "menu/core/item.h"
 
 tagPAGE_MGR_S gstPageMgr;
 
@@ -12,9 +11,15 @@ tagPAGE_NODE_S* osdPageTop(tagPAGE_MGR_S* pstMgr)
     return s32Cnt >= 1 ? &pstMgr->astPage[s32Cnt - 1] : nullptr;
 }
 
-tagPAGE_NODE_S* osdXmlGetCurPage() { return osdPageTop(&gstPageMgr); }
-
-OSD_ITEM_PTR osdItemNew() { return OSD_ITEM_PTR(static_cast<tagITEM_NODE_S*>(calloc(1, sizeof(tagITEM_NODE_S)))); }
+tagPAGE_NODE_S* osdPageBelow(const tagPAGE_NODE_S* pstPage)
+{
+    for (int32_t i = 1; i < osdPageCnt(&gstPageMgr); i++) {
+        if (pstPage == &gstPageMgr.astPage[i]) {
+            return &gstPageMgr.astPage[i - 1];
+        }
+    }
+    return nullptr;
+}
 
 static uint32_t gs_au32Filling[OSD_PAGE_MAX]; // grows whenever the items of that record go
 
@@ -36,23 +41,6 @@ tagPAGE_MARK_S osdPageMark(const tagPAGE_NODE_S* pstPage)
 
 bool osdPageHolds(const tagPAGE_MARK_S& stMark) { return osdPageMark(stMark.pstPage).u32Filling == stMark.u32Filling; }
 
-static void osdItemsRelease(list_head* pstHead)
-{
-    for (tagITEM_NODE_S* pstItem : osdItems(pstHead)) {
-        (void)osdMenuReleaseItem(pstItem); // always 0
-    }
-}
-
-int osdMenuReleaseItem(tagITEM_NODE_S* pstItemNode)
-{
-    const int32_t s32Lists = osdItemListCnt(pstItemNode);
-    for (int32_t i = 0; i < s32Lists; i++) {
-        osdItemsRelease(&pstItemNode->astSubList[i]);
-    }
-    free(pstItemNode);
-    return 0;
-}
-
 void osdPageDropItems(tagPAGE_NODE_S* pstPage)
 {
     uint32_t* pu32Filling = osdPageFilling(pstPage);
@@ -64,14 +52,12 @@ void osdPageDropItems(tagPAGE_NODE_S* pstPage)
     pstPage->s32ItemCnt = 0;
 }
 
-int osdMenuReleaseSinglePage()
+void osdPagePop()
 {
-    tagPAGE_NODE_S* pstPage = osdXmlGetCurPage();
-    if (pstPage == nullptr) {
-        return 0;
+    tagPAGE_NODE_S* pstPage = osdPageTop();
+    if (pstPage != nullptr) {
+        osdPageDropItems(pstPage);
+        *pstPage = {};
+        gstPageMgr.s32PageCnt = osdPageCnt(&gstPageMgr) - 1;
     }
-    osdPageDropItems(pstPage);
-    *pstPage = {};
-    gstPageMgr.s32PageCnt = osdPageCnt(&gstPageMgr) - 1;
-    return 0;
 }

@@ -1,10 +1,9 @@
-// The page stack and the life of items.
+// The stack of open pages.
 #pragma once
 
 #include <algorithm>
-#include <memory>
 
-#include "osd_page.h"
+#include "osd_records.h"
 
 // How many records of a stack hold pages, whatever its count says.
 inline int32_t osdPageCnt(const tagPAGE_MGR_S* pstMgr)
@@ -13,18 +12,16 @@ inline int32_t osdPageCnt(const tagPAGE_MGR_S* pstMgr)
 }
 
 // The top page of a stack, or null with no page open.
-tagPAGE_NODE_S* osdPageTop(tagPAGE_MGR_S* pstMgr);
+tagPAGE_NODE_S* osdPageTop(tagPAGE_MGR_S* pstMgr = &gstPageMgr);
 
-struct OSD_ITEM_RELEASE {
-    void operator()(tagITEM_NODE_S* pstItem) const
-    {
-        (void)osdMenuReleaseItem(pstItem); // always 0
-    }
-};
-using OSD_ITEM_PTR = std::unique_ptr<tagITEM_NODE_S, OSD_ITEM_RELEASE>;
+// The open page directly below, or null.
+tagPAGE_NODE_S* osdPageBelow(const tagPAGE_NODE_S* pstPage);
 
-// A zero-filled item, or null.
-OSD_ITEM_PTR osdItemNew();
+// Frees the top page's items, clears its record and lowers the page count; nothing happens with no page open.
+void osdPagePop();
+
+// Frees a page's items; the record stays in use with an empty list.
+void osdPageDropItems(tagPAGE_NODE_S* pstPage);
 
 // Names one filling of a page record: while the page still holds it, the page's items are alive.
 struct tagPAGE_MARK_S {
@@ -37,6 +34,3 @@ tagPAGE_MARK_S osdPageMark(const tagPAGE_NODE_S* pstPage);
 
 // Whether the page's items are still those of the mark. The host's function may close and rebuild pages inside a key.
 bool osdPageHolds(const tagPAGE_MARK_S& stMark);
-
-// Frees a page's items; the record stays in use with an empty list.
-void osdPageDropItems(tagPAGE_NODE_S* pstPage);

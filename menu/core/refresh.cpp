@@ -1,63 +1,63 @@
-// Reading the top page's values again, on the host's request.
+#include "menu/core/refresh.h"
+
 #include "comm/text.h"
-#include "menu/core/flat_list.h"
+#include "menu/core/canvas.h"
+#include "menu/core/item.h"
+#include "menu/core/item_walk.h"
 #include "menu/core/page.h"
 #include "menu/core/page_parse.h"
 #include "menu/core/value_bind.h"
-#include "osd_page.h"
 
-int OSD_MENU_RefreshCurrentPage()
+bool osdRefreshPageFile()
 {
-    tagPAGE_NODE_S* pstPage = osdXmlGetCurPage();
+    tagPAGE_NODE_S* pstPage = osdPageTop();
     if (pstPage == nullptr) {
-        return -1;
+        return false;
     }
-    char acName[OSD_TEXT_LEN];
+    OSD_TEXT acName;
     osdTextSetField(acName, pstPage->acPageName); // the parse clears the record
     osdPageDropItems(pstPage);
-    (void)osdPageParse(acName, pstPage); // a page that can't be parsed shows what it has
-    (void)OSD_MENU_RenderCanvas();
-    return 0;
+    osdPageParse(acName, pstPage); // a page that can't be parsed shows what it has
+    osdCanvasRender();
+    return true;
 }
 
-static void osdItemRefresh(tagITEM_NODE_S* pstItem)
+static void osdRefreshItem(tagITEM_NODE_S* pstItem)
 {
-    (void)osdMenuGetItemValue(pstItem); // always 0
-    if (osdMenuHasSubItem(pstItem) == 1) {
-        (void)osdMenuUpdateSubItems(pstItem); // 0, as there are sub-items
+    osdValueRead(pstItem);
+    if (osdItemHasSubItems(pstItem)) {
+        osdValueReadSubItems(pstItem);
     }
 }
 
-int OSD_MENU_RefreshItem(char* pcItemIndex)
+void osdRefreshKey(const char* pcItemIndex)
 {
-    tagPAGE_NODE_S* pstPage = osdXmlGetCurPage();
+    tagPAGE_NODE_S* pstPage = osdPageTop();
     if (pstPage == nullptr) {
-        return 0;
+        return;
     }
     bool bFound = false;
     for (tagITEM_NODE_S* pstItem : osdItems(&pstPage->stItemList)) {
         if (osdTextEqual(pstItem->acItemIndex, pcItemIndex)) {
-            osdItemRefresh(pstItem);
+            osdRefreshItem(pstItem);
             bFound = true;
         }
     }
     if (bFound) {
-        (void)OSD_MENU_RenderCanvas();
+        osdCanvasRender();
     }
-    return 0;
 }
 
-int OSD_MENU_RefreshPage()
+void osdRefreshPage()
 {
-    tagPAGE_NODE_S* pstPage = osdXmlGetCurPage();
+    tagPAGE_NODE_S* pstPage = osdPageTop();
     if (pstPage == nullptr) {
-        return 0;
+        return;
     }
     for (tagITEM_NODE_S* pstItem : osdItems(&pstPage->stItemList)) {
-        osdItemRefresh(pstItem);
+        osdRefreshItem(pstItem);
         if (pstItem->enAttr == CONFIRM_POP_BTN) {
-            break;
+            return;
         }
     }
-    return 0;
 }

@@ -3,9 +3,12 @@
 #include <algorithm>
 
 #include "comm/log.h"
-#include "menu/core/attr.h"
-#include "menu/core/flat_list.h"
+#include "menu/core/item.h"
+#include "menu/core/item_walk.h"
 #include "menu/core/led_color.h"
+#include "menu/core/value_status.h"
+#include "osd_page.h"
+#include "osd_xml.h"
 #include "platform/config_call.h"
 
 // The parent key of a lookup, or null for a lookup without one.
@@ -38,9 +41,9 @@ static tagCFG_VALUE_INT_S osdBindInt(const char* pcParent, const tagITEM_NODE_S*
 // Every option whose key equals the value takes the index, so the last of equal keys wins.
 static void osdBindSelect(tagITEM_NODE_S* pstItem, const tagCFG_VALUE_TXT_S& stTxt)
 {
-    char acValue[OSD_TEXT_LEN];
+    OSD_TEXT acValue;
     osdTextSetField(acValue, stTxt.acValue);
-    const int32_t s32Cnt = std::min<int32_t>(pstItem->s32ValCnt, OSD_OPTION_MAX);
+    const int32_t s32Cnt = osdItemOptionCnt(pstItem);
     for (int32_t i = 0; i < s32Cnt; i++) {
         if (osdTextEqual(pstItem->acValueKey[i], acValue)) {
             pstItem->s32CurIdx = i;
@@ -58,7 +61,7 @@ static void osdBindOptions(const char* pcLanguage, tagITEM_NODE_S* pstItem, cons
         const char* pcEnd = std::find(pcPiece, pcListEnd, ':');
         const int32_t s32Option = pstItem->s32ValCnt;
         osdTextCopy(pstItem->acValueKey[s32Option], OSD_TEXT_LEN, pcPiece, static_cast<size_t>(pcEnd - pcPiece));
-        (void)osdCfgTranslate(pcLanguage, pstItem->acValueKey[s32Option], pstItem->acValue[s32Option]);
+        osdCfgTranslate(pcLanguage, pstItem->acValueKey[s32Option], pstItem->acValue[s32Option]);
         pstItem->s32ValCnt++;
         if (pcEnd == pcListEnd) {
             return;
@@ -89,139 +92,118 @@ static void osdBindValue(const char* pcLanguage, const char* pcParent, tagITEM_N
     osdBindSelect(pstItem, stTxt);
 }
 
-static int osdBindButton(const char* pcLanguage, const tagATTR_SET_S& stSet, tagITEM_NODE_S* pstItem)
-{
-    if (osdAttrReqText(stSet, ATTR_VALUE, pstItem->acValueKey[0]) != 0) {
-        return -1;
-    }
-    (void)osdCfgTranslate(pcLanguage, pstItem->acValueKey[0], pstItem->acValue[0]);
-    if (pstItem->enAttr == CONFIRM_POP && osdAttrReqText(stSet, ATTR_CONFIRM_PAGE, pstItem->acConfirmPage) != 0) {
-        OSD_TRACE_FAILED();
-        return -1;
-    }
-    pstItem->s32CurIdx = 0;
-    pstItem->s32SavedIdx = 0;
-    pstItem->s32ValCnt = 1;
-    return 0;
-}
-
-static void osdBindEditable(const char* pcParent, tagITEM_NODE_S* pstItem)
+static void osdBindAddress(const char* pcParent, tagITEM_NODE_S* pstItem)
 {
     const tagCFG_VALUE_TXT_S stTxt = osdBindTxt(pcParent, pstItem->acItemIndex);
     osdTextSetField(pstItem->acValue[0], stTxt.acValue);
     osdTextSetField(pstItem->acValue[1], stTxt.acValue);
 }
 
-int osdXmlFillItemParam(char* pcLanguage, tinyxml2::XMLElement* pstElem, tagITEM_NODE_S* pstItemNode)
+static bool osdBindButton(const char* pcLanguage, const tagATTR_SET_S& stSet, tagITEM_NODE_S* pstItem)
 {
-    return osdValueBind(pcLanguage, osdAttrCollect(pstElem), pstItemNode);
+    if (!osdAttrReqText(stSet, ATTR_VALUE, pstItem->acValueKey[0])) {
+        return false;
+    }
+    osdCfgTranslate(pcLanguage, pstItem->acValueKey[0], pstItem->acValue[0]);
+    if (pstItem->enAttr == CONFIRM_POP && !osdAttrReqText(stSet, ATTR_CONFIRM_PAGE, pstItem->acConfirmPage)) {
+        OSD_TRACE_FAILED(osdXmlFillItemParam);
+        return false;
+    }
+    pstItem->s32CurIdx = 0;
+    pstItem->s32SavedIdx = 0;
+    pstItem->s32ValCnt = 1;
+    return true;
 }
 
-int osdValueBind(char* pcLanguage, const tagATTR_SET_S& stSet, tagITEM_NODE_S* pstItemNode)
+bool osdValueBind(const char* pcLanguage, const tagATTR_SET_S& stSet, tagITEM_NODE_S* pstItem)
 {
-    if (!osdContextHasValue(pstItemNode->enCtx)) {
-        return 0;
+    if (!osdItemHasValue(pstItem)) {
+        return true;
     }
-    const char* pcParent = osdBindParent(pstItemNode->acDataZone); // asked once, whatever the kind
-    switch (pstItemNode->enAttr) {
+    const char* pcParent = osdBindParent(pstItem->acDataZone); // asked once, whatever the kind
+    switch (pstItem->enAttr) {
     case CONFIRM:
     case CONFIRM_POP:
-        return osdBindButton(pcLanguage, stSet, pstItemNode);
+        return osdBindButton(pcLanguage, stSet, pstItem);
     case SUBITEM:
     case MSG_WITH_SUBITEM: // the options came from the page file
-        osdBindSelect(pstItemNode, osdBindTxt(pcParent, pstItemNode->acItemIndex));
-        return 0;
+        osdBindSelect(pstItem, osdBindTxt(pcParent, pstItem->acItemIndex));
+        break;
     case KEY_WITH_MSG:
     case COMMON:
-        osdBindValue(pcLanguage, pcParent, pstItemNode);
-        return 0;
+        osdBindValue(pcLanguage, pcParent, pstItem);
+        break;
     case EDITABLE:
-        osdBindEditable(pcParent, pstItemNode);
-        return 0;
+        osdBindAddress(pcParent, pstItem);
+        break;
     case STATUS:
-        return osdXmlParseStatusParam(pcLanguage, pstItemNode);
+        osdStatusRead(pcLanguage, pstItem);
+        break;
     case CONST_TXT:
     case CONFIRM_POP_BTN:
     case SUBPAGE:
     case MSG_LINE:
     case TITLE_LINE:
-        return 0;
+        break;
     }
-    return 0;
+    return true;
 }
 
-int osdMenuGetItemValue(tagITEM_NODE_S* pstItemNode)
+void osdValueRead(tagITEM_NODE_S* pstItem)
 {
-    if (pstItemNode->enValType == NUMERICAL) {
-        pstItemNode->s32Cur = osdBindInt(osdBindParent(pstItemNode->acDataZone), pstItemNode).s32Cur;
-        pstItemNode->s32Saved = pstItemNode->s32Cur;
-    } else if (pstItemNode->enValType == OPTTXT) {
-        osdBindSelect(pstItemNode, osdBindTxt(osdBindParent(pstItemNode->acDataZone), pstItemNode->acItemIndex));
+    if (pstItem->enValType == NUMERICAL) {
+        pstItem->s32Cur = osdBindInt(osdBindParent(pstItem->acDataZone), pstItem).s32Cur;
+        pstItem->s32Saved = pstItem->s32Cur;
+    } else if (pstItem->enValType == OPTTXT) {
+        osdBindSelect(pstItem, osdBindTxt(osdBindParent(pstItem->acDataZone), pstItem->acItemIndex));
     }
-    return 0;
 }
 
-void osdXmlFillEditableValue(tagITEM_NODE_S* pstItemNode)
-{
-    osdBindEditable(osdBindParent(pstItemNode->acDataZone), pstItemNode);
-}
+void osdValueReadAddress(tagITEM_NODE_S* pstItem) { osdBindAddress(osdBindParent(pstItem->acDataZone), pstItem); }
 
-static void osdBindSubItems(tagITEM_NODE_S* pstItem)
+void osdValueReadSubItem(tagITEM_NODE_S* pstItem)
 {
-    list_head* pstSubList = osdItemSubList(pstItem, pstItem->s32CurIdx);
-    if (pstSubList == nullptr) {
+    if (!osdItemHasValue(pstItem)) {
         return;
     }
-    for (tagITEM_NODE_S* pstSub : osdItems(pstSubList)) {
-        (void)osdXmlFillItemOfSubItem(pstSub); // always 0
+    if (pstItem->enAttr == COMMON) {
+        osdValueRead(pstItem);
+    } else if (pstItem->enAttr == EDITABLE) {
+        osdValueReadAddress(pstItem);
+    } else if (osdItemHasOptionLists(pstItem)) {
+        osdValueRead(pstItem);
+        list_head* pstSubList = osdItemSubList(pstItem, pstItem->s32CurIdx); // of the option just read
+        if (pstSubList != nullptr) {
+            for (tagITEM_NODE_S* pstSub : osdItems(pstSubList)) {
+                osdValueReadSubItem(pstSub);
+            }
+        }
     }
 }
 
-int osdXmlFillItemOfSubItem(tagITEM_NODE_S* pstItemNode)
+bool osdValueReadSubItems(tagITEM_NODE_S* pstItem)
 {
-    if (!osdContextHasValue(pstItemNode->enCtx)) {
-        return 0;
+    list_head* pstSubList = osdItemSubList(pstItem, pstItem->s32CurIdx);
+    if (pstSubList != nullptr) {
+        for (tagITEM_NODE_S* pstSub : osdItems(pstSubList)) {
+            osdTrace("[%s:%d] INDEX %s \n", OSD_PLACE(osdMenuUpdateSubItems), pstSub->acItemIndex);
+            osdValueReadSubItem(pstSub);
+        }
     }
-    if (pstItemNode->enAttr == COMMON) {
-        (void)osdMenuGetItemValue(pstItemNode); // always 0
-    } else if (pstItemNode->enAttr == EDITABLE) {
-        osdXmlFillEditableValue(pstItemNode);
-    } else if (osdItemHasOptionLists(pstItemNode)) {
-        (void)osdMenuGetItemValue(pstItemNode);
-        osdBindSubItems(pstItemNode); // of the option just read
-    }
-    return 0;
+    return osdItemHasOptionLists(pstItem);
 }
 
-int osdMenuUpdateSubItems(tagITEM_NODE_S* pstItemNode)
+tagVALUE_TEXT_S osdValueText(const char* pcKey, const char* pcDataZone)
 {
-    if (!osdItemHasOptionLists(pstItemNode)) {
-        return -1;
-    }
-    list_head* pstSubList = osdItemSubList(pstItemNode, pstItemNode->s32CurIdx);
-    if (pstSubList == nullptr) {
-        return 0;
-    }
-    for (tagITEM_NODE_S* pstSub : osdItems(pstSubList)) {
-        osdTrace("[%s:%d] INDEX %s \n", OSD_PLACE, pstSub->acItemIndex);
-        (void)osdXmlFillItemOfSubItem(pstSub); // always 0
-    }
-    return 0;
+    tagVALUE_TEXT_S stText = {};
+    osdTextSetField(stText.acText, osdBindTxt(osdBindParent(pcDataZone), pcKey).acValue);
+    return stText;
 }
 
-int osdMenuGetTxtValue(char* pcKey, char* pcDataZone, char* pcOut)
+void osdValueTranslated(const char* pcLanguage, tagITEM_NODE_S* pstItem)
 {
-    const tagCFG_VALUE_TXT_S stTxt = osdBindTxt(osdBindParent(pcDataZone), pcKey);
-    osdTextCopy(pcOut, sizeof(stTxt.acValue), stTxt.acValue, sizeof(stTxt.acValue));
-    return 0;
-}
-
-int osdMenuGetTranslatedValue(tagITEM_NODE_S* pstItemNode, char* pcLanguage)
-{
-    char acValue[OSD_CFG_VALUE_LEN] = {};
-    (void)osdMenuGetTxtValue(pstItemNode->acItemIndex, pstItemNode->acDataZone, acValue); // always 0
-    if (osdCfgTranslate(pcLanguage, acValue, pstItemNode->acValue[0]) != 0) {
-        osdTextSet(pstItemNode->acValue[0], acValue);
+    const tagVALUE_TEXT_S stText = osdValueText(pstItem->acItemIndex, pstItem->acDataZone);
+    if (!osdCfgTranslate(pcLanguage, stText.acText, pstItem->acValue[0])) {
+        osdTextSet(pstItem->acValue[0], stText.acText);
     }
-    return 0;
 }

@@ -1,7 +1,8 @@
-// Texts of STATUS items: each key has one fixed source.
+#include "menu/core/value_status.h"
+
 #include "comm/text.h"
-#include "menu/core/value_bind.h"
 #include "menu/core/words.h"
+#include "osd_menu.h"
 #include "platform/config_call.h"
 
 struct tagSTATUS_SOURCE_S;
@@ -35,7 +36,7 @@ static void osdStatusTranslated(const tagSTATUS_SOURCE_S& stSource, const char* 
 {
     tagOSD_MENU_CONTROL_PARAM_S stAnswer;
     osdStatusAsk(stSource.enEvent, &stAnswer);
-    (void)osdCfgTranslate(pcLanguage, stAnswer.acText, acText);
+    osdCfgTranslate(pcLanguage, stAnswer.acText, acText);
 }
 
 static void osdStatusFromConfig(const tagSTATUS_SOURCE_S& stSource, const char* /*pcLanguage*/, OSD_TEXT& acText)
@@ -52,22 +53,22 @@ static void osdStatusFromDevice(const tagSTATUS_SOURCE_S& /*stSource*/, const ch
     osdTextSetField(acText, stAttr.acDeviceType);
 }
 
-static constexpr tagOSD_MENU_GET_EVENT_E gs_enNoEvent = OSD_MENU_GET_AF_VERSION; // where the source is another
+static constexpr tagOSD_MENU_GET_EVENT_E c_enNoEvent = OSD_MENU_GET_AF_VERSION; // where the source is another
 
-static constexpr tagSTATUS_SOURCE_S gs_astStatusSource[] = {
+static constexpr tagSTATUS_SOURCE_S c_astStatusSource[] = {
     {"FwVersion", osdStatusFromHost, OSD_MENU_GET_FW_VERSION, nullptr},
     {"IspVersion", osdStatusFromHost, OSD_MENU_GET_ISP_VERSION, nullptr},
     {"AfVersion", osdStatusFromHost, OSD_MENU_GET_AF_VERSION, nullptr},
     {"AiVersion", osdStatusFromHost, OSD_MENU_GET_AI_VERSION, nullptr},
     {"VideoFormat", osdStatusFromHost, OSD_MENU_GET_VIDEO_FORMAT, nullptr},
-    {OSD_KEY_IP_ADDR, osdStatusFromConfig, gs_enNoEvent, "NetCard0"},
-    {"NetMask", osdStatusFromConfig, gs_enNoEvent, "NetCard0"},
-    {"GateWay", osdStatusFromConfig, gs_enNoEvent, "NetCard0"},
-    {"Dns1", osdStatusFromConfig, gs_enNoEvent, "NetCard0"},
-    {"Dns2", osdStatusFromConfig, gs_enNoEvent, "NetCard0"},
-    {"IrisLevel", osdStatusFromConfig, gs_enNoEvent, "Panorama"},
+    {OSD_KEY_IP_ADDR, osdStatusFromConfig, c_enNoEvent, "NetCard0"},
+    {"NetMask", osdStatusFromConfig, c_enNoEvent, "NetCard0"},
+    {"GateWay", osdStatusFromConfig, c_enNoEvent, "NetCard0"},
+    {"Dns1", osdStatusFromConfig, c_enNoEvent, "NetCard0"},
+    {"Dns2", osdStatusFromConfig, c_enNoEvent, "NetCard0"},
+    {"IrisLevel", osdStatusFromConfig, c_enNoEvent, "Panorama"},
     {"DeviceName", osdStatusFromHost, OSD_MENU_GET_DEVICE_NAME, nullptr},
-    {"DeviceType", osdStatusFromDevice, gs_enNoEvent, nullptr},
+    {"DeviceType", osdStatusFromDevice, c_enNoEvent, nullptr},
     {"SN", osdStatusFromHost, OSD_MENU_GET_SN, nullptr},
     {"Mac", osdStatusFromHost, OSD_MENU_GET_MAC, nullptr},
     {"NdiVersion", osdStatusFromHost, OSD_MENU_GET_NDI_VERSION, nullptr},
@@ -75,16 +76,15 @@ static constexpr tagSTATUS_SOURCE_S gs_astStatusSource[] = {
     {"NdiStatus", osdStatusTranslated, OSD_MENU_GET_NDI_STATUS, nullptr},
     {OSD_KEY_LED_COLOR, osdStatusFromHost, OSD_MENU_GET_LED_CUSTOM_COLOR, nullptr}};
 
-int osdXmlParseStatusParam(char* pcLanguage, tagITEM_NODE_S* pstItemNode)
+void osdStatusRead(const char* pcLanguage, tagITEM_NODE_S* pstItem)
 {
     OSD_TEXT acText = "";
-    for (const tagSTATUS_SOURCE_S& stSource : gs_astStatusSource) {
-        if (osdTextEqual(stSource.pcKey, pstItemNode->acItemIndex)) {
+    for (const tagSTATUS_SOURCE_S& stSource : c_astStatusSource) {
+        if (osdTextEqual(stSource.pcKey, pstItem->acItemIndex)) {
             stSource.pfnFill(stSource, pcLanguage, acText);
             break;
         }
     }
-    pstItemNode->s32ValCnt = 1;
-    osdTextSet(pstItemNode->acValue[0], acText);
-    return 0;
+    pstItem->s32ValCnt = 1;
+    osdTextSet(pstItem->acValue[0], acText);
 }

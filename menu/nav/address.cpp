@@ -6,16 +6,18 @@
 #include <cstdlib>
 
 #include "comm/arith.h"
+#include "comm/log.h"
 #include "comm/text.h"
 #include "menu/core/flat_list.h"
 #include "menu/core/page.h"
 #include "menu/nav/stack.h"
+#include "osd_page.h"
 
-static constexpr int gs_s32AddressGroups = 4;
-static constexpr size_t gs_u32AddressSize = 31; // with the end, in a field of 32
+static constexpr int c_s32AddressGroups = 4;
+static constexpr size_t c_uAddressSize = 31; // with the end, in a field of 32
 
 // Decimal numbers with dots between them; the reading ends where the text is something else.
-static void osdAddressRead(const char* pcData, int (&as32Group)[gs_s32AddressGroups])
+static void osdAddressRead(const char* pcData, int (&as32Group)[c_s32AddressGroups])
 {
     for (int& s32Group : as32Group) {
         char* pcEnd = nullptr;
@@ -33,43 +35,41 @@ static void osdAddressRead(const char* pcData, int (&as32Group)[gs_s32AddressGro
 
 static void osdAddressRewrite(char* pcData, int s32Digits)
 {
-    int as32Group[gs_s32AddressGroups] = {};
+    int as32Group[c_s32AddressGroups] = {};
     osdAddressRead(pcData, as32Group);
-    char acText[OSD_TEXT_LEN] = {};
-    (void)snprintf(acText, gs_u32AddressSize, "%0*d.%0*d.%0*d.%0*d", s32Digits, as32Group[0], s32Digits, as32Group[1],
+    OSD_TEXT acText = "";
+    (void)snprintf(acText, c_uAddressSize, "%0*d.%0*d.%0*d.%0*d", s32Digits, as32Group[0], s32Digits, as32Group[1],
                    s32Digits, as32Group[2], s32Digits, as32Group[3]); // numbers beyond an address are cut
     memcpy(pcData, acText, strlen(acText) + 1);
 }
 
-int osdMenuExpandNetworkData(char* pcData)
-{
-    osdAddressRewrite(pcData, 3);
-    return 0;
-}
+void osdAddressExpand(char* pcData) { osdAddressRewrite(pcData, 3); }
 
-int osdMenuFoldNetworkData(char* pcData)
-{
-    osdAddressRewrite(pcData, 1);
-    return 0;
-}
+void osdAddressFold(char* pcData) { osdAddressRewrite(pcData, 1); }
 
 void osdAddressToggle(tagITEM_NODE_S* pstItem)
 {
     pstItem->s32EditCursor = 0;
     if (pstItem->bEditing == 1) {
         pstItem->bEditing = 0;
-        (void)osdMenuFoldNetworkData(pstItem->acValue[1]); // always 0
+        osdAddressFold(pstItem->acValue[1]);
     } else {
         pstItem->bEditing = 1;
-        (void)osdMenuExpandNetworkData(pstItem->acValue[1]); // always 0
+        osdAddressExpand(pstItem->acValue[1]);
     }
 }
 
-OSD_BOOL osdMenuIsItemEditing()
+// The selected item of the top page, or null.
+static tagITEM_NODE_S* osdAddressSelected(const char* pcFunc)
 {
-    tagPAGE_NODE_S* pstPage = osdXmlGetCurPage();
-    const tagITEM_NODE_S* pstItem = pstPage != nullptr ? osdStackSelected(pstPage) : nullptr;
-    return pstItem != nullptr && pstItem->bActive == 1 && pstItem->enAttr == EDITABLE && pstItem->bEditing == 1 ? 1 : 0;
+    tagPAGE_NODE_S* pstPage = osdPageTop();
+    return pstPage != nullptr ? osdStackSelected(pstPage, pcFunc) : nullptr;
+}
+
+bool osdAddressIsEdited()
+{
+    const tagITEM_NODE_S* pstItem = osdAddressSelected(OSD_NAME(osdMenuIsItemEditing));
+    return pstItem != nullptr && pstItem->bActive == 1 && pstItem->enAttr == EDITABLE && pstItem->bEditing == 1;
 }
 
 // The edit cursor one place on, past a dot and from one end to the other.
@@ -96,21 +96,20 @@ static char osdAddressTurn(char cDigit, int s32Step)
     return static_cast<char>('0' + (cDigit - '0' + s32Step + 10) % 10);
 }
 
-static void osdAddressTurnAt(char (&acText)[OSD_TEXT_LEN], int32_t s32Cursor, int s32Step)
+static void osdAddressTurnAt(OSD_TEXT& acText, int32_t s32Cursor, int s32Step)
 {
     if (s32Cursor >= 0 && s32Cursor < OSD_TEXT_LEN) {
         acText[s32Cursor] = osdAddressTurn(acText[s32Cursor], s32Step);
     }
 }
 
-int osdMenuEditableItemKeyEvent(tagOSD_MENU_KEY_E enKey)
+bool osdAddressKey(tagOSD_MENU_KEY_E enKey)
 {
-    tagPAGE_NODE_S* pstPage = osdXmlGetCurPage();
-    tagITEM_NODE_S* pstItem = pstPage != nullptr ? osdStackSelected(pstPage) : nullptr;
+    tagITEM_NODE_S* pstItem = osdAddressSelected(OSD_NAME(osdMenuEditableItemKeyEvent));
     if (pstItem == nullptr) {
-        return -1;
+        return false;
     }
-    (void)osdMenuExpandNetworkData(pstItem->acValue[1]); // always 0
+    osdAddressExpand(pstItem->acValue[1]);
     switch (enKey) {
     case OSD_MENU_KEY_LEFT:
     case OSD_MENU_KEY_RIGHT:
@@ -123,28 +122,27 @@ int osdMenuEditableItemKeyEvent(tagOSD_MENU_KEY_E enKey)
         osdAddressTurnAt(pstItem->acValue[1], pstItem->s32EditCursor, -1);
         break;
     }
-    return 0;
+    return true;
 }
 
-OSD_BOOL osdMenuExitEditableStatus(tagPAGE_MGR_S* pstMgr)
+bool osdAddressDrop(tagPAGE_MGR_S* pstMgr)
 {
     tagPAGE_NODE_S* pstPage = osdPageTop(pstMgr);
-    tagITEM_NODE_S* pstItem = pstPage != nullptr ? osdMenuGetSelectedItem(pstPage) : nullptr;
+    tagITEM_NODE_S* pstItem = pstPage != nullptr ? osdPageSelected(pstPage) : nullptr;
     if (pstItem == nullptr || pstItem->bEditing != 1) {
-        return 0;
+        return false;
     }
     pstItem->s32EditCursor = 0;
     pstItem->bEditing = 0;
     osdTextSetField(pstItem->acValue[1], pstItem->acValue[0]);
-    return 1;
+    return true;
 }
 
-int osdMenuCalcInfoBeforeCursor(tagITEM_NODE_S* pstItemNode, int* ps32Digits, int* ps32Dots)
+tagADDRESS_COUNT_S osdAddressCount(const tagITEM_NODE_S* pstItem)
 {
-    const char* pcText = pstItemNode->acValue[1];
-    const int32_t s32Cnt = std::clamp<int32_t>(pstItemNode->s32EditCursor, -1, OSD_TEXT_LEN - 2) + 1;
+    const char* pcText = pstItem->acValue[1];
+    const int32_t s32Cnt = std::clamp<int32_t>(pstItem->s32EditCursor, -1, OSD_TEXT_LEN - 2) + 1;
     const char* pcEnd = std::find(pcText, pcText + s32Cnt, '\0');
-    *ps32Digits = static_cast<int>(std::count_if(pcText, pcEnd, [](char c) { return c >= '0' && c <= '9'; }));
-    *ps32Dots = static_cast<int>(std::count(pcText, pcEnd, '.'));
-    return 0;
+    return {static_cast<int>(std::count_if(pcText, pcEnd, [](char c) { return c >= '0' && c <= '9'; })),
+            static_cast<int>(std::count(pcText, pcEnd, '.'))};
 }

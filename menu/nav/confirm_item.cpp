@@ -1,92 +1,92 @@
-// Confirmed items: "Yes" hands the parent item itself to the host, and its button says how far that is.
-#include "osd_page.h"
+#include "menu/nav/confirm_item.h"
+
 #include <unistd.h>
 
 #include "comm/log.h"
 #include "comm/text.h"
+#include "menu/core/canvas.h"
+#include "menu/core/change.h"
 #include "menu/core/flat_list.h"
+#include "menu/core/refresh.h"
 #include "menu/core/words.h"
-#include "menu/nav/change.h"
-#include "menu/nav/stack.h"
+#include "menu/nav/button.h"
+#include "osd_page.h"
 #include "platform/config_call.h"
 
-static constexpr unsigned gs_u32ConfirmSeconds = 1; // so long the person sees what the button says
+static constexpr unsigned c_u32ConfirmSeconds = 1; // so long the person sees what the button says
 
 // Parent items whose button says "Finish" while the host works.
-static constexpr const char* gs_apcFinishKey[] = {OSD_KEY_FACTORY_RESTORE, OSD_KEY_RESTART, OSD_KEY_LENS_CORRECTION};
+static constexpr const char* c_apcFinishKey[] = {OSD_KEY_FACTORY_RESTORE, OSD_KEY_RESTART, OSD_KEY_LENS_CORRECTION};
 
-struct tagCONFIRM_PARENT_S {
-    tagITEM_NODE_S* pstItem; // null without a parent page or a selected item on it
-    tagPAGE_MARK_S stMark;
+struct tagCONFIRM_S {
+    tagITEM_NODE_S* pstItem; // the parent item; null without a parent page or a selected item on it
+    tagPAGE_MARK_S stMark;   // of the parent page
+    bool bFinish;            // the button says "Finish" while the host works; else the page is read again afterwards
+    const char* pcFunc;
 };
 
-static tagCONFIRM_PARENT_S osdConfirmParent(tagPAGE_NODE_S* pstPage)
+static tagCONFIRM_S osdConfirmOf(const tagPAGE_NODE_S* pstPage, bool bFinish, const char* pcFunc)
 {
-    tagPAGE_NODE_S* pstParent = osdMenuGetPrevPage(pstPage);
-    return {pstParent != nullptr ? osdMenuGetSelectedItem(pstParent) : nullptr, osdPageMark(pstParent)};
+    tagPAGE_NODE_S* pstParent = osdPageBelow(pstPage);
+    return {pstParent != nullptr ? osdPageSelected(pstParent) : nullptr, osdPageMark(pstParent), bFinish, pcFunc};
 }
 
 // Hands the parent item on and holds the key for a second; the item gets the text that its button shows then.
-static void osdConfirmRun(const tagCONFIRM_PARENT_S& stParent, const char (&acText)[OSD_TEXT_LEN])
+static void osdConfirmRun(const tagCONFIRM_S& stConfirm, const OSD_TEXT& acText)
 {
-    const bool bAlive = stParent.pstItem != nullptr && osdItemSurvives(stParent.stMark, stParent.pstItem);
-    (void)sleep(gs_u32ConfirmSeconds); // a signal may shorten it
+    const bool bAlive = stConfirm.pstItem != nullptr && osdItemSurvives(stConfirm.stMark, stConfirm.pstItem);
+    (void)sleep(c_u32ConfirmSeconds); // a signal may shorten it
     if (bAlive) {
-        osdButtonSet(stParent.pstItem, acText);
+        osdButtonSet(stConfirm.pstItem, acText);
     }
 }
 
-static void osdConfirmDrop(const tagCONFIRM_PARENT_S& stParent, const char (&acText)[OSD_TEXT_LEN])
+static void osdConfirmYes(const tagCONFIRM_S& stConfirm, const OSD_TEXT& acConfirm, const OSD_TEXT& acFinish)
 {
-    osdButtonSet(stParent.pstItem, acText);
-    (void)osdMenuReleaseSinglePage(); // always 0
-    (void)OSD_MENU_RenderCanvas();    // reports its own failures
+    if (stConfirm.bFinish) {
+        osdButtonSet(stConfirm.pstItem, acFinish);
+        osdPagePop();
+        osdCanvasRender();
+        osdConfirmRun(stConfirm, acConfirm);
+    } else {
+        osdPagePop(); // the screen shows the confirm page until all is done
+        osdConfirmRun(stConfirm, acConfirm);
+        osdRefreshPage();
+    }
+    osdCanvasRender();
 }
 
-int OSD_MENU_FactoryRestoreHandleHomeKey(tagITEM_NODE_S* pstItemNode, tagPAGE_NODE_S* pstPage)
+static tagANSWER_E osdConfirmTake(const tagCONFIRM_S& stConfirm, const tagITEM_NODE_S* pstAnswer)
 {
-    const tagCONFIRM_PARENT_S stParent = osdConfirmParent(pstPage);
-    if (stParent.pstItem == nullptr || !osdTextAmong(gs_apcFinishKey, stParent.pstItem->acItemIndex)) {
-        return 1;
+    OSD_TEXT acLanguage;
+    if (!osdCfgLanguage(acLanguage)) {
+        osdTrace("%s %d failed\n", stConfirm.pcFunc, __LINE__);
+        return ANSWER_FAILED;
     }
-    char acLanguage[OSD_TEXT_LEN];
-    if (osdCfgLanguage(acLanguage) != 0) {
-        OSD_TRACE_FAILED();
-        return -1;
+    OSD_TEXT acConfirm = ""; // without translations the button is empty
+    OSD_TEXT acFinish = "";
+    osdCfgTranslate(acLanguage, OSD_WORD_CONFIRM, acConfirm);
+    if (stConfirm.bFinish) {
+        osdCfgTranslate(acLanguage, OSD_WORD_FINISH, acFinish);
     }
-    char acConfirm[OSD_TEXT_LEN] = {};
-    char acFinish[OSD_TEXT_LEN] = {};
-    (void)osdCfgTranslate(acLanguage, OSD_WORD_CONFIRM, acConfirm); // without translations
-    (void)osdCfgTranslate(acLanguage, OSD_WORD_FINISH, acFinish);   // the button is empty
-    if (osdTextEqual(pstItemNode->acItemIndex, OSD_KEY_YES)) {
-        osdButtonSet(stParent.pstItem, acFinish);
-        (void)osdMenuReleaseSinglePage(); // always 0
-        (void)OSD_MENU_RenderCanvas();    // reports its own failures
-        osdConfirmRun(stParent, acConfirm);
-        (void)OSD_MENU_RenderCanvas();
-    } else if (osdTextEqual(pstItemNode->acItemIndex, OSD_KEY_NO)) {
-        osdConfirmDrop(stParent, acConfirm);
+    if (osdTextEqual(pstAnswer->acItemIndex, OSD_KEY_YES)) {
+        osdConfirmYes(stConfirm, acConfirm, acFinish);
+    } else if (osdTextEqual(pstAnswer->acItemIndex, OSD_KEY_NO)) {
+        osdButtonSet(stConfirm.pstItem, acConfirm);
+        osdPagePop();
+        osdCanvasRender();
     }
-    return 0;
+    return ANSWER_DONE;
 }
 
-int OSD_MENU_IspHandleHomeKey(tagITEM_NODE_S* pstItemNode, tagPAGE_NODE_S* pstPage)
+tagANSWER_E osdConfirmFinish(const tagITEM_NODE_S* pstAnswer, const tagPAGE_NODE_S* pstPage)
 {
-    const tagCONFIRM_PARENT_S stParent = osdConfirmParent(pstPage);
-    char acLanguage[OSD_TEXT_LEN];
-    if (osdCfgLanguage(acLanguage) != 0) {
-        OSD_TRACE_FAILED();
-        return -1;
-    }
-    char acConfirm[OSD_TEXT_LEN] = {};
-    (void)osdCfgTranslate(acLanguage, OSD_WORD_CONFIRM, acConfirm); // without a translation the button is empty
-    if (osdTextEqual(pstItemNode->acItemIndex, OSD_KEY_YES)) {
-        (void)osdMenuReleaseSinglePage(); // always 0; the screen shows the confirm page until all is done
-        osdConfirmRun(stParent, acConfirm);
-        (void)OSD_MENU_RefreshPage(); // always 0
-        (void)OSD_MENU_RenderCanvas();
-    } else if (osdTextEqual(pstItemNode->acItemIndex, OSD_KEY_NO)) {
-        osdConfirmDrop(stParent, acConfirm);
-    }
-    return 0;
+    const tagCONFIRM_S stConfirm = osdConfirmOf(pstPage, true, OSD_NAME(OSD_MENU_FactoryRestoreHandleHomeKey));
+    const bool bMine = stConfirm.pstItem != nullptr && osdTextAmong(c_apcFinishKey, stConfirm.pstItem->acItemIndex);
+    return bMine ? osdConfirmTake(stConfirm, pstAnswer) : ANSWER_OTHERS;
+}
+
+tagANSWER_E osdConfirmReread(const tagITEM_NODE_S* pstAnswer, const tagPAGE_NODE_S* pstPage)
+{
+    return osdConfirmTake(osdConfirmOf(pstPage, false, OSD_NAME(OSD_MENU_IspHandleHomeKey)), pstAnswer);
 }

@@ -1,103 +1,123 @@
-// The home key: the first rule that fits the selected item decides what pressing it means.
+#include "menu/nav/home_key.h"
+
 #include "comm/log.h"
 #include "comm/text.h"
+#include "menu/core/canvas.h"
+#include "menu/core/change.h"
 #include "menu/core/flat_list.h"
+#include "menu/core/network.h"
 #include "menu/core/words.h"
 #include "menu/nav/address.h"
-#include "menu/nav/change.h"
-#include "menu/nav/keys.h"
+#include "menu/nav/button.h"
+#include "menu/nav/confirm_page.h"
 #include "menu/nav/stack.h"
-#include "osd_page.h"
 #include "platform/config_call.h"
 
 struct tagHOME_S {
     tagITEM_NODE_S* pstItem; // selected on the top page
     tagPAGE_NODE_S* pstPage; // the top page
-    const char (&acBusy)[OSD_TEXT_LEN];
+    const OSD_TEXT& acBusy;
 };
 
-static int osdHomeSubPage(const tagHOME_S& stHome)
+// Opens a page and draws it; false when it can't be read.
+static bool osdHomeOpen(const char* pcPageName)
 {
-    if (osdStackIsFull(stHome.pstItem->acSubPage)) {
-        return -1;
+    if (!osdStackPush(pcPageName, OSD_NAME(OSD_MENU_HandleKeyHome))) {
+        return false;
     }
-    osdTrace("%s %d, pstActiveItem->acSubPage = %s\n", OSD_PLACE, stHome.pstItem->acSubPage);
-    return osdStackPush(stHome.pstItem->acSubPage) == 0 ? osdKeyRender() : -1;
+    osdCanvasRender();
+    return true;
 }
 
-static int osdHomeConfirmPage(const tagHOME_S& stHome)
+static bool osdHomeSubPage(const tagHOME_S& stHome)
 {
-    if (osdStackIsFull(stHome.pstItem->acConfirmPage)) {
-        return -1;
+    const char* pcPageName = stHome.pstItem->acSubPage;
+    if (osdStackIsFull(pcPageName, OSD_NAME(OSD_MENU_HandleKeyHome))) {
+        return false;
+    }
+    osdTrace("%s %d, pstActiveItem->acSubPage = %s\n", OSD_PLACE(OSD_MENU_HandleKeyHome), pcPageName);
+    return osdHomeOpen(pcPageName);
+}
+
+static bool osdHomeConfirmPage(const tagHOME_S& stHome)
+{
+    const char* pcPageName = stHome.pstItem->acConfirmPage;
+    if (osdStackIsFull(pcPageName, OSD_NAME(OSD_MENU_HandleKeyHome))) {
+        return false;
     }
     if (stHome.pstItem->enAttr == CONFIRM_POP) {
         osdButtonSet(stHome.pstItem, stHome.acBusy);
     }
-    (void)osdKeyRender(); // the button is busy while the page is read
-    osdTrace("%s %d, pstActiveItem->acConfirmPage = %s\n", OSD_PLACE, stHome.pstItem->acConfirmPage);
-    return osdStackPush(stHome.pstItem->acConfirmPage) == 0 ? osdKeyRender() : -1;
+    osdCanvasRender(); // the button is busy while the page is read
+    osdTrace("%s %d, pstActiveItem->acConfirmPage = %s\n", OSD_PLACE(OSD_MENU_HandleKeyHome), pcPageName);
+    return osdHomeOpen(pcPageName);
 }
 
-// In this order; each answers 1 where the parent page or item is not its own.
-static constexpr int (*gs_apfnAnswer[])(tagITEM_NODE_S*, tagPAGE_NODE_S*) = {
-    OSD_MENU_FactoryRestoreHandleHomeKey, OSD_MENU_NetworkHandleHomeKey, OSD_MENU_FormatHandleHomeKey,
-    OSD_MENU_PipHandleHomeKey, OSD_MENU_VideoHandleHomeKey};
+// Parent pages in the order in which they are asked; what belongs to none of them is read again.
+static constexpr const char* c_apcAnswerPage[] = {OSD_PAGE_NETWORK, OSD_PAGE_FORMAT, OSD_PAGE_PIP, OSD_PAGE_VIDEO};
 
-static int osdHomeAnswer(const tagHOME_S& stHome)
+static bool osdHomeAnswer(const tagHOME_S& stHome)
 {
-    for (const auto pfnAnswer : gs_apfnAnswer) {
-        if (pfnAnswer(stHome.pstItem, stHome.pstPage) != 1) {
-            return 0;
+    if (osdConfirmFinish(stHome.pstItem, stHome.pstPage) != ANSWER_OTHERS) {
+        return true;
+    }
+    for (const char* pcParentName : c_apcAnswerPage) {
+        if (osdConfirmPage(stHome.pstItem, stHome.pstPage, pcParentName) != ANSWER_OTHERS) {
+            return true;
         }
     }
-    (void)OSD_MENU_IspHandleHomeKey(stHome.pstItem, stHome.pstPage); // reports its own failure
-    return 0;
+    osdConfirmReread(stHome.pstItem, stHome.pstPage); // reports its own failure
+    return true;
 }
 
-static int osdHomeRestart(const tagHOME_S& stHome)
+static bool osdHomeRestart(const tagHOME_S& stHome)
 {
-    (void)OSD_MENU_RotateHandleHomeKey(stHome.pstItem, stHome.pstPage); // 1 above another page: nothing happens
-    return 0;
+    osdConfirmPage(stHome.pstItem, stHome.pstPage, OSD_PAGE_ROTATE); // above another page nothing happens
+    return true;
 }
 
-static int osdHomeButton(const tagHOME_S& stHome)
+static bool osdHomeButton(const tagHOME_S& stHome)
 {
     tagITEM_NODE_S* pstItem = stHome.pstItem;
     if (pstItem->enPicType == MAINTYPE || osdTextEqual(pstItem->acItemIndex, OSD_KEY_BACK)) {
         osdItemApply(pstItem);
-        return 0;
+        return true;
     }
-    char acOwn[OSD_TEXT_LEN] = {};
-    const char(*pacText)[OSD_TEXT_LEN] = osdButtonText(pstItem);
-    if (pacText != nullptr) {
-        osdTextSetField(acOwn, *pacText);
-    }
+    OSD_TEXT acOwn;
+    osdTextSetField(acOwn, osdButtonText(pstItem));
     osdButtonSet(pstItem, stHome.acBusy);
-    (void)osdKeyRender();
+    osdCanvasRender();
     if (osdItemSurvives(osdPageMark(stHome.pstPage), pstItem)) {
         osdButtonSet(pstItem, acOwn);
     }
-    return osdKeyRender();
+    osdCanvasRender();
+    return true;
 }
 
-static int osdHomeWaiting(const tagHOME_S& stHome)
+static bool osdHomeWaiting(const tagHOME_S& stHome)
 {
-    if (osdXmlIsStaticOfNetMode(stHome.pstItem) == 1 || osdMenuParamChange(stHome.pstItem) != 1) {
-        return 0; // a value that is held keeps waiting, with its message line
+    if (osdNetworkHolds(stHome.pstItem) || !osdItemChanged(stHome.pstItem)) {
+        return true; // a value that is held keeps waiting, with its message line
     }
     osdItemCommit(stHome.pstItem);
     stHome.pstPage->bKeyMsg = 0;
     osdItemApply(stHome.pstItem);
-    return osdKeyRender();
+    osdCanvasRender();
+    return true;
 }
 
-static int osdHomeAddress(const tagHOME_S& stHome)
+static bool osdHomeAddress(const tagHOME_S& stHome)
 {
     osdAddressToggle(stHome.pstItem);
-    return osdKeyRender();
+    osdCanvasRender();
+    return true;
 }
 
-static int osdHomeNothing(const tagHOME_S& /*stHome*/) { return osdKeyRender(); }
+static bool osdHomeNothing(const tagHOME_S& /*stHome*/)
+{
+    osdCanvasRender();
+    return true;
+}
 
 template <tagITEM_ATTR_E... aenAttr>
 static bool osdHomeIs(const tagHOME_S& stHome)
@@ -119,42 +139,42 @@ static bool osdHomeAlways(const tagHOME_S& /*stHome*/) { return true; }
 
 struct tagHOME_RULE_S {
     bool (*pfnFits)(const tagHOME_S&);
-    int (*pfnPress)(const tagHOME_S&);
+    bool (*pfnPress)(const tagHOME_S&);
 };
 
 // In this order: what an item opens goes before the page that it stands on.
-static constexpr tagHOME_RULE_S gs_astHomeRule[] = {
+static constexpr tagHOME_RULE_S c_astHomeRule[] = {
     {osdHomeIs<SUBPAGE>, osdHomeSubPage},  {osdHomeIs<CONFIRM_POP, CONFIRM_POP_BTN>, osdHomeConfirmPage},
     {osdHomeOnConfirmPage, osdHomeAnswer}, {osdHomeOnRestartPage, osdHomeRestart},
     {osdHomeIs<CONFIRM>, osdHomeButton},   {osdHomeIs<KEY_WITH_MSG, MSG_WITH_SUBITEM>, osdHomeWaiting},
     {osdHomeIs<EDITABLE>, osdHomeAddress}, {osdHomeAlways, osdHomeNothing}};
 
-static int osdHomePress(const tagHOME_S& stHome)
+static bool osdHomePress(const tagHOME_S& stHome)
 {
-    for (const tagHOME_RULE_S& stRule : gs_astHomeRule) {
+    for (const tagHOME_RULE_S& stRule : c_astHomeRule) {
         if (stRule.pfnFits(stHome)) {
             return stRule.pfnPress(stHome);
         }
     }
-    return 0;
+    return true;
 }
 
-int OSD_MENU_HandleKeyHome()
+bool osdKeyHome()
 {
-    tagPAGE_NODE_S* pstPage = osdXmlGetCurPage();
+    tagPAGE_NODE_S* pstPage = osdPageTop();
     if (pstPage == nullptr) {
-        return 0;
+        return true;
     }
-    tagITEM_NODE_S* pstItem = osdMenuGetSelectedItem(pstPage);
+    tagITEM_NODE_S* pstItem = osdPageSelected(pstPage);
     if (pstItem == nullptr) {
-        return -1;
+        return false;
     }
-    char acLanguage[OSD_TEXT_LEN];
-    if (osdCfgLanguage(acLanguage) != 0) {
-        OSD_TRACE_FAILED();
-        return -1;
+    OSD_TEXT acLanguage;
+    if (!osdCfgLanguage(acLanguage)) {
+        OSD_TRACE_FAILED(OSD_MENU_HandleKeyHome);
+        return false;
     }
-    char acBusy[OSD_TEXT_LEN] = "...";
-    (void)osdCfgTranslate(acLanguage, OSD_WORD_LOADING, acBusy); // the dots stay where there is no word
+    OSD_TEXT acBusy = "...";
+    osdCfgTranslate(acLanguage, OSD_WORD_LOADING, acBusy); // the dots stay where there is no word
     return osdHomePress({pstItem, pstPage, acBusy});
 }

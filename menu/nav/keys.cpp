@@ -1,102 +1,98 @@
-// The keys of the remote control, but home. Each changes the stack or moves the cursor, and then draws once; the redraw
-// reports its own failures.
-#include <initializer_list>
+#include "menu/nav/keys.h"
 
 #include "comm/log.h"
+#include "menu/core/canvas.h"
+#include "menu/core/page.h"
 #include "menu/core/page_parse.h"
 #include "menu/core/words.h"
 #include "menu/nav/address.h"
+#include "menu/nav/button.h"
 #include "menu/nav/cursor.h"
-#include "menu/nav/keys.h"
 #include "menu/nav/stack.h"
 
-int osdKeyRender()
+// Opens a root page; one that can't be parsed opens empty.
+static void osdKeyOpenRoot(const char* pcPageName)
 {
-    (void)OSD_MENU_RenderCanvas();
-    return 0;
+    osdPageParse(pcPageName, &gstPageMgr.astPage[0]);
+    gstPageMgr.s32PageCnt = 1;
+    osdCanvasRender();
 }
 
-static int osdKeyMove(std::initializer_list<tagOSD_MENU_KEY_E> aenKey, OSD_BOOL bUpdate = 1)
+void osdKeyOpen()
 {
-    tagPAGE_NODE_S* pstPage = osdXmlGetCurPage();
+    if (gstPageMgr.s32PageCnt == 0) {
+        osdKeyOpenRoot(OSD_PAGE_MAIN);
+    }
+}
+
+void osdKeyMove(std::initializer_list<tagOSD_MENU_KEY_E> aenKey, OSD_BOOL bUpdate)
+{
+    tagPAGE_NODE_S* pstPage = osdPageTop();
     if (pstPage == nullptr) {
-        return 0;
+        return;
     }
     for (const tagOSD_MENU_KEY_E enKey : aenKey) {
-        (void)osdMenuUpdateItemCursor(pstPage, enKey, bUpdate); // always 0
+        osdCursorKey(pstPage, enKey, bUpdate);
     }
-    return osdKeyRender();
+    osdCanvasRender();
 }
-
-int OSD_MENU_HandleKeyUp() { return osdKeyMove({OSD_MENU_KEY_UP}); }
-int OSD_MENU_HandleKeyDown() { return osdKeyMove({OSD_MENU_KEY_DOWN}); }
-int OSD_MENU_HandleKeyLeft() { return osdKeyMove({OSD_MENU_KEY_LEFT}); }
-int OSD_MENU_HandleKeyRight() { return osdKeyMove({OSD_MENU_KEY_RIGHT}); }
-int OSD_MENU_HandleKeyUp_Left() { return osdKeyMove({OSD_MENU_KEY_UP, OSD_MENU_KEY_LEFT}); }
-int OSD_MENU_HandleKeyUp_Right() { return osdKeyMove({OSD_MENU_KEY_UP, OSD_MENU_KEY_RIGHT}); }
-int OSD_MENU_HandleKeyDown_Left() { return osdKeyMove({OSD_MENU_KEY_DOWN, OSD_MENU_KEY_LEFT}); }
-int OSD_MENU_HandleKeyDown_Right() { return osdKeyMove({OSD_MENU_KEY_DOWN, OSD_MENU_KEY_RIGHT}); }
-
-int osdMenuChangeItem(tagOSD_MENU_KEY_E enKey) { return osdKeyMove({enKey}, 0); }
-int OSD_MENU_HandleKeyLeftUpdateItem() { return osdMenuChangeItem(OSD_MENU_KEY_LEFT); }
-int OSD_MENU_HandleKeyRightUpdateItem() { return osdMenuChangeItem(OSD_MENU_KEY_RIGHT); }
 
 static bool osdKeyDepthIsValid()
 {
-    if (gstPageMgr.s32PageCnt >= 0) {
-        return true;
+    if (gstPageMgr.s32PageCnt < 0) {
+        osdTrace("Invalid parameter\n");
+        return false;
     }
-    osdTrace("Invalid parameter\n");
-    return false;
+    return true;
 }
 
-int OSD_MENU_HandleKeyMenu()
+bool osdKeyMenu()
 {
     if (!osdKeyDepthIsValid()) {
-        return -1;
+        return false;
     }
     if (gstPageMgr.s32PageCnt == 0) {
-        return OSD_MENU_OpenMenu();
+        osdKeyOpen();
+        return true;
     }
-    const bool bDropped = gstPageMgr.s32PageCnt >= 2 && osdMenuExitEditableStatus(&gstPageMgr) == 1;
+    const bool bDropped = gstPageMgr.s32PageCnt >= 2 && osdAddressDrop(&gstPageMgr);
     if (!bDropped) {
         osdStackStepBack();
     }
-    return osdKeyRender();
+    osdCanvasRender();
+    return true;
 }
 
-int OSD_MENU_ReturnMenu()
+void osdKeyReturn()
 {
-    if (osdXmlGetCurPage() == nullptr) {
-        return 0;
+    if (osdPageTop() != nullptr) {
+        osdStackStepBack();
+        osdCanvasRender();
     }
-    osdStackStepBack();
-    return osdKeyRender();
 }
 
-int OSD_MENU_CloseMenu()
+void osdKeyClose()
 {
-    while (osdXmlGetCurPage() != nullptr) {
+    while (osdPageTop() != nullptr) {
         if (gstPageMgr.s32PageCnt > 1) {
-            (void)OSD_MENU_FactoryRestoreHandleMenuKey(&gstPageMgr); // always 0
+            osdButtonRestoreFactory(&gstPageMgr);
         }
-        (void)osdMenuReleaseSinglePage(); // always 0
+        osdPagePop();
     }
-    return osdKeyRender();
+    osdCanvasRender();
 }
 
-int OSD_MENU_HandleKeyAdvancedMenu()
+bool osdKeyAdvanced()
 {
     if (!osdKeyDepthIsValid()) {
-        return -1;
+        return false;
     }
-    if (osdXmlGetCurPage() != nullptr) {
+    if (osdPageTop() != nullptr) {
         osdStackStepBack();
     }
-    while (osdXmlGetCurPage() != nullptr) {
-        (void)osdMenuReleaseSinglePage(); // always 0
+    while (osdPageTop() != nullptr) {
+        osdPagePop();
     }
-    (void)osdPageParse(OSD_PAGE_ADVANCED, &gstPageMgr.astPage[0]); // a page that can't be parsed opens empty
-    gstPageMgr.s32PageCnt = 1;
-    return osdKeyRender();
+    osdKeyOpenRoot(OSD_PAGE_ADVANCED);
+    return true;
 }

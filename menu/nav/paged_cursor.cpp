@@ -1,9 +1,10 @@
-// The cursor of a page in a paged sequence: it passes over status lines, turns the page at the ends of the list, and
-// the right key enters a sub-page.
-#include "menu/core/flat_list.h"
+#include "menu/nav/paged_cursor.h"
+
+#include "menu/core/item_walk.h"
 #include "menu/core/page.h"
-#include "menu/nav/cursor.h"
 #include "menu/nav/stack.h"
+#include "menu/nav/value_step.h"
+#include "menu/nav/waiting.h"
 
 // The first link from here on that is no status line; the head when there is none.
 static list_head* osdPagedSkip(list_head* pstList, list_head* pstLink, bool bForwards)
@@ -17,54 +18,61 @@ static list_head* osdPagedSkip(list_head* pstList, list_head* pstLink, bool bFor
 // Turns the page where the top page says that there is one. A turn forwards drops nothing: the page waits below.
 static bool osdPagedTurn(bool bForwards)
 {
-    tagPAGE_NODE_S* pstPage = osdXmlGetCurPage();
+    tagPAGE_NODE_S* pstPage = osdPageTop();
     if (pstPage == nullptr || pstPage->stTurn.bCurPagesNum == 0) {
         return false;
     }
     if (bForwards && pstPage->stTurn.bNextPage != 0) {
-        (void)osdMenuNextPage(pstPage->stTurn.acNextPage); // reports its own failures
+        osdStackNext(pstPage->stTurn.acNextPage); // reports its own failures
         return true;
     }
     if (!bForwards && pstPage->stTurn.bPrevPage != 0) {
-        (void)osdMenuPrevPage(); // a page is open
+        osdPagePop();
         return true;
     }
     return false;
 }
 
-static int osdPagedMove(list_head* pstList, tagITEM_NODE_S* pstItem, bool bForwards)
+static tagMOVE_E osdPagedMove(list_head* pstList, tagITEM_NODE_S* pstItem, bool bForwards)
 {
     const list_head& stLink = pstItem->stTmpNode;
     list_head* pstTo = osdPagedSkip(pstList, bForwards ? stLink.next : stLink.prev, bForwards);
     if (pstTo == pstList) {
         if (osdPagedTurn(bForwards)) {
-            return 1;
+            return MOVE_TURNED;
         }
         pstTo = osdPagedSkip(pstList, bForwards ? pstList->next : pstList->prev, bForwards);
     }
     // in a list of status lines alone the cursor stays where it is
     osdCursorMove(pstItem, pstTo == pstList ? pstItem : osdFlatItem(pstTo));
     osdWaitingDrop(pstItem);
-    return 0;
+    return MOVE_DONE;
 }
 
-int osdMenuUpdateVerticalItemCursorWithKETH(list_head* pstList, tagOSD_MENU_KEY_E enKey)
+static tagMOVE_E osdPagedStep(tagITEM_NODE_S* pstItem, bool bForwards)
+{
+    osdValueStep(pstItem, bForwards);
+    if (bForwards && pstItem->enAttr == SUBPAGE) {
+        osdStackNext(pstItem->acSubPage); // reports its own failures
+        return MOVE_TURNED;
+    }
+    osdWaitingShow(pstItem);
+    return MOVE_DONE;
+}
+
+tagMOVE_E osdCursorPaged(list_head* pstList, tagOSD_MENU_KEY_E enKey)
 {
     tagITEM_NODE_S* pstItem = osdCursorActive(pstList);
     if (pstItem == nullptr) {
-        return -1;
+        return MOVE_NO_CURSOR;
     }
-    if (enKey == OSD_MENU_KEY_UP || enKey == OSD_MENU_KEY_DOWN) {
+    switch (enKey) {
+    case OSD_MENU_KEY_UP:
+    case OSD_MENU_KEY_DOWN:
         return osdPagedMove(pstList, pstItem, enKey == OSD_MENU_KEY_DOWN);
+    case OSD_MENU_KEY_LEFT:
+    case OSD_MENU_KEY_RIGHT:
+        return osdPagedStep(pstItem, enKey == OSD_MENU_KEY_RIGHT);
     }
-    if (enKey != OSD_MENU_KEY_LEFT && enKey != OSD_MENU_KEY_RIGHT) {
-        return 0;
-    }
-    osdValueStep(pstItem, enKey);
-    if (enKey == OSD_MENU_KEY_RIGHT && pstItem->enAttr == SUBPAGE) {
-        (void)osdMenuNextPage(pstItem->acSubPage); // reports its own failures
-        return 1;
-    }
-    osdMessageUpdate(pstItem);
-    return 0;
+    return MOVE_DONE;
 }

@@ -1,26 +1,21 @@
-// The stack of open pages: what raises and lowers its depth, and what is put right before a page goes.
+// The stack of open pages: what raises and lowers its depth, and what is put right before a page goes. pcFunc is the
+// function of the interface in whose name a failure is said.
 #pragma once
 
 #include "menu/core/page.h"
 
 // Whether five pages are open; a push is refused then, with a line in the log, before anything changes.
-bool osdStackIsFull(const char* pcPageName);
+bool osdStackIsFull(const char* pcPageName, const char* pcFunc);
 
-// Parses a page into the next record and counts it, also when it can't be parsed. Call while the stack isn't full.
-// Returns 0, or -1 with a line in the log.
-int osdStackPush(const char* pcPageName);
+// Parses a page into the next record and counts it, also when it can't be parsed: false then, with a line in the log.
+// Call while the stack isn't full.
+bool osdStackPush(const char* pcPageName, const char* pcFunc);
 
-// The selected item of the page below the top page, or null.
-tagITEM_NODE_S* osdStackParentItem(tagPAGE_MGR_S* pstMgr);
+// Pushes the named page; false with no page open, on a full stack and when the page can't be parsed.
+bool osdStackNext(const char* pcPageName);
 
 // The selected item of a page, or null with a line in the log.
-tagITEM_NODE_S* osdStackSelected(tagPAGE_NODE_S* pstPage);
-
-// The text on a button; null where the item's option is none.
-char (*osdButtonText(tagITEM_NODE_S* pstItem))[OSD_TEXT_LEN];
-
-// Puts a text on a button; without an item, or on an item without that option, nothing happens.
-void osdButtonSet(tagITEM_NODE_S* pstItem, const char (&acText)[OSD_TEXT_LEN]);
+tagITEM_NODE_S* osdStackSelected(tagPAGE_NODE_S* pstPage, const char* pcFunc);
 
 // Leaves the top page for the one below: the button that opened a confirm page gets its text back first.
 void osdStackStepBack();

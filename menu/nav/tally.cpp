@@ -1,11 +1,11 @@
-// The colour text of the page "tally", six hexadecimal digits 0xRRGGBB; blue has no item of its own.
+#include "menu/nav/tally.h"
+
 #include <cstdio>
 
 #include "comm/text.h"
 #include "menu/core/flat_list.h"
 #include "menu/core/led_color.h"
-#include "menu/core/value_bind.h"
-#include "menu/nav/change.h"
+#include "menu/core/value_status.h"
 #include "platform/config_call.h"
 
 static tagITEM_NODE_S* osdTallyFind(list_head* pstList, const char* pcKey)
@@ -19,7 +19,7 @@ static tagITEM_NODE_S* osdTallyFind(list_head* pstList, const char* pcKey)
 }
 
 // Puts the byte on the screen into the colour on the screen.
-static void osdTallyMix(const tagLED_BYTE_S& stByte, int32_t s32Byte, char (&acColor)[OSD_TEXT_LEN])
+static void osdTallyMix(const tagLED_BYTE_S& stByte, int32_t s32Byte, OSD_TEXT& acColor)
 {
     unsigned u32Color = 0;
     (void)sscanf(acColor, "%6X", &u32Color); // a text that is no colour counts as black
@@ -28,23 +28,23 @@ static void osdTallyMix(const tagLED_BYTE_S& stByte, int32_t s32Byte, char (&acC
     (void)snprintf(acColor, sizeof(acColor), "%06X", u32Color); // six digits always fit
 }
 
-int osdMenuUpdateStatusWithCustomColor(tagPAGE_NODE_S* pstPage, list_head* pstList, OSD_BOOL bUpdate)
+void osdTallyUpdate(tagPAGE_NODE_S* pstPage, list_head* pstList, OSD_BOOL bUpdate)
 {
     if (!osdTextEqual(pstPage->acPageName, OSD_PAGE_TALLY)) {
-        return 0;
+        return;
     }
-    tagITEM_NODE_S* pstColor =
-        osdTallyFind(pstList, OSD_KEY_LED_COLOR); // first, as the selection threads the list anew
-    const tagITEM_NODE_S* pstItem = osdMenuGetSelectedItem(pstPage);
+    // found first, as the selection threads the list anew
+    tagITEM_NODE_S* pstColor = osdTallyFind(pstList, OSD_KEY_LED_COLOR);
+    const tagITEM_NODE_S* pstItem = osdPageSelected(pstPage);
     const tagLED_BYTE_S* pstByte = pstItem != nullptr ? osdLedByteFind(pstItem->acItemIndex) : nullptr;
     if (pstColor == nullptr || pstByte == nullptr) {
-        return 0;
+        return;
     }
     if (bUpdate == 0) {
         osdTallyMix(*pstByte, pstItem->s32Cur, pstColor->acValue[0]);
-        return 0;
+        return;
     }
-    char acLanguage[OSD_TEXT_LEN];
-    (void)osdCfgLanguage(acLanguage); // a colour needs no language
-    return osdXmlParseStatusParam(acLanguage, pstColor);
+    OSD_TEXT acLanguage;
+    osdCfgLanguage(acLanguage); // a colour needs no language
+    osdStatusRead(acLanguage, pstColor);
 }

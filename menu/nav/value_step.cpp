@@ -1,6 +1,6 @@
-// One step of a value. A value wraps to the far end of its range and is never held at the near one.
+#include "menu/nav/value_step.h"
+
 #include "comm/arith.h"
-#include "menu/nav/cursor.h"
 
 // In 64 bits, as the numbers are the configuration's.
 static void osdNumberStep(tagITEM_NODE_S* pstItem, bool bForwards)
@@ -24,12 +24,8 @@ static void osdOptionStep(tagITEM_NODE_S* pstItem, bool bForwards)
     }
 }
 
-void osdValueStep(tagITEM_NODE_S* pstItem, tagOSD_MENU_KEY_E enKey)
+void osdValueStep(tagITEM_NODE_S* pstItem, bool bForwards)
 {
-    const bool bForwards = enKey == OSD_MENU_KEY_RIGHT;
-    if (!bForwards && enKey != OSD_MENU_KEY_LEFT) {
-        return;
-    }
     if (pstItem->enValType == NUMERICAL) {
         osdNumberStep(pstItem, bForwards);
     } else if (pstItem->enValType == OPTTXT) {

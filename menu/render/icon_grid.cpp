@@ -8,32 +8,35 @@
 //       |caption |         |        |      0.025 of the cell below the picture
 //       |========|         |        |      bar under the caption of the selected cell
 //       +--------+         +--------+
+#include "menu/render/icon_grid.h"
+
 #include "comm/arith.h"
 #include "comm/image.h"
 #include "comm/log.h"
+#include "comm/shape.h"
 #include "comm/text.h"
-#include "menu/core/flat_list.h"
+#include "comm/text_surface.h"
+#include "menu/core/item_walk.h"
 #include "menu/core/words.h"
 #include "menu/render/row.h"
-#include "osd_comm.h"
-#include "osd_page.h"
+#include "osd_menu.h"
 #include "platform/config_call.h"
 
-static constexpr float gs_f32MarginX = 0.1f;  // of W, both margins together
-static constexpr float gs_f32MarginY = 0.04f; // of H
-static constexpr float gs_f32GapX = 0.1f;     // of W
-static constexpr float gs_f32GapY = 0.05f;    // of H
-static constexpr float gs_f32Left = 0.05f;    // of W
-static constexpr float gs_f32Top = 0.02f;     // of H
+static constexpr float c_f32MarginX = 0.1f;  // of W, both margins together
+static constexpr float c_f32MarginY = 0.04f; // of H
+static constexpr float c_f32GapX = 0.1f;     // of W
+static constexpr float c_f32GapY = 0.05f;    // of H
+static constexpr float c_f32Left = 0.05f;    // of W
+static constexpr float c_f32Top = 0.02f;     // of H
 
-static constexpr float gs_f32PictureH = 0.7f;       // of the cell's height, as all below
-static constexpr float gs_f32CaptionGap = 0.025f;   // between picture and caption
-static constexpr float gs_f32BarDrop = 0.22500001f; // 0x3E666667, one step above the float nearest to 0.225
-static constexpr float gs_f32BarH = 0.02f;
-static constexpr Uint32 gs_u32BarPixel = 0xFFFFFFFF; // opaque white in every format
+static constexpr float c_f32PictureH = 0.7f;       // of the cell's height, as all below
+static constexpr float c_f32CaptionGap = 0.025f;   // between picture and caption
+static constexpr float c_f32BarDrop = 0.22500001f; // 0x3E666667, one step above the float nearest to 0.225
+static constexpr float c_f32BarH = 0.02f;
+static constexpr Uint32 c_u32BarPixel = 0xFFFFFFFF; // opaque white in every format
 
-static constexpr float gs_f32EnglishSize = 28.0f; // pixels on the base 1920 by 1080
-static constexpr float gs_f32OtherSize = 32.0f;
+static constexpr float c_f32EnglishSize = 28.0f; // pixels on the base 1920 by 1080
+static constexpr float c_f32OtherSize = 32.0f;
 
 // n cells share what the margins and the gaps between them leave.
 static int osdIconCell(int s32Whole, float f32Margin, float f32Gap, int32_t s32Cnt)
@@ -53,37 +56,36 @@ static int osdIconNext(int s32Whole, float f32Gap, int s32At, int s32Size)
     return osdTrunc(osdF32(s32Whole) * f32Gap + osdF32(osdClampS32(int64_t{s32At} + s32Size)));
 }
 
-int OSD_MENU_RenderIconCanvas(tagPAGE_NODE_S* pstPage)
+void osdIconPage(tagPAGE_NODE_S* pstPage)
 {
     const SDL_Rect& stMenu = gstMenuMgr.stCanvas.stMenuRect;
     const int32_t s32PerLine = pstPage->s32CountPerLine;
-    const int s32Left = osdTrunc(osdF32(stMenu.w) * gs_f32Left);
-    SDL_Rect stCell = {s32Left, osdTrunc(osdF32(stMenu.h) * gs_f32Top),
-                       osdIconCell(stMenu.w, gs_f32MarginX, gs_f32GapX, s32PerLine),
-                       osdIconCell(stMenu.h, gs_f32MarginY, gs_f32GapY, s32PerLine)};
+    const int s32Left = osdTrunc(osdF32(stMenu.w) * c_f32Left);
+    SDL_Rect stCell = {s32Left, osdTrunc(osdF32(stMenu.h) * c_f32Top),
+                       osdIconCell(stMenu.w, c_f32MarginX, c_f32GapX, s32PerLine),
+                       osdIconCell(stMenu.h, c_f32MarginY, c_f32GapY, s32PerLine)};
     int32_t s32Pos = 0;
     for (tagITEM_NODE_S* pstItem : osdItems(&pstPage->stItemList)) {
         pstItem->stRect = stCell;
-        (void)OSD_MENU_RenderIconText(pstItem, s32Pos == pstPage->s32SelIdx ? 1 : 0); // the others go on
+        osdIconCellDraw(pstItem, s32Pos == pstPage->s32SelIdx ? 1 : 0); // the others go on
         s32Pos++;
         if (s32PerLine != 0 && s32Pos % s32PerLine == 0) {
             stCell.x = s32Left;
-            stCell.y = osdIconNext(stMenu.h, gs_f32GapY, stCell.y, stCell.h);
+            stCell.y = osdIconNext(stMenu.h, c_f32GapY, stCell.y, stCell.h);
         } else {
-            stCell.x = osdIconNext(stMenu.w, gs_f32GapX, stCell.x, stCell.w);
+            stCell.x = osdIconNext(stMenu.w, c_f32GapX, stCell.x, stCell.w);
         }
     }
-    return 0;
 }
 
 static int osdIconSize()
 {
-    char acLanguage[OSD_TEXT_LEN];
-    if (osdCfgLanguage(acLanguage) != 0) {
-        osdTrace("%s %d Get Language failed\n", OSD_PLACE);
+    OSD_TEXT acLanguage;
+    if (!osdCfgLanguage(acLanguage)) {
+        osdTrace("%s %d Get Language failed\n", OSD_PLACE(OSD_MENU_RenderIconText));
         acLanguage[0] = '\0';
     }
-    const float f32Base = osdTextEqual(acLanguage, OSD_LANGUAGE_EN) ? gs_f32EnglishSize : gs_f32OtherSize;
+    const float f32Base = osdTextEqual(acLanguage, OSD_LANGUAGE_EN) ? c_f32EnglishSize : c_f32OtherSize;
     return osdTrunc(f32Base * gstMenuMgr.f32Scale);
 }
 
@@ -98,44 +100,43 @@ static tagICON_S osdIconPlace(const tagITEM_NODE_S* pstItem)
     const SDL_Rect& stCell = pstItem->stRect;
     const float f32H = osdF32(stCell.h);
     tagICON_S stIcon = {};
-    stIcon.stPicture = {stCell.x, stCell.y, stCell.w, osdTrunc(f32H * gs_f32PictureH)};
+    stIcon.stPicture = {stCell.x, stCell.y, stCell.w, osdTrunc(f32H * c_f32PictureH)};
     SDL_Rect& stCaption = stIcon.stCaption;
     stCaption = osdRowMeasure(pstItem);
     stCaption.x = osdClampS32(stCell.x + (int64_t{stCell.w} - stCaption.w) / 2);
     const int s32Foot = osdClampS32(int64_t{stCell.y} + stIcon.stPicture.h);
-    stCaption.y = osdTrunc(f32H * gs_f32CaptionGap + osdF32(s32Foot));
-    stIcon.stBar = {stCaption.x, osdTrunc(f32H * gs_f32BarDrop + osdF32(stCaption.y)), stCaption.w,
-                    osdTrunc(f32H * gs_f32BarH)};
+    stCaption.y = osdTrunc(f32H * c_f32CaptionGap + osdF32(s32Foot));
+    stIcon.stBar = {stCaption.x, osdTrunc(f32H * c_f32BarDrop + osdF32(stCaption.y)), stCaption.w,
+                    osdTrunc(f32H * c_f32BarH)};
     return stIcon;
 }
 
-static int osdIconDraw(tagITEM_NODE_S* pstItem, const tagICON_S& stIcon, int s32Size, OSD_BOOL bSelected)
+static bool osdIconDraw(const tagITEM_NODE_S* pstItem, const tagICON_S& stIcon, int s32Size, OSD_BOOL bSelected)
 {
     const bool bMarked = enMenuStyle == 1 && bSelected == 1; // this skin has a picture and a font for it
     const OSD_SURFACE_PTR pstPicture =
         osdImageGet(bMarked ? pstItem->acSelectPic : pstItem->acPic, stIcon.stPicture.w, stIcon.stPicture.h);
     if (pstPicture == nullptr) {
-        OSD_TRACE_FAILED();
-        return -1;
+        OSD_TRACE_FAILED(OSD_MENU_RenderIconText);
+        return false;
     }
-    (void)OSD_MENU_FillData2Canvas(pstPicture.get(), stIcon.stPicture); // always 0
-    SDL_Surface* pstCaption = nullptr;
+    osdRowPut(pstPicture.get(), stIcon.stPicture);
     TTF_Font* pstFont = bMarked ? gstMenuMgr.pstSelectFont : gstMenuMgr.pstFont;
-    if (OSD_COMM_GetTxtSurface(pstFont, pstItem->acItemName, s32Size, 0, &pstCaption) != 0) {
-        OSD_TRACE_FAILED();
-        return -1;
+    const OSD_SURFACE_PTR pstCaption = osdTextLit(pstFont, pstItem->acItemName, s32Size, 0);
+    if (pstCaption == nullptr) {
+        OSD_TRACE_FAILED(OSD_MENU_RenderIconText);
+        return false;
     }
-    const OSD_SURFACE_PTR pstOwner(pstCaption);
-    (void)OSD_MENU_FillData2Canvas(pstCaption, stIcon.stCaption);
+    osdRowPut(pstCaption.get(), stIcon.stCaption);
     if (bSelected == 1) {
-        const SDL_Rect stBar = osdRectInRange(stIcon.stBar);
-        (void)SDL_FillRect(gstMenuMgr.pstSurface, &stBar, gs_u32BarPixel); // a cell without bar is still a cell
+        osdShapeFill(gstMenuMgr.pstSurface, stIcon.stBar, c_u32BarPixel); // a cell without bar is still a cell
     }
-    return 0;
+    return true;
 }
 
-int OSD_MENU_RenderIconText(tagITEM_NODE_S* pstItemNode, OSD_BOOL bSelected)
+bool osdIconCellDraw(const tagITEM_NODE_S* pstItem, OSD_BOOL bSelected)
 {
     const int s32Size = osdIconSize();
-    return osdRowSetSize(s32Size) == 0 ? osdIconDraw(pstItemNode, osdIconPlace(pstItemNode), s32Size, bSelected) : -1;
+    return osdRowSetSize(s32Size, OSD_NAME(OSD_MENU_RenderIconText)) &&
+           osdIconDraw(pstItem, osdIconPlace(pstItem), s32Size, bSelected);
 }

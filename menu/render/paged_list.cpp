@@ -9,114 +9,111 @@
 //     ------------------------------------------------         separator of an item with bLine
 //     |[picture] Button                               |
 //     |Message line                                   |  [turn] foot at 0.88 H; arrows in the corner
+#include "menu/render/paged_list.h"
+
 #include <cstdio>
 
 #include "comm/arith.h"
+#include "comm/arrow.h"
 #include "comm/log.h"
+#include "comm/shape.h"
 #include "comm/text.h"
-#include "menu/core/flat_list.h"
-#include "menu/core/value_bind.h"
+#include "comm/text_surface.h"
+#include "menu/core/item.h"
 #include "menu/core/words.h"
-#include "menu/render/row.h"
-#include "osd_comm.h"
-#include "osd_page.h"
+#include "menu/render/list.h"
+#include "osd_menu.h"
 
-static constexpr tagROW_GEOM_S gs_stPagedGeom = {
+static constexpr tagROW_GEOM_S c_stPagedGeom = {
     /* f32Left */ 0.045f,     /* f32Indent */ 0.025f,
     /* f32FirstGap */ 0.14f,  /* f32NextGap */ 0.01f,
     /* f32MsgFoot */ 0.88f,   /* f32ValueFrame */ 0.84f,
     /* f32CaretPart */ 2.0f,  /* s32DotCursor */ OSD_TEXT_LEN,
     /* s32EmptyAboveBtn */ 0,
 };
-static constexpr float gs_f32PagedSize = 28.0f; // pixels on the base 1920 by 1080
-static constexpr float gs_f32RightShare = 0.8f; // of what a label placed right leaves of W
+static constexpr float c_f32PagedSize = 28.0f; // pixels on the base 1920 by 1080
+static constexpr float c_f32RightShare = 0.8f; // of what a label placed right leaves of W
 
-static constexpr float gs_f32TitleX = 0.07f;     // of W
-static constexpr float gs_f32TitleY = 0.015f;    // of H
-static constexpr float gs_f32TitleRuleW = 0.86f; // of W
-static constexpr float gs_f32TitleRuleH = 0.01f; // of H
+static constexpr float c_f32TitleX = 0.07f;     // of W
+static constexpr float c_f32TitleY = 0.015f;    // of H
+static constexpr float c_f32TitleRuleW = 0.86f; // of W
+static constexpr float c_f32TitleRuleH = 0.01f; // of H
 
-static constexpr double gs_f64LineX = 0.07;  // of W, in double precision, as the two below
-static constexpr double gs_f64LineY = 0.02;  // of H
-static constexpr double gs_f64LineH = 0.005; // of H
+static constexpr double c_f64LineX = 0.07;  // of W, in double precision, as the two below
+static constexpr double c_f64LineY = 0.02;  // of H
+static constexpr double c_f64LineH = 0.005; // of H
 
 struct tagBUTTON_PIC_S {
     const char* pcKey;
-    char acPic[8];
+    const char* pcPic;
 };
-static constexpr tagBUTTON_PIC_S gs_astButtonPic[] = {{OSD_KEY_FACTORY_RESTORE, "default"},
-                                                      {OSD_KEY_RESTORE_WB, "default"},
-                                                      {OSD_KEY_RESTORE_IMG, "default"},
-                                                      {OSD_KEY_RESTORE_EXP, "default"},
-                                                      {OSD_KEY_RESTART, "restart"}};
+static constexpr tagBUTTON_PIC_S c_astButtonPic[] = {{OSD_KEY_FACTORY_RESTORE, "default"},
+                                                     {OSD_KEY_RESTORE_WB, "default"},
+                                                     {OSD_KEY_RESTORE_IMG, "default"},
+                                                     {OSD_KEY_RESTORE_EXP, "default"},
+                                                     {OSD_KEY_RESTART, "restart"}};
 
-static tagBUTTON_PIC_S osdPagedButton(const char* pcKey)
+static const char* osdPagedPicture(const char* pcKey)
 {
-    for (const tagBUTTON_PIC_S& stButton : gs_astButtonPic) {
+    for (const tagBUTTON_PIC_S& stButton : c_astButtonPic) {
         if (osdTextEqual(stButton.pcKey, pcKey)) {
-            return stButton;
+            return stButton.pcPic;
         }
     }
-    return {pcKey, "confirm"};
+    return "confirm";
 }
 
-static int osdPagedSize() { return osdTrunc(gstMenuMgr.f32Scale * gs_f32PagedSize); }
+static int osdPagedSize() { return osdTrunc(gstMenuMgr.f32Scale * c_f32PagedSize); }
 
-static OSD_BOOL osdPagedBright(tagITEM_NODE_S* pstItem, OSD_BOOL bSelected)
+static bool osdPagedBright(tagITEM_NODE_S* pstItem, OSD_BOOL bSelected)
 {
-    const bool bAlways = pstItem->enAttr == STATUS || pstItem->enAttr == TITLE_LINE;
-    return bAlways ? 1 : osdRowBright(pstItem, bSelected);
+    return pstItem->enAttr == STATUS || pstItem->enAttr == TITLE_LINE || osdRowBright(pstItem, bSelected);
 }
 
-int osdMenuDrawTurnArrow(tagPAGE_TURN_S* pstTurn)
+void osdPagedTurnArrow(const tagPAGE_TURN_S& stTurn)
 {
-    char acAll[] = "arrow_all";
-    char acNext[] = "arrow_bottom";
-    char acPrev[] = "arrow_top";
-    char* pcPic = pstTurn->bNextPage != 0 ? (pstTurn->bPrevPage != 0 ? acAll : acNext) : acPrev;
-    if (pstTurn->bNextPage != 0 || pstTurn->bPrevPage != 0) {
-        (void)OSD_COMM_DrawTurnArrows(gstMenuMgr.pstSurface, gstMenuMgr.stCanvas.stMenuRect, pcPic); // reports itself
+    const char* pcNext = stTurn.bPrevPage != 0 ? "arrow_all" : "arrow_bottom";
+    if (stTurn.bNextPage != 0 || stTurn.bPrevPage != 0) {
+        osdArrowTurn(gstMenuMgr.pstSurface, gstMenuMgr.stCanvas.stMenuRect,
+                     stTurn.bNextPage != 0 ? pcNext : "arrow_top");
     }
-    return 0;
 }
 
-int OSD_MENU_RenderTxt(tagITEM_NODE_S* pstItemNode, SDL_Rect stRect, int s32FontSize, SDL_Surface** ppstSurface,
-                       OSD_BOOL bBright)
+OSD_SURFACE_PTR osdPagedText(const tagITEM_NODE_S* pstItem, SDL_Rect stRect, int s32Size, OSD_BOOL bBright)
 {
-    if (pstItemNode->enAttr == CONFIRM_POP_BTN) {
-        tagBUTTON_PIC_S stButton = osdPagedButton(pstItemNode->acItemIndex);
-        (void)OSD_COMM_DrawConfirmImg(gstMenuMgr.pstSurface, &stRect, gstMenuMgr.stCanvas.stMenuRect, bBright,
-                                      stButton.acPic); // without a picture the text stays where it is
+    if (pstItem->enAttr == CONFIRM_POP_BTN) { // without a picture the text stays where it is
+        osdButtonPicture(gstMenuMgr.pstSurface, &stRect, gstMenuMgr.stCanvas.stMenuRect, bBright != 0,
+                         osdPagedPicture(pstItem->acItemIndex));
     }
-    if (OSD_COMM_GetTxtSurface(gstMenuMgr.pstFont, pstItemNode->acItemName, s32FontSize, bBright, ppstSurface) != 0) {
-        osdTrace("%s %d failed, pstItemNode->acItemIndex = %s\n", OSD_PLACE, pstItemNode->acItemIndex);
-        return -1;
+    OSD_SURFACE_PTR pstTxt = osdTextLit(gstMenuMgr.pstFont, pstItem->acItemName, s32Size, bBright);
+    if (pstTxt == nullptr) {
+        osdTrace("%s %d failed, pstItemNode->acItemIndex = %s\n", OSD_PLACE(OSD_MENU_RenderTxt), pstItem->acItemIndex);
+        return nullptr;
     }
-    return OSD_MENU_FillData2Canvas(*ppstSurface, stRect);
+    osdRowPut(pstTxt.get(), stRect);
+    return pstTxt;
 }
 
-int OSD_MENU_RenderTitleKETHItem(tagITEM_NODE_S* pstItemNode, SDL_Rect* pstLayoutCursor, OSD_BOOL /*bSelected*/)
+bool osdPagedTitle(const tagITEM_NODE_S* pstItem, SDL_Rect* pstLayoutCursor)
 {
     const int s32Size = osdPagedSize();
-    if (osdRowSetSize(s32Size) != 0) {
-        return -1;
+    if (!osdRowSetSize(s32Size, OSD_NAME(OSD_MENU_RenderTitleKETHItem))) {
+        return false;
     }
     const float f32MenuW = osdF32(gstMenuMgr.stCanvas.stMenuRect.w);
     const float f32MenuH = osdF32(gstMenuMgr.stCanvas.stMenuRect.h);
-    SDL_Rect stTitle = osdRowMeasure(pstItemNode);
-    stTitle.x = osdTrunc(f32MenuW * gs_f32TitleX);
-    stTitle.y = osdTrunc(osdF32(pstLayoutCursor->y) + osdF32(pstLayoutCursor->h) + f32MenuH * gs_f32TitleY);
-    SDL_Surface* pstTitle = nullptr;
-    if (OSD_MENU_RenderTxt(pstItemNode, stTitle, s32Size, &pstTitle, 1) != 0) {
-        osdTrace("%s-%d OSD_MENU_RenderTxt failed\n", OSD_PLACE);
-        return -1;
+    SDL_Rect stTitle = osdRowMeasure(pstItem);
+    stTitle.x = osdTrunc(f32MenuW * c_f32TitleX);
+    stTitle.y = osdTrunc(osdF32(pstLayoutCursor->y) + osdF32(pstLayoutCursor->h) + f32MenuH * c_f32TitleY);
+    if (osdPagedText(pstItem, stTitle, s32Size, 1) == nullptr) {
+        osdTrace("%s-%d OSD_MENU_RenderTxt failed\n", OSD_PLACE(OSD_MENU_RenderTitleKETHItem));
+        return false;
     }
-    SDL_FreeSurface(pstTitle);
     const SDL_Rect stRule = {stTitle.x, osdClampS32(stTitle.h + int64_t{2} * stTitle.y),
-                             osdTrunc(f32MenuW * gs_f32TitleRuleW), osdTrunc(f32MenuH * gs_f32TitleRuleH)};
-    (void)OSD_COMM_DrawLine(gstMenuMgr.pstSurface, stRule); // a title without rule is still a title
+                             osdTrunc(f32MenuW * c_f32TitleRuleW), osdTrunc(f32MenuH * c_f32TitleRuleH)};
+    osdShapeLine(gstMenuMgr.pstSurface, stRule); // a title without rule is still a title
     osdRowEnd(stRule, pstLayoutCursor);
-    return 0;
+    return true;
 }
 
 // The line above an item; the row follows the line then.
@@ -125,96 +122,84 @@ static void osdPagedSeparator(SDL_Rect* pstLayoutCursor)
     const SDL_Rect& stMenu = gstMenuMgr.stCanvas.stMenuRect;
     const double f64Below = static_cast<double>(pstLayoutCursor->y + int64_t{2} * pstLayoutCursor->h);
     SDL_Rect stLine = {};
-    stLine.x = osdTruncF64(static_cast<double>(stMenu.w) * gs_f64LineX);
-    stLine.y = osdTruncF64(static_cast<double>(stMenu.h) * gs_f64LineY + f64Below);
+    stLine.x = osdTruncF64(static_cast<double>(stMenu.w) * c_f64LineX);
+    stLine.y = osdTruncF64(static_cast<double>(stMenu.h) * c_f64LineY + f64Below);
     stLine.w = osdClampS32(stMenu.w - int64_t{2} * stLine.x);
-    stLine.h = osdTruncF64(static_cast<double>(stMenu.h) * gs_f64LineH);
-    (void)OSD_COMM_DrawLine(gstMenuMgr.pstSurface, stLine); // a row without line is still a row
+    stLine.h = osdTruncF64(static_cast<double>(stMenu.h) * c_f64LineH);
+    osdShapeLine(gstMenuMgr.pstSurface, stLine); // a row without line is still a row
     osdRowEnd(stLine, pstLayoutCursor);
 }
 
-int OSD_MENU_DrawItemName(tagITEM_NODE_S* pstItemNode, SDL_Rect* pstLayoutCursor, int s32FontSize, OSD_BOOL bBright,
-                          SDL_Rect* pstNameRect, SDL_Surface** ppstSurface)
+OSD_SURFACE_PTR osdPagedName(const tagITEM_NODE_S* pstItem, SDL_Rect* pstLayoutCursor, int s32Size, OSD_BOOL bBright,
+                             SDL_Rect* pstNameRect)
 {
-    if (pstItemNode->bLine != 0) {
+    if (pstItem->bLine != 0) {
         osdPagedSeparator(pstLayoutCursor);
     }
-    if (osdRowSetSize(s32FontSize) != 0) {
-        return -1;
+    if (!osdRowSetSize(s32Size, OSD_NAME(OSD_MENU_DrawItemName))) {
+        return nullptr;
     }
     const SDL_Rect& stMenu = gstMenuMgr.stCanvas.stMenuRect;
-    *pstNameRect = osdRowLabel(gs_stPagedGeom, pstItemNode, *pstLayoutCursor);
-    if (pstItemNode->enItemPos == ITEM_POS_RIGHT) {
-        pstNameRect->x = osdTrunc(osdF32(osdClampS32(int64_t{stMenu.w} - pstNameRect->w)) * gs_f32RightShare);
+    *pstNameRect = osdRowLabel(c_stPagedGeom, pstItem, *pstLayoutCursor);
+    if (pstItem->enItemPos == ITEM_POS_RIGHT) {
+        pstNameRect->x = osdTrunc(osdF32(osdClampS32(int64_t{stMenu.w} - pstNameRect->w)) * c_f32RightShare);
     }
-    if (OSD_MENU_RenderTxt(pstItemNode, *pstNameRect, s32FontSize, ppstSurface, bBright) != 0) {
-        osdTrace("%s-%d OSD_MENU_RenderTxt failed\n", OSD_PLACE);
-        return -1;
+    OSD_SURFACE_PTR pstName = osdPagedText(pstItem, *pstNameRect, s32Size, bBright);
+    if (pstName == nullptr) {
+        osdTrace("%s-%d OSD_MENU_RenderTxt failed\n", OSD_PLACE(OSD_MENU_DrawItemName));
+    } else if (pstItem->enAttr == SUBPAGE) {
+        osdArrowEnter(gstMenuMgr.pstSurface, stMenu, *pstNameRect, bBright != 0);
     }
-    if (pstItemNode->enAttr == SUBPAGE) {
-        (void)OSD_COMM_DrawSubPageEnter(gstMenuMgr.pstSurface, stMenu, *pstNameRect, bBright); // reports itself
-    }
-    return 0;
+    return pstName;
 }
 
-static OSD_SURFACE_PTR osdPagedValueSurface(const tagROW_S& stRow, tagROW_VALUE_S stValue, const SDL_Rect& stColumn)
+static OSD_SURFACE_PTR osdPagedValueSurface(const tagROW_S& stRow, const tagROW_VALUE_S& stValue,
+                                            const SDL_Rect& stColumn)
 {
     const tagITEM_ATTR_E enAttr = stRow.pstItem->enAttr;
     const bool bPlain = enAttr == STATUS || enAttr == CONFIRM || enAttr == CONFIRM_POP;
-    SDL_Surface* pstValue = nullptr; // stays null without a text
+    const tagWIDGET_TEXT_S stText = osdRowWidget(stRow, stValue);
     if (stRow.pstItem->enCtx == NAME_BAR_VAL) {
-        (void)OSD_COMM_GetBarTxtSurfaceWithKETH(stRow.pstFont, stValue.acText, stValue.s32Pos, stValue.s32Cnt,
-                                                stRow.s32Size, stRow.bBright, stColumn, &pstValue);
-    } else if (stRow.pstItem->enCtx == NAME_VAL && !bPlain) {
-        (void)OSD_COMM_GetTxtSurfaceAroundArrows(stRow.pstFont, stValue.acText, stRow.s32Size, stRow.bBright, stColumn,
-                                                 &pstValue);
-    } else {
-        (void)OSD_COMM_GetTxtSurface(stRow.pstFont, stValue.acText, stRow.s32Size, stRow.bBright, &pstValue);
+        return osdBarSurfaceDimmed(stText, stValue.stBar, stColumn);
     }
-    return OSD_SURFACE_PTR(pstValue);
+    if (stRow.pstItem->enCtx == NAME_VAL && !bPlain) {
+        return osdArrowedSurface(stText, stColumn);
+    }
+    return osdTextLit(stText.pstFont, stText.pcText, stText.s32Size, stText.bBright);
 }
 
-int OSD_MENU_RenderVerticalKETHItem(tagITEM_NODE_S* pstItemNode, SDL_Rect* pstLayoutCursor, OSD_BOOL bSelected)
+bool osdPagedRow(tagITEM_NODE_S* pstItem, SDL_Rect* pstLayoutCursor, OSD_BOOL bSelected)
 {
-    tagROW_S stRow = {pstItemNode, gstMenuMgr.pstFont, osdPagedSize(), osdPagedBright(pstItemNode, bSelected), {}};
-    SDL_Surface* pstLabel = nullptr;
-    if (OSD_MENU_DrawItemName(pstItemNode, pstLayoutCursor, stRow.s32Size, stRow.bBright, &stRow.stLabel, &pstLabel) !=
-        0) {
-        OSD_TRACE_FAILED();
-        return -1;
+    tagROW_S stRow = {pstItem, gstMenuMgr.pstFont, osdPagedSize(), osdPagedBright(pstItem, bSelected), {}};
+    const OSD_SURFACE_PTR pstName =
+        osdPagedName(pstItem, pstLayoutCursor, stRow.s32Size, stRow.bBright ? 1 : 0, &stRow.stLabel);
+    if (pstName == nullptr) {
+        OSD_TRACE_FAILED(OSD_MENU_RenderVerticalKETHItem);
+        return false;
     }
-    const OSD_SURFACE_PTR pstOwner(pstLabel);
-    if (osdContextHasValue(pstItemNode->enCtx)) {
-        osdRowDrawValue(gs_stPagedGeom, stRow, osdPagedValueSurface);
+    if (osdItemHasValue(pstItem)) {
+        osdRowDrawValue(c_stPagedGeom, stRow, osdPagedValueSurface);
     }
     osdRowEnd(stRow.stLabel, pstLayoutCursor);
-    osdRowSubItems(pstItemNode, pstLayoutCursor, OSD_MENU_RenderVerticalKETHItem);
-    return 0;
+    osdRowSubItems(pstItem, pstLayoutCursor, osdPagedRow);
+    return true;
 }
 
-static void osdPagedTitle(tagPAGE_NODE_S* pstPage, SDL_Rect* pstLayoutCursor)
+// The title with the number of the page; a joined text that is too long loses its end.
+static void osdPagedHead(const tagPAGE_NODE_S* pstPage, SDL_Rect* pstLayoutCursor)
 {
     tagITEM_NODE_S stTitle = osdRowOfText(pstPage->acTitle, ITEM_LEVEL_TOP, TITLE_LINE);
     if (pstPage->stTurn.bCurPagesNum != 0) {
         char acJoined[2 * OSD_TEXT_LEN + 2];
         (void)snprintf(acJoined, sizeof(acJoined), "%.31s  %.31s", pstPage->acTitle, pstPage->stTurn.acCurPagesNum);
-        osdTextSet(stTitle.acItemName, acJoined);     // a joined text that is too long loses its end
-        (void)osdMenuDrawTurnArrow(&pstPage->stTurn); // always 0
+        osdTextSet(stTitle.acItemName, acJoined);
+        osdPagedTurnArrow(pstPage->stTurn);
     }
-    (void)OSD_MENU_RenderTitleKETHItem(&stTitle, pstLayoutCursor, 0); // without a title the list starts lower
+    osdPagedTitle(&stTitle, pstLayoutCursor); // without a title the list starts lower
 }
 
-int OSD_MENU_RenderVerticalCanvasWithKETH(tagPAGE_NODE_S* pstPage)
+void osdPagedPage(tagPAGE_NODE_S* pstPage)
 {
-    SDL_Rect stCursor = {};
-    if (pstPage->bTitle == 1) {
-        osdPagedTitle(pstPage, &stCursor);
-    }
-    for (tagITEM_NODE_S* pstItem : osdItems(&pstPage->stItemList)) {
-        (void)OSD_MENU_RenderVerticalKETHItem(pstItem, &stCursor, pstItem->bActive); // the others go on
-        if (osdMenuJudgeNetWorkofDhcp(pstItem) == 1) {
-            break;
-        }
-    }
-    return OSD_MENU_HandleKeyMsg(stCursor);
+    osdListDraw(pstPage, {osdPagedRow, osdPagedHead, true});
+    osdListMessage();
 }

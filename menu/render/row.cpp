@@ -4,18 +4,18 @@
 #include <cstring>
 
 #include "comm/arith.h"
-#include "comm/log.h"
+#include "comm/font.h"
+#include "comm/shape.h"
 #include "comm/text.h"
-#include "menu/core/flat_list.h"
-#include "menu/core/layout.h"
-#include "menu/core/page.h"
-#include "osd_comm.h"
-#include "osd_page.h"
+#include "comm/text_surface.h"
+#include "menu/core/item.h"
+#include "menu/render/value.h"
+#include "osd_menu.h"
 
-static constexpr float gs_f32ValueRight = 0.95f; // of W
-static constexpr float gs_f32ValueShare = 0.5f;  // of the list's frame
+static constexpr float c_f32ValueRight = 0.95f; // of W
+static constexpr float c_f32ValueShare = 0.5f;  // of the list's frame
 
-tagITEM_NODE_S osdRowOfText(const char (&acText)[OSD_TEXT_LEN], tagITEM_LEVEL_E enLevel, tagITEM_ATTR_E enAttr)
+tagITEM_NODE_S osdRowOfText(const OSD_TEXT& acText, tagITEM_LEVEL_E enLevel, tagITEM_ATTR_E enAttr)
 {
     tagITEM_NODE_S stRow = {};
     stRow.enCtx = NAME;
@@ -25,9 +25,9 @@ tagITEM_NODE_S osdRowOfText(const char (&acText)[OSD_TEXT_LEN], tagITEM_LEVEL_E 
     return stRow;
 }
 
-OSD_BOOL osdRowBright(tagITEM_NODE_S* pstItem, OSD_BOOL bSelected)
+bool osdRowBright(tagITEM_NODE_S* pstItem, OSD_BOOL bSelected)
 {
-    return bSelected == 1 && osdMenuIsSubItemSelected(pstItem) == 0 ? 1 : 0;
+    return bSelected == 1 && !osdItemSubSelected(pstItem);
 }
 
 TTF_Font* osdRowSkinFont(OSD_BOOL bSelected)
@@ -35,29 +35,15 @@ TTF_Font* osdRowSkinFont(OSD_BOOL bSelected)
     return enMenuStyle == 1 && bSelected != 0 ? gstMenuMgr.pstSelectFont : gstMenuMgr.pstFont;
 }
 
-static int osdRowSetFont(TTF_Font* pstFont, int s32Size)
-{
-    if (TTF_SetFontSize(pstFont, s32Size) != 0) {
-        osdTrace("%s %d\n", OSD_PLACE);
-        return -1;
-    }
-    return 0;
-}
+bool osdRowSetSize(int s32Size, const char* pcFunc) { return osdFontSetSize(gstMenuMgr.pstFont, s32Size, pcFunc); }
 
-int osdRowSetSize(int s32Size) { return osdRowSetFont(gstMenuMgr.pstFont, s32Size); }
-
-int osdRowSetBothSizes(int s32Size)
+bool osdRowSetBothSizes(int s32Size, const char* pcFunc)
 {
     (void)TTF_SetFontSize(gstMenuMgr.pstFont, s32Size); // the bold font's answer counts for both
-    return osdRowSetFont(gstMenuMgr.pstSelectFont, s32Size);
+    return osdFontSetSize(gstMenuMgr.pstSelectFont, s32Size, pcFunc);
 }
 
-SDL_Rect osdRowMeasure(const tagITEM_NODE_S* pstItem)
-{
-    SDL_Rect stSize = {};
-    (void)TTF_SizeUTF8(gstMenuMgr.pstFont, pstItem->acItemName, &stSize.w, &stSize.h); // 0 by 0 on failure
-    return stSize;
-}
+SDL_Rect osdRowMeasure(const tagITEM_NODE_S* pstItem) { return osdTextSize(gstMenuMgr.pstFont, pstItem->acItemName); }
 
 static int osdRowLeft(const tagROW_GEOM_S& stGeom, const tagITEM_NODE_S* pstItem, int s32TxtW)
 {
@@ -97,28 +83,18 @@ SDL_Rect osdRowLabel(const tagROW_GEOM_S& stGeom, const tagITEM_NODE_S* pstItem,
 static SDL_Rect osdRowColumn(const tagROW_GEOM_S& stGeom, const SDL_Rect& stLabel)
 {
     const float f32MenuW = osdF32(gstMenuMgr.stCanvas.stMenuRect.w);
-    const int s32W = osdTrunc(f32MenuW * stGeom.f32ValueFrame * gs_f32ValueShare);
-    return {osdTrunc(f32MenuW * gs_f32ValueRight - osdF32(s32W)), stLabel.y, s32W, stLabel.h};
+    const int s32W = osdTrunc(f32MenuW * stGeom.f32ValueFrame * c_f32ValueShare);
+    return {osdTrunc(f32MenuW * c_f32ValueRight - osdF32(s32W)), stLabel.y, s32W, stLabel.h};
 }
 
-OSD_SURFACE_PTR osdRowValueSurface(const tagROW_S& stRow, tagROW_VALUE_S stValue, const SDL_Rect& stColumn)
+OSD_SURFACE_PTR osdRowValueSurface(const tagROW_S& stRow, const tagROW_VALUE_S& stValue, const SDL_Rect& stColumn)
 {
-    SDL_Surface* pstValue = nullptr; // stays null without a text
-    if (stRow.pstItem->enCtx == NAME_BAR_VAL) {
-        (void)OSD_COMM_GetBarTxtSurface(stRow.pstFont, stValue.acText, stValue.s32Pos, stValue.s32Cnt, stRow.s32Size,
-                                        stRow.bBright, stColumn, &pstValue);
-    } else {
-        (void)OSD_COMM_GetTxtSurface(stRow.pstFont, stValue.acText, stRow.s32Size, stRow.bBright, &pstValue);
-    }
-    return OSD_SURFACE_PTR(pstValue);
+    return stRow.pstItem->enCtx == NAME_BAR_VAL
+               ? osdBarSurface(osdRowWidget(stRow, stValue), stValue.stBar, stColumn)
+               : osdTextLit(stRow.pstFont, stValue.acText, stRow.s32Size, stRow.bBright ? 1 : 0);
 }
 
-static int osdRowTextWidth(const char* pcText)
-{
-    int s32W = 0;
-    (void)TTF_SizeUTF8(gstMenuMgr.pstFont, pcText, &s32W, nullptr); // 0 on failure
-    return s32W;
-}
+static int osdRowTextWidth(const char* pcText) { return osdTextWidth(gstMenuMgr.pstFont, pcText); }
 
 // Left edge and width of the caret, under the character that is being edited.
 static SDL_Rect osdRowCaret(const tagROW_GEOM_S& stGeom, int32_t s32Cursor, const tagROW_VALUE_S& stValue, int s32Left)
@@ -127,7 +103,7 @@ static SDL_Rect osdRowCaret(const tagROW_GEOM_S& stGeom, int32_t s32Cursor, cons
     const char acDigit[2] = {stValue.acText[s32At], '\0'};
     SDL_Rect stCaret = {s32Left, 0, osdRowTextWidth(acDigit), 0};
     if (s32At > 0) {
-        char acBefore[OSD_TEXT_LEN];
+        OSD_TEXT acBefore;
         memcpy(acBefore, stValue.acText, sizeof(acBefore));
         acBefore[s32At] = '\0';
         stCaret.x += osdRowTextWidth(acBefore);
@@ -141,7 +117,7 @@ static void osdRowCaretDraw(const tagROW_GEOM_S& stGeom, SDL_Rect stCaret, const
     const float f32Gap = osdF32(gstMenuMgr.stCanvas.stMenuRect.h) * stGeom.f32NextGap;
     stCaret.y = osdTrunc(osdF32(osdClampS32(int64_t{stColumn.y} + stColumn.h)) + f32Gap / 3.0f);
     stCaret.h = osdTrunc(f32Gap / stGeom.f32CaretPart);
-    (void)OSD_COMM_DrawLine(gstMenuMgr.pstSurface, stCaret); // a row without caret is still a row
+    osdShapeLine(gstMenuMgr.pstSurface, stCaret); // a row without caret is still a row
 }
 
 void osdRowDrawValue(const tagROW_GEOM_S& stGeom, const tagROW_S& stRow, OSD_VALUE_FUNC pfnSurface)
@@ -149,15 +125,21 @@ void osdRowDrawValue(const tagROW_GEOM_S& stGeom, const tagROW_S& stRow, OSD_VAL
     tagITEM_NODE_S* pstItem = stRow.pstItem;
     const SDL_Rect stColumn = osdRowColumn(stGeom, stRow.stLabel);
     tagROW_VALUE_S stValue = {};
-    stValue.s32Cnt = 1; // a text has no place on a bar: the block stands at the left end
-    (void)osdMenuGetItemValInfo(pstItem, stValue.acText, &stValue.s32Pos, &stValue.s32Cnt); // empty on failure
+    stValue.stBar.s32Count = 1; // a text has no place on a bar: the block stands at the left end
+    osdValueShown(pstItem, stValue.acText, &stValue.stBar.s32Index, &stValue.stBar.s32Count); // empty on failure
     const OSD_SURFACE_PTR pstValue = pfnSurface(stRow, stValue, stColumn);
     if (pstItem->enCtx == NAME_IP_VAL && pstItem->bEditing == 1) {
         osdRowCaretDraw(stGeom, osdRowCaret(stGeom, pstItem->s32EditCursor, stValue, stColumn.x), stColumn);
     }
     if (pstValue != nullptr) {
-        (void)OSD_MENU_FillData2Canvas(pstValue.get(), stColumn); // always 0
+        osdRowPut(pstValue.get(), stColumn);
     }
+}
+
+void osdRowPut(SDL_Surface* pstSrc, const SDL_Rect& stDst)
+{
+    SDL_Rect stPlace = osdRectInRange(stDst);
+    (void)SDL_UpperBlit(pstSrc, nullptr, gstMenuMgr.pstSurface, &stPlace); // a missing source is no failure
 }
 
 void osdRowEnd(const SDL_Rect& stLabel, SDL_Rect* pstLayoutCursor)
@@ -168,32 +150,9 @@ void osdRowEnd(const SDL_Rect& stLabel, SDL_Rect* pstLayoutCursor)
 
 void osdRowSubItems(tagITEM_NODE_S* pstItem, SDL_Rect* pstLayoutCursor, OSD_ROW_FUNC pfnDraw)
 {
-    if (osdMenuHasSubItem(pstItem) == 1) {
+    if (osdItemHasSubItems(pstItem)) {
         for (tagITEM_NODE_S* pstSub : osdItems(&pstItem->astSubList[pstItem->s32CurIdx])) {
-            (void)pfnDraw(pstSub, pstLayoutCursor, pstSub->bActive);
+            pfnDraw(pstSub, pstLayoutCursor, pstSub->bActive);
         }
     }
-}
-
-int OSD_MENU_FillData2Canvas(SDL_Surface* pstSrc, SDL_Rect stDst)
-{
-    SDL_Rect stPlace = osdRectInRange(stDst);
-    (void)SDL_UpperBlit(pstSrc, nullptr, gstMenuMgr.pstSurface, &stPlace); // a missing source is no failure
-    return 0;
-}
-
-int OSD_MENU_HandleKeyMsg(SDL_Rect /*stLayoutCursor*/)
-{
-    const tagPAGE_NODE_S* pstPage = osdXmlGetCurPage();
-    if (pstPage == nullptr || pstPage->bKeyMsg != 1) {
-        return 0;
-    }
-    const tagLAYOUT_S* pstLayout = osdLayoutFind(pstPage->enLayout);
-    if (pstLayout == nullptr || pstLayout->pfnDrawMsg == nullptr) {
-        return 0;
-    }
-    tagITEM_NODE_S stRow = osdRowOfText(pstPage->acKeyMsg, ITEM_LEVEL_UNDER_TITLE, MSG_LINE);
-    SDL_Rect stCursor = {}; // its place doesn't depend on the rows above
-    (void)pstLayout->pfnDrawMsg(&stRow, &stCursor, 1);
-    return 0;
 }

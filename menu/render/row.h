@@ -4,6 +4,7 @@
 #include <SDL_ttf.h>
 
 #include "comm/guard.h"
+#include "comm/widget.h"
 #include "osd_records.h"
 
 // Fractions of a list, of the menu's width W and height H.
@@ -24,32 +25,32 @@ struct tagROW_S {
     tagITEM_NODE_S* pstItem;
     TTF_Font* pstFont; // of the value, and of the label unless it stands alone
     int s32Size;
-    OSD_BOOL bBright;
+    bool bBright;
     SDL_Rect stLabel; // place of the label, size of its text
 };
 
 // Text of a value, and its state on a bar.
 struct tagROW_VALUE_S {
-    char acText[OSD_TEXT_LEN];
-    int s32Pos;
-    int s32Cnt;
+    OSD_TEXT acText;
+    tagBAR_STATE_S stBar;
 };
 
-using OSD_ROW_FUNC = int (*)(tagITEM_NODE_S*, SDL_Rect*, OSD_BOOL);
+// Draws a row with its sub-items and moves the cursor of the draw to the last of them; false where the row has no text.
+using OSD_ROW_FUNC = bool (*)(tagITEM_NODE_S*, SDL_Rect*, OSD_BOOL);
 
 // A line of text drawn as an item: the title (TITLE_LINE) or the message line (MSG_LINE).
-tagITEM_NODE_S osdRowOfText(const char (&acText)[OSD_TEXT_LEN], tagITEM_LEVEL_E enLevel, tagITEM_ATTR_E enAttr);
+tagITEM_NODE_S osdRowOfText(const OSD_TEXT& acText, tagITEM_LEVEL_E enLevel, tagITEM_ATTR_E enAttr);
 
 // Whether a selected item is bright: not while one of its sub-items holds the cursor.
-OSD_BOOL osdRowBright(tagITEM_NODE_S* pstItem, OSD_BOOL bSelected);
+bool osdRowBright(tagITEM_NODE_S* pstItem, OSD_BOOL bSelected);
 
 // The font of a text that the skin may set off: bold for a selected one in style 1.
 TTF_Font* osdRowSkinFont(OSD_BOOL bSelected);
 
-// Sets the regular font to the size, or both fonts of the menu. Returns 0, or -1 with a line in the log; for both the
-// bold one's answer counts.
-int osdRowSetSize(int s32Size);
-int osdRowSetBothSizes(int s32Size);
+// Sets the regular font to the size, or both fonts of the menu, in the name of pcFunc; false with a line in the log. For
+// both the bold one's answer counts.
+bool osdRowSetSize(int s32Size, const char* pcFunc);
+bool osdRowSetBothSizes(int s32Size, const char* pcFunc);
 
 // The size of the item's label in the regular font, at 0, 0; empty where it can't be measured.
 SDL_Rect osdRowMeasure(const tagITEM_NODE_S* pstItem);
@@ -58,13 +59,23 @@ SDL_Rect osdRowMeasure(const tagITEM_NODE_S* pstItem);
 SDL_Rect osdRowLabel(const tagROW_GEOM_S& stGeom, const tagITEM_NODE_S* pstItem, const SDL_Rect& stAbove);
 
 // Makes the surface of a value for its column; null when it is empty.
-using OSD_VALUE_FUNC = OSD_SURFACE_PTR (*)(const tagROW_S& stRow, tagROW_VALUE_S stValue, const SDL_Rect& stColumn);
+using OSD_VALUE_FUNC = OSD_SURFACE_PTR (*)(const tagROW_S& stRow, const tagROW_VALUE_S& stValue,
+                                           const SDL_Rect& stColumn);
 
 // The value as a bar or a text.
-OSD_SURFACE_PTR osdRowValueSurface(const tagROW_S& stRow, tagROW_VALUE_S stValue, const SDL_Rect& stColumn);
+OSD_SURFACE_PTR osdRowValueSurface(const tagROW_S& stRow, const tagROW_VALUE_S& stValue, const SDL_Rect& stColumn);
 
 // Draws the value column of the row, with the caret of an edited address.
 void osdRowDrawValue(const tagROW_GEOM_S& stGeom, const tagROW_S& stRow, OSD_VALUE_FUNC pfnSurface);
+
+// The text of a value with what a widget needs of its row.
+inline tagWIDGET_TEXT_S osdRowWidget(const tagROW_S& stRow, const tagROW_VALUE_S& stValue)
+{
+    return {stRow.pstFont, stValue.acText, stRow.s32Size, stRow.bBright ? 1 : 0};
+}
+
+// Blits the whole of a surface onto the canvas; a null surface draws nothing.
+void osdRowPut(SDL_Surface* pstSrc, const SDL_Rect& stDst);
 
 // Moves the cursor of the draw to the row.
 void osdRowEnd(const SDL_Rect& stLabel, SDL_Rect* pstLayoutCursor);

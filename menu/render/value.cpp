@@ -1,10 +1,10 @@
+#include "menu/render/value.h"
 
-#include "osd_page.h"
 #include <cstdio>
 
 #include "comm/arith.h"
 #include "comm/text.h"
-#include "menu/core/flat_list.h"
+#include "menu/core/item.h"
 #include "menu/core/value_bind.h"
 #include "menu/core/words.h"
 #include "platform/config_call.h"
@@ -23,61 +23,38 @@ static void osdValueOfNumber(const tagITEM_NODE_S* pstItem, char* pcValue, int* 
 }
 
 // The value as its source has it now. Addresses are shown as they are, every other text is a key.
-static void osdValueLive(tagITEM_NODE_S* pstItem, char* pcValue)
+static void osdValueLive(const tagITEM_NODE_S* pstItem, char* pcValue)
 {
-    (void)osdMenuGetTxtValue(pstItem->acItemIndex, pstItem->acDataZone, pcValue); // always 0
+    const tagVALUE_TEXT_S stText = osdValueText(pstItem->acItemIndex, pstItem->acDataZone);
     if (osdTextEqual(pstItem->acItemIndex, OSD_KEY_IP_ADDR)) {
+        osdTextCopy(pcValue, sizeof(stText.acText), stText.acText, sizeof(stText.acText));
         return;
     }
-    char acLanguage[OSD_TEXT_LEN];
-    char acTranslated[OSD_TEXT_LEN] = {};
-    (void)osdCfgLanguage(acLanguage); // without a translation the value stays empty
-    (void)osdCfgTranslate(acLanguage, pcValue, acTranslated);
+    OSD_TEXT acLanguage;
+    OSD_TEXT acTranslated = "";
+    osdCfgLanguage(acLanguage); // without a translation the value stays empty
+    osdCfgTranslate(acLanguage, stText.acText, acTranslated);
     osdTextCopy(pcValue, OSD_TEXT_LEN, acTranslated, sizeof(acTranslated));
 }
 
-int osdMenuGetItemValInfo(tagITEM_NODE_S* pstItemNode, char* pcValue, int* ps32Pos, int* ps32Cnt)
+bool osdValueShown(const tagITEM_NODE_S* pstItem, char* pcValue, int* ps32Pos, int* ps32Cnt)
 {
-    switch (pstItemNode->enValType) {
+    switch (pstItem->enValType) {
     case NUMERICAL:
-        osdValueOfNumber(pstItemNode, pcValue, ps32Pos, ps32Cnt);
-        return 0;
+        osdValueOfNumber(pstItem, pcValue, ps32Pos, ps32Cnt);
+        return true;
     case OPTTXT:
-        if (pstItemNode->bShowValue == 1) {
-            osdValueLive(pstItemNode, pcValue);
-            return 0;
+        if (pstItem->bShowValue == 1) {
+            osdValueLive(pstItem, pcValue);
+            return true;
         }
-        osdTextCopy(pcValue, OSD_TEXT_LEN, osdItemOption(pstItemNode, pstItemNode->s32CurIdx), OSD_TEXT_LEN);
-        *ps32Pos = pstItemNode->s32CurIdx;
-        *ps32Cnt = pstItemNode->s32ValCnt;
-        return 0;
+        osdTextCopy(pcValue, OSD_TEXT_LEN, osdItemOption(pstItem, pstItem->s32CurIdx), OSD_TEXT_LEN);
+        *ps32Pos = pstItem->s32CurIdx;
+        *ps32Cnt = pstItem->s32ValCnt;
+        return true;
     case EDITTXT:
-        osdTextCopy(pcValue, OSD_TEXT_LEN, pstItemNode->acValue[1], OSD_TEXT_LEN);
-        return 0;
+        osdTextCopy(pcValue, OSD_TEXT_LEN, pstItem->acValue[1], OSD_TEXT_LEN);
+        return true;
     }
-    return -1;
-}
-
-OSD_BOOL osdMenuJudgeNetWorkofDhcp(tagITEM_NODE_S* pstItemNode)
-{
-    if (!osdTextEqual(pstItemNode->acItemIndex, OSD_KEY_IP_MODE)) {
-        return 0;
-    }
-    char acLanguage[OSD_TEXT_LEN];
-    char acDhcp[OSD_TEXT_LEN] = {};
-    char acAuto[OSD_TEXT_LEN] = {};
-    (void)osdCfgLanguage(acLanguage); // options are compared by their labels, as good as they are
-    (void)osdCfgTranslate(acLanguage, OSD_WORD_DHCP_IP, acDhcp);
-    (void)osdCfgTranslate(acLanguage, OSD_WORD_AUTO_MODE, acAuto);
-    list_head* pstSubList = osdItemSubList(pstItemNode, pstItemNode->s32CurIdx);
-    if (pstSubList == nullptr || !osdTextFieldEqual(osdItemOption(pstItemNode, pstItemNode->s32SavedIdx), acDhcp)) {
-        return 0;
-    }
-    for (const tagITEM_NODE_S* pstSub : osdItems(pstSubList)) {
-        if (osdTextEqual(pstSub->acItemIndex, OSD_KEY_DNS_MODE) &&
-            osdTextFieldEqual(osdItemOption(pstSub, pstSub->s32CurIdx), acAuto)) {
-            return 1;
-        }
-    }
-    return 0;
+    return false;
 }

@@ -3,7 +3,7 @@
 #include <stdexcept>
 #include <utility>
 
-#include "osd_menu.h"
+#include "osd_page.h"
 #include "simulator/core/errors.h"
 #include "simulator/core/log.h"
 #include "simulator/host/callbacks.h"
@@ -43,6 +43,9 @@ MenuHost::MenuHost(Camera& camera, MenuConfig config) : camera_(camera), config_
 
 MenuHost::~MenuHost()
 {
+    while (is_open()) {
+        osdMenuReleaseSinglePage(); // the library forgets open pages when it starts anew
+    }
     overlays_.hide_all();
     Osd_GetVersionCallback(nullptr, nullptr);
     for (const auto& [name, use] : camera_.memory().in_use()) {

@@ -216,7 +216,7 @@ if __name__ == "__main__":
     parser.add_argument("program")
     parser.add_argument("--screenshot", type=Path)
     words, rest = parser.parse_known_args()
-    camera, browser = Camera(words.program), Browser()
+    camera, browser = Camera(words.program, "--still"), Browser()
     defaults = camera.get("settings.json")
     if words.screenshot:
         camera.keys("menu home down")

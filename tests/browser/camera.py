@@ -16,8 +16,8 @@ RESOURCES = Path(__file__).resolve().parents[2] / "resource"
 
 
 class Camera:
-    def __init__(self, program):
-        self.program = program
+    def __init__(self, program, *options, environment=None):
+        self.program, self.options, self.environment = program, options, environment
         self.keeper = tempfile.TemporaryDirectory(ignore_cleanup_errors=True)
         self.folder = Path(self.keeper.name)
         shutil.copytree(RESOURCES, self.folder / "resources")
@@ -25,18 +25,21 @@ class Camera:
         atexit.register(self.stop)
 
     def start(self, address):
-        command = [self.program, "--listen", address, "--still", "--data", self.folder / "data",
+        command = [self.program, *self.options, "--listen", address, "--data", self.folder / "data",
                    "--resources", self.folder / "resources"]
         with open(self.folder / "log", "a", encoding="utf-8") as log:
-            self.process = subprocess.Popen(command, stdout=subprocess.PIPE, stderr=log, text=True)
+            self.process = subprocess.Popen(command, stdout=subprocess.PIPE, stderr=log, text=True, env=self.environment)
         line = self.process.stdout.readline()  # printed when the camera is ready
         if "http://" not in line:
-            raise AssertionError("the camera doesn't start:\n" + (self.folder / "log").read_text("utf-8")[-2000:])
+            raise AssertionError("the camera doesn't start:\n" + self.log()[-2000:])
         self.address = line[line.index("http://"):].split()[0]
 
     def stop(self):
         self.process.terminate()
-        self.process.communicate()
+        self.process.wait(60)
+
+    def log(self):
+        return (self.folder / "log").read_text("utf-8", "replace")
 
     def get(self, path):
         return json.loads(fetch("GET", self.address + path))

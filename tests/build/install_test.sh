@@ -22,11 +22,13 @@ paths=$(strings -a "$lib/libosdmenu.so" | grep resource || true)
 grep -q '^/app/resource/ttf/font\.ttf' <<<"$paths" || fail "/app/resource is not the resource folder"
 ! grep -rlF -e "$product" -e "$work/first" -e "$(readlink -f "$here/../..")" "$work/moved" || fail "build paths are inside"
 
-cmake -S "$here/host" -B "$work/host-cmake" -G Ninja -DCMAKE_PREFIX_PATH="$work/moved" >/dev/null
+mkdir -p "$work/tests/build"
+cp -r "$here/host" "$work/tests/build"
+cmake -S "$work/tests/build/host" -B "$work/host-cmake" -G Ninja -DCMAKE_PREFIX_PATH="$work/moved" >/dev/null
 ninja -C "$work/host-cmake" >/dev/null
 export PKG_CONFIG_PATH=$lib/pkgconfig
 # shellcheck disable=SC2046
-g++ -std=c++17 "$here/host/main.cpp" -o "$work/host-pkgconfig" $(pkg-config --cflags --libs osdmenu tinyxml2)
+g++ -std=c++17 -I"$work" "$work"/tests/build/host/*.cpp -o "$work/host-pkgconfig" $(pkg-config --cflags --libs osdmenu tinyxml2)
 
 # The product without its fonts has to refuse, cleanly; the same host opens the menu where there are fonts.
 expected=refuse

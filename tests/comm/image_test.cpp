@@ -40,6 +40,9 @@ TEST_F(ImageTest, FailuresReleaseInOrder)
         EXPECT_EQ(printed([&] { EXPECT_EQ(load("bar", {0, 0, 9, 9}), -1); }), c.printed);
         EXPECT_EQ(linesOf({"free "}), c.freed);
     }
+    calls().pictureSize = 0;
+    EXPECT_EQ(printed([&] { EXPECT_EQ(load("bar", {0, 0, 9, 9}), -1); }), "F L failed\n") << "nothing to scale";
+    EXPECT_EQ(calls().lines.back(), "free loaded bar");
     const std::string stem(200, 's');
     const std::string cut = "F L failed, acFilePath = " + (PIC + stem).substr(0, 126) + "\n";
     EXPECT_EQ(printed([&] { EXPECT_EQ(load(stem, {0, 0, 9, 9}), -1); }), cut);

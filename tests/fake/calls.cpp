@@ -86,7 +86,11 @@ std::string printed(const std::function<void()>& function)
     testing::internal::CaptureStdout();
     function();
     (void)fflush(stdout);
-    const std::string lines = replaced(testing::internal::GetCapturedStdout(), R"((\w+)([ :-])\d+)", "F$2L");
+    const std::string captured = testing::internal::GetCapturedStdout();
+    if (testing::Test::HasFailure()) {
+        (void)fputs(captured.c_str(), stdout); // what failed stands there too
+    }
+    const std::string lines = replaced(captured, R"((\w+)([ :-])\d+)", "F$2L");
     return replaced(lines, R"(\w+( don't find ))", "F$1");
 }
 

@@ -18,7 +18,8 @@ struct Calls {
     std::set<std::string> missingFiles;                 // base names that can't be opened
     bool fakeFonts = true;                              // of one size, instead of SDL_ttf
     int byteWidth = 20, lineHeight = 30;                // of the fake fonts
-    bool fakePictures = true;                           // plain 100 by 100 pictures instead of files
+    bool fakePictures = true;                           // plain pictures instead of files
+    int pictureSize = 100;                              // width and height of the fake pictures
     std::string lastFile;                               // base name of the font file opened last
     std::map<const void*, std::string> surfaces;        // alive, with their descriptions
     struct Font {

@@ -234,8 +234,9 @@ SDL_Surface* IMG_Load(const char* path)
     const std::string file = fake::baseName(path);
     const std::string stem = file.substr(0, file.find('.'));
     const SDL_Color colour = stem == "block" ? SDL_Color{255, 0, 0, 255} : SDL_Color{0, 0, 255, 255};
+    const int size = calls().pictureSize;
     return create("IMG_Load", format("load %s", path), "loaded " + stem,
-                  [&] { return calls().fakePictures ? filled(100, 100, colour) : REAL(IMG_Load)(path); });
+                  [&] { return calls().fakePictures ? filled(size, size, colour) : REAL(IMG_Load)(path); });
 }
 
 void SDL_FreeSurface(SDL_Surface* surface)

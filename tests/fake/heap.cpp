@@ -1,5 +1,6 @@
 // Stands in front of the heap for blocks of an item's size: fails one, and counts what is left. Runs before the
 // sanitizer has started, so this file is compiled without it and uses no inline function of a library.
+#include <malloc.h>
 #include <stddef.h>
 
 #include "osd_records.h"
@@ -12,25 +13,9 @@ void* __libc_calloc(size_t, size_t);
 void __libc_free(void*);
 }
 
-static void* g_items[4096];
-static int g_used = 0; // entries that have ever been taken
+static size_t g_itemBlock = 0; // what the heap calls the size of an item's block
 static int g_live = 0;
 static char g_text[OSD_TEXT_LEN]; // of the item released last
-
-static bool swapEntry(void* from, void* to)
-{
-    for (int i = 0; i < g_used; i++) {
-        if (g_items[i] == from) {
-            g_items[i] = to;
-            return true;
-        }
-    }
-    if (from != nullptr || g_used == sizeof g_items / sizeof g_items[0]) {
-        return false;
-    }
-    g_items[g_used++] = to;
-    return true;
-}
 
 int fake::liveItems() { return g_live; }
 const char* fake::releasedText() { return g_text; }
@@ -42,13 +27,16 @@ extern "C" void* calloc(size_t count, size_t size)
         return nullptr;
     }
     void* block = __interceptor_calloc != nullptr ? __interceptor_calloc(count, size) : __libc_calloc(count, size);
-    g_live += item && swapEntry(nullptr, block) ? 1 : 0;
+    if (item) {
+        g_itemBlock = malloc_usable_size(block);
+        g_live++;
+    }
     return block;
 }
 
 extern "C" void free(void* block)
 {
-    if (block != nullptr && g_live > 0 && swapEntry(block, nullptr)) {
+    if (block != nullptr && g_live > 0 && malloc_usable_size(block) == g_itemBlock) {
         g_live--;
         __builtin_memcpy(g_text, static_cast<tagITEM_NODE_S*>(block)->acValue[0], sizeof g_text);
     }

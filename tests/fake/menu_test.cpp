@@ -1,15 +1,33 @@
 #include "tests/fake/menu_test.h"
 
 #include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 
 #include "osd_page.h"
 
 namespace fake {
 
+// What no fake sees: descriptors, blocks inside SDL, and files mapped as a fake font.
+static std::string held()
+{
+    const auto descriptors = std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
+    const std::string program = std::filesystem::read_symlink("/proc/self/exe");
+    std::ifstream maps("/proc/self/maps");
+    int mapped = 0;
+    for (std::string line; std::getline(maps, line);) {
+        mapped += line.find(program) != std::string::npos ? 1 : 0;
+    }
+    return format("%td descriptors, %d blocks, %d mapped", descriptors, SDL_GetNumAllocations(), mapped);
+}
+
 void MenuTest::SetUp()
 {
     calls() = {};
     platform() = {};
+    SDL_ClearError(); // makes the thread's record of errors, which stays
+    heldBefore = held();
     calls().recording = true;
 }
 
@@ -50,6 +68,8 @@ void MenuTest::TearDown()
     EXPECT_EQ(platform().blocks.size(), 0u);
     EXPECT_EQ(platform().damaged, 0);
     EXPECT_EQ(platform().documents, 0);
+    SDL_ClearHints();
+    EXPECT_EQ(held(), heldBefore);
     EXPECT_TRUE(calls().surfaces.empty()) << "surface left: " << calls().surfaces.begin()->second;
     EXPECT_EQ(pthread_mutex_trylock(&g_stMutex), 0) << "the render lock is still held";
     (void)pthread_mutex_unlock(&g_stMutex);

@@ -32,6 +32,9 @@ protected:
 
     // Parses a document text as the page of that name and counts it as open.
     tagPAGE_NODE_S* open(const std::string& name, const std::string& document, int expected = 0);
+
+private:
+    std::string heldBefore;
 };
 
 // One pixel of a surface as 0xAARRGGBB.

@@ -1,8 +1,12 @@
 // Every call that can fail fails once, alone: nothing is left over, and the next draw is the undisturbed picture.
+#include <algorithm>
+#include <cstdlib>
 #include <cstring>
+#include <tinyxml2.h>
 
 #include "menu/core/flat_list.h"
-#include "menu/core/page.h"
+#include "osd_page.h"
+#include "osd_xml.h"
 #include "tests/fake/keys.h"
 #include "tests/fake/menu_test.h"
 
@@ -110,6 +114,112 @@ TEST_F(FaultTest, Redraw)
                 });
         }
         (void)osdMenuReleaseSinglePage();
+    }
+}
+
+// A page draws on without what can't be drawn; who draws one item alone learns of it.
+TEST_F(FaultTest, RendererReportsWhatItCantDraw)
+{
+    tagITEM_NODE_S item = {};
+    setField(item.acItemName, "Gain");
+    const auto row = [&item](auto draw) {
+        return [&item, draw] {
+            SDL_Rect cursor = {1, 2, 3, 4};
+            const int result = draw(&item, &cursor, 1);
+            EXPECT_EQ(cursor.y == 2 && cursor.h == 4, result != 0) << "moves behind a row that is drawn";
+            return result;
+        };
+    };
+    using Failing = std::vector<std::pair<const char*, int>>; // calls by name, and which of them fails
+    const Failing plain = {{"TTF_SetFontSize", 1}, {"TTF_RenderUTF8_Blended", 1}};
+    const Failing skinned = {{"TTF_SetFontSize", 2}, {"TTF_RenderUTF8_Blended", 1}};
+    const Failing icon = {{"TTF_SetFontSize", 1}, {"access", 1}, {"TTF_RenderUTF8_Blended", 1}};
+    const std::pair<std::function<int()>, Failing> cases[] = {
+        {row(OSD_MENU_RenderVerticalItem), skinned},
+        {row(OSD_MENU_RenderVerticalTolvaneItem), skinned},
+        {row(OSD_MENU_RenderVerticalKETHItem), plain},
+        {row(OSD_MENU_RenderTitleKETHItem), plain},
+        {row(OSD_MENU_RenderHorizontalItem), plain},
+        {row(OSD_MENU_RenderHorizontalItemWithKETH), plain},
+        {[&] { return OSD_MENU_RenderIconText(&item, 1); }, icon},
+        {[&] { return OSD_MENU_RenderBelowIcon(&item); }, {{"access", 1}}}};
+    const size_t surfaces = calls().surfaces.size();
+    for (const auto& c : cases) {
+        SCOPED_TRACE(&c - cases);
+        EXPECT_EQ(c.first(), 0);
+        for (const auto& [call, n] : c.second) {
+            failCall(call, n);
+            int result = 0;
+            (void)printed([&] { result = c.first(); });
+            EXPECT_EQ(result, -1) << call;
+            EXPECT_EQ(calls().surfaces.size(), surfaces) << call;
+        }
+    }
+}
+
+TEST_F(FaultTest, SurfaceGoesWithItsCanvasOrStays)
+{
+    SDL_Surface* none = nullptr;
+    SDL_Surface* surface = gstMenuMgr.pstSurface;
+    EXPECT_EQ(OSD_COMM_DestroySurface(nullptr, none), 0);
+    EXPECT_EQ(OSD_COMM_DestroySurface(&gstMenuMgr.stCanvas, none), -1);
+    EXPECT_EQ(OSD_COMM_DestroySurface(nullptr, surface), -1);
+    EXPECT_EQ(surface, gstMenuMgr.pstSurface);
+    EXPECT_EQ(platform().blocks.size(), 2u);
+}
+
+TEST_F(FaultTest, PageThatCantBeReadIsReported)
+{
+    char name[] = "page";
+    for (const char* text : {"", "<"}) { // first there is no document, then none with a root
+        tagPAGE_NODE_S page;
+        memset(&page, 0xA5, sizeof page);
+        (void)printed([&] { EXPECT_EQ(OSD_MENU_ParseXml(name, &page), -1); });
+        EXPECT_EQ(page.stItemList.next, &page.stItemList) << "empty";
+        platform().pages[name] = text;
+    }
+    char language[] = "English";
+    for (const auto& [attr, text] : {std::pair(CONFIRM, "<I/>"), {CONFIRM_POP, "<I Value='Go'/>"}}) {
+        tinyxml2::XMLDocument button; // first without its text, then without its page
+        ASSERT_EQ(button.Parse(text), tinyxml2::XML_SUCCESS);
+        tagITEM_NODE_S item = {};
+        item.enCtx = NAME_VAL;
+        item.enAttr = attr;
+        (void)printed(
+            [&] { EXPECT_EQ(osdXmlFillItemParam(language, button.RootElement(), &item), -1) << item.enAttr; });
+    }
+}
+
+TEST_F(FaultTest, StartFollowsNothingInTheManagers)
+{
+    tagITEM_NODE_S* own = addItem(addPage(PAGE_LAYOUT_VERTICAL), "Gain", NAME, CONST_TXT); // the host's to free
+    memset(&gstPageMgr.astPage[1], 0x5A, sizeof gstPageMgr.astPage[1]);
+    memset(&gstMenuMgr, 0x5A, sizeof gstMenuMgr);
+    EXPECT_EQ(init(), 0);
+    EXPECT_THAT(
+        linesOf({"push", "free", "release", "close"}),
+        testing::ElementsAre("free canvas", "release menu_scale", "release menu_mem", "close bold", "close plain"))
+        << "of the start before";
+    EXPECT_STREQ(own->acItemName, "Gain");
+    free(own);
+    const auto* bytes = reinterpret_cast<const char*>(&gstPageMgr);
+    EXPECT_EQ(std::count(bytes, bytes + sizeof gstPageMgr, '\0'), std::ptrdiff_t{sizeof gstPageMgr});
+    EXPECT_EQ(platform().canvasAtCreate.stMem.pvVirAddr, nullptr);
+}
+
+TEST_F(FaultTest, CutTakesNoMoreThanOneCharacter)
+{
+    const std::string letters(29, 'x');
+    const std::pair<std::string, size_t> cases[] = {{letters + "xx", 31}, // an option, and the bytes of it that fit
+                                                    {letters + "x\u00E9", 30},
+                                                    {letters + "\U0001F600", 29},
+                                                    {std::string(40, '\x80'), 28}}; // no character at all
+    for (const auto& [option, bytes] : cases) {
+        setText("Gain", option.c_str(), "");
+        const tagPAGE_NODE_S* page =
+            open("gain", "<P Layout='vertical_align'><I ItemIndex='Gain' Ctx='NAME_VAL' Attr='COMMON'/></P>");
+        EXPECT_EQ(itemAt(page->stItemList, 0)->acValueKey[0], option.substr(0, bytes));
+        EXPECT_EQ(osdMenuReleaseSinglePage(), 0);
     }
 }
 

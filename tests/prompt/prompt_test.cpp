@@ -67,7 +67,10 @@ TEST_F(PromptTest, LivesFromCreateToDestroy)
     EXPECT_EQ(OSD_PROMPT_UpdateText(LOOK, text), -1);
     calls().byteWidth = 50;
     calls().lineHeight = 21;
+    calls().lines.clear();
     ASSERT_EQ(OSD_PROMPT_Create(LOOK, text), 0); // 50 by 21: at 1895,1069, on a canvas of 52 by 24
+    EXPECT_THAT(linesOf({"push", "close", "free"}),
+                ElementsAre("push 1", "close plain", "free plain 100 ff112233 'A'"));
     EXPECT_EQ(pixelAt(gsOsdPromptItem.pstSurface, 3, 1), 0xFF112233u);
     EXPECT_EQ(pixelAt(gsOsdPromptItem.pstSurface, 51, 23), 0x88445566u);
     const OSD_PROMPT_CFG_S look = {70, 0, {0xFF, 0xFF, 0xEE, 0xDD}, {0x44, 0x88, 0, 0}, 0.0, 0.0}; // the place stays
@@ -76,9 +79,11 @@ TEST_F(PromptTest, LivesFromCreateToDestroy)
         calls().byteWidth = width;
         ASSERT_EQ(OSD_PROMPT_UpdateText(look, text), 0);
     }
-    EXPECT_THAT(linesOf({"alloc", "fill", "blit", "push"}),
-                ElementsAre("fill all 44880000", "blit plain 140 ffffeedd 'A' at 16,1", "push 1", "fill all 44880000",
-                            "blit plain 140 ffffeedd 'A' at -9,1", "push 1"));
+    EXPECT_THAT(linesOf({"alloc", "fill", "blit", "push", "free", "close"}),
+                ElementsAre("fill all 44880000", "blit plain 140 ffffeedd 'A' at 16,1", "push 1",
+                            "free plain 140 ffffeedd 'A'", "close plain", "fill all 44880000",
+                            "blit plain 140 ffffeedd 'A' at -9,1", "push 1", "free plain 140 ffffeedd 'A'",
+                            "close plain"));
     EXPECT_EQ(pixelAt(gsOsdPromptItem.pstSurface, 51, 0), 0x44880000u);
     EXPECT_EQ(at(gsOsdPromptItem.stCanvas.stMenuRect), "1892,1068 52x24");
     EXPECT_EQ(gsOsdPromptItem.stCfg.u32FontSize, 50u);
@@ -141,6 +146,8 @@ TEST_F(PromptTest, ZoomRatio)
         EXPECT_EQ(OSD_PROMPT_ShowZoomRatio(ratio), 0);
     }
     EXPECT_EQ(at(gsZoomRatioOsdItem.stCanvas.stMenuRect), "1860,1064 120x32");
+    const OSD_PROMPT_COLOR_S& ground = gsZoomRatioOsdItem.stCfg.stBgColor; // its canvas keeps four bits of each
+    EXPECT_EQ(format("%d %d,%d,%d", ground.u8Alpha, ground.u8Red, ground.u8Green, ground.u8Blue), "128 0,0,0");
     EXPECT_THAT(linesOf({"fill", "blit", "push"}),
                 ElementsAre("fill 0,1 120x32 88000000", "blit plain 328 white '888.8X' at 0,1", "push 1",
                             "fill all 88000000", "blit plain 328 white '2.5X' at 20,1", "push 1", "fill all 88000000",

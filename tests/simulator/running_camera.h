@@ -1,53 +1,53 @@
-// camera-sim as a process of its own, serving its web page.
+// camera-sim as a process of its own.
 #pragma once
 
 #include <csignal>
 #include <cstdio>
 #include <gtest/gtest.h>
 #include <string>
-#include <sys/wait.h>
-#include <unistd.h>
-#include <vector>
 
 #include <httplib.h>
 
 #include "tests/simulator/temp_folder.h"
 
-class RunningCamera {
+/// camera-sim with arguments and redirections as a shell takes them. What it prints can be read to its end.
+class CameraProcess {
 public:
-    explicit RunningCamera(std::vector<std::string> options = {})
+    explicit CameraProcess(const std::string& arguments)
+        : output_(popen(("echo $$; exec '" CAMERA_SIM "' " + arguments).c_str(), "re"))
     {
-        int ends[2];
-        EXPECT_EQ(pipe(ends), 0);
-        child_ = fork();
-        if (child_ == 0) {
-            dup2(ends[1], STDOUT_FILENO);
-            close(ends[0]);
-            (void)freopen(folder.path("log.txt").c_str(), "w", stderr);
-            options.insert(options.begin(), {CAMERA_SIM, "--data", folder.path("data"), "--listen", "127.0.0.1:0"});
-            std::vector<char*> arguments;
-            for (std::string& option : options) {
-                arguments.push_back(option.data());
-            }
-            arguments.push_back(nullptr);
-            execv(CAMERA_SIM, arguments.data());
-            _exit(127);
-        }
-        close(ends[1]);
-        FILE* lines = fdopen(ends[0], "r");
-        char line[200] = "";
-        EXPECT_NE(fgets(line, sizeof line, lines), nullptr) << folder.read("log.txt");
-        fclose(lines);
-        address = line;
-        port = std::atoi(address.substr(address.rfind(':') + 1).c_str());
+        id_ = std::stoi(next_line());
+    }
+
+    /// Empty at the end.
+    std::string next_line() const
+    {
+        char line[512] = "";
+        return fgets(line, sizeof line, output_) == nullptr ? "" : line;
+    }
+    void send(int signal) const { kill(id_, signal); }
+    /// Waits for its end; returns the status as waitpid has it.
+    int end() const { return pclose(output_); }
+
+private:
+    FILE* output_;
+    pid_t id_ = 0;
+};
+
+/// One that serves its web page.
+struct RunningCamera {
+    explicit RunningCamera(const std::string& options)
+        : process(options + " --listen 127.0.0.1:0 --data '" + folder.path("data").string() + "' 2>'" +
+                  folder.path("log.txt").string() + "'"),
+          address(process.next_line()), port(std::atoi(address.substr(address.rfind(':') + 1).c_str()))
+    {
+        EXPECT_NE(port, 0) << folder.read("log.txt");
     }
 
     ~RunningCamera()
     {
-        kill(child_, SIGTERM);
-        int status = -1;
-        waitpid(child_, &status, 0);
-        EXPECT_EQ(status, 0) << folder.read("log.txt");
+        process.send(SIGTERM);
+        EXPECT_EQ(process.end(), 0) << folder.read("log.txt");
     }
 
     /// A connection for one request.
@@ -59,9 +59,7 @@ public:
     }
 
     const TempFolder folder;
-    std::string address; ///< the line that it printed
-    int port = 0;
-
-private:
-    pid_t child_ = 0;
+    const CameraProcess process;
+    const std::string address; ///< the line that it printed
+    const int port;
 };

@@ -13,7 +13,7 @@ using testing::StartsWith;
 
 class WebTest : public testing::Test {
 protected:
-    static void SetUpTestSuite() { camera = new RunningCamera({"--still", "--reset"}); }
+    static void SetUpTestSuite() { camera = new RunningCamera("--still --reset"); }
     static void TearDownTestSuite()
     {
         delete camera;
@@ -68,13 +68,11 @@ TEST_F(WebTest, RefusesInWords)
         {"GET", "/nothing", {}, "", 404, "there is nothing at /nothing"},
         {"GET", "/../settings.json", {}, "", 404, "nothing"},
         {"GET", "/%2e%2e/%2e%2e/etc/passwd", {}, "", 404, "nothing"},
-        {"GET", "/index.html/", {}, "", 404, "nothing"},
         {"GET", "/channels/3/snapshot.png", {}, "", 404, "no channel '3'"},
         {"GET", "/a%0Ab", {}, "", 400, "control characters"},
         {"GET", "/" + std::string(4000, 'a'), {}, "", 414, "more than 300 bytes"},
         {"DELETE", "/settings", {}, "", 405, "takes GET, not DELETE"},
         {"POST", "/", {json_type}, "{}", 405, "takes GET"},
-        {"GET", "/keys", {}, "", 405, "takes POST"},
         {"POST", "/keys", {{"Content-Type", "text/plain"}}, "{}", 415, "application/json"},
         {"POST", "/keys", {json_type}, "menu", 400, "body:1: syntax error"},
         {"POST", "/keys", {json_type}, R"({"keys": ["menu", "jump"]})", 400, "unknown key 'jump', expected one of"},
@@ -88,9 +86,7 @@ TEST_F(WebTest, RefusesInWords)
         {"PUT", "/settings/Zoom", {json_type}, R"({"value": 99})", 400, "no whole number from 100 to 2000"},
         {"PUT", "/settings/Zoom", {json_type}, R"({"value": []})", 400, "a text or a whole number"},
         {"PUT", "/settings.json", {json_type}, R"({"Zoom": "300", "Mirror": "Up"})", 400, "Mirror"},
-        {"PUT", "/settings.json", {json_type}, R"({"Zoom": "300", "Colour": "1"})", 400, "no setting 'Colour'"},
         {"PUT", "/settings.json", {json_type}, R"({"Zoom": "300", "Zoom": "300"})", 400, "'Zoom' stands twice"},
-        {"PUT", "/settings/Zoom", {json_type}, R"({"value": 1e999})", 400, "number overflow"},
         {"POST", "/language", {json_type}, R"({"language": "Klingon"})", 400, "expected one of English"},
         {"POST", "/menu", {json_type}, R"({"style": 3})", 400, "'style' of 0, 1 or 2"},
         {"POST", "/menu", {json_type}, "{}", 400, "expected a 'style'"},
@@ -171,15 +167,9 @@ TEST_F(WebTest, AnswersDamagedRequests)
     EXPECT_EQ(get("/state")["menu"], true);
 }
 
-TEST_F(WebTest, KeysMoveTheMenu)
+TEST_F(WebTest, RepeatsAHeldKeyAndStartsAnotherMenu)
 {
-    EXPECT_EQ(get("/state")["focus"], nullptr);
     press({"menu", "home", "down"});
-    const json state = get("/state");
-    EXPECT_EQ(state["pages"].size(), 2);
-    EXPECT_EQ(state["focus"]["page"], "image");
-    EXPECT_EQ(state["focus"]["label"], "Contrast");
-    EXPECT_EQ(state["focus"]["value"], "50");
     send("POST", "/keys", {{"press", "right"}});
     EXPECT_EQ(get("/state")["held"], "right");
     const auto contrast = [] { return std::stoi(value_of("ImageParam.Contrast")); };
@@ -190,18 +180,12 @@ TEST_F(WebTest, KeysMoveTheMenu)
     const int held = contrast();
     press({"left"});
     EXPECT_EQ(contrast(), held - 1);
-    EXPECT_EQ(send("POST", "/language", {{"language", "German"}})["language"], "German");
-    EXPECT_EQ(get("/state")["focus"]["label"], "Kontrast");
-    EXPECT_EQ(get("/state")["focus"]["page"], "image");
-    EXPECT_EQ(send("PUT", "/settings/Contrast", {{"value", 70}})["value"], "70");
-    EXPECT_EQ(get("/state")["focus"]["value"], "70");
     EXPECT_EQ(send("POST", "/menu", {{"style", 1}, {"size", "4k"}})["size"], "4k");
     EXPECT_EQ(get("/state")["channels"][0]["width"], 3840);
     send("POST", "/menu", {{"style", 0}, {"size", "1080p"}, {"page", "network"}});
     EXPECT_EQ(get("/state")["pages"][1]["name"], "network");
     EXPECT_EQ(send("POST", "/menu", {{"page", "main"}})["style"], 0);
     EXPECT_EQ(get("/state")["pages"].size(), 1);
-    send("POST", "/language", {{"language", "English"}});
 }
 
 TEST(KeyHold, LastsWhileItIsRenewed)
@@ -226,40 +210,18 @@ TEST(KeyHold, LastsWhileItIsRenewed)
     }
 }
 
-TEST_F(WebTest, SettingsGoOutAndIn)
-{
-    json values = get("/settings.json");
-    EXPECT_EQ(values.size(), get("/settings")["settings"].size());
-    values["ImageParam.Flip"] = "On";
-    EXPECT_EQ(send("PUT", "/settings.json", values)["settings"], values.size());
-    EXPECT_EQ(value_of("ImageParam.Flip"), "On");
-    EXPECT_EQ(send("PUT", "/settings.json", {{"ImageParam.Flip", "Off"}})["settings"], 1);
-    EXPECT_EQ(value_of("ImageParam.Flip"), "Off");
-}
-
-/// Reads an endless answer until what was read is enough.
-static std::string read_until(const RunningCamera& camera, const std::string& path,
-                              const std::function<bool(const std::string&)>& enough)
-{
-    std::string read;
-    (void)camera.client().Get(path, [&](const char* bytes, std::size_t size) {
-        read.append(bytes, size);
-        return !enough(read);
-    });
-    return read;
-}
-
-TEST_F(WebTest, StreamsPicturesAndEvents)
+TEST_F(WebTest, StreamsPicturesToWhoWatches)
 {
     const auto encoded = [] { return get("/channels")["channels"][2]["encoded"].get<long>(); };
     const long before = encoded();
     json viewers;
-    const auto end = [&viewers](const std::string& read) {
+    std::string read;
+    (void)camera->client().Get("/channels/2/stream.mjpg?viewer=me", [&](const char* bytes, std::size_t size) {
+        read.append(bytes, size);
         viewers = get("/channels")["channels"][2]["viewers"];
-        return read.find("\xFF\xD9\r\n--frame\r\n") != std::string::npos;
-    };
-    EXPECT_THAT(read_until(*camera, "/channels/2/stream.mjpg?viewer=me", end),
-                StartsWith("--frame\r\nContent-Type: image/jpeg\r\nContent-Length: "));
+        return read.find("\xFF\xD9\r\n--frame\r\n") == std::string::npos; // a whole picture is enough
+    });
+    EXPECT_THAT(read, StartsWith("--frame\r\nContent-Type: image/jpeg\r\nContent-Length: "));
     EXPECT_EQ(viewers, json({"me"}));
     EXPECT_GT(encoded(), before);
     while (!get("/channels")["channels"][2]["viewers"].empty()) { // found gone with the next picture
@@ -268,20 +230,11 @@ TEST_F(WebTest, StreamsPicturesAndEvents)
     send("PUT", "/settings/Mirror", {{"value", "On"}});
     EXPECT_NE(camera->client().Get("/channels/2/snapshot.png")->body.size(), 0U);
     EXPECT_EQ(encoded(), watched) << "nobody watches";
-    std::thread press_menu;
-    const std::string events = read_until(*camera, "/events", [&press_menu](const std::string& read) {
-        if (!press_menu.joinable()) {
-            press_menu = std::thread([] { press({"close", "zoom+"}); }); // what happened before isn't told
-        }
-        return read.find(R"({"name":"Zoom","value":"150"})") != std::string::npos;
-    });
-    press_menu.join();
-    EXPECT_THAT(events, StartsWith("event: state\ndata: {"));
 }
 
 TEST(Web, NeedsTheTokenBeyondThisMachine)
 {
-    const RunningCamera camera({"--token", "s3cret", "--still"});
+    const RunningCamera camera("--token s3cret --still");
     EXPECT_THAT(camera.address, testing::EndsWith("/?token=s3cret\n"));
     const std::string name = "camera_token_" + std::to_string(camera.port);
     const std::tuple<const char*, httplib::Headers, int> cases[] = {

@@ -14,17 +14,16 @@ import json
 import os
 import random
 import re
-import shutil
-import signal
 import socket
-import subprocess
 import sys
-import tempfile
 import threading
 import time
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[2]
+sys.path.append(str(ROOT / "tests/browser"))
+from camera import Camera  # noqa: E402
+
 KEYS = ("menu home up down left right up-left up-right down-left down-right advanced return close left-keep right-keep "
         "apply zoom+ zoom- prompt rec").split()
 FAULTS = ["settings-slow", "settings-refusing", "settings-out-of-range", "language-refusing", "memory-exhausted",
@@ -33,19 +32,14 @@ ROUNDS = 5
 LANGUAGES = ["English", "German", "SimplifiedChinese", "TraditionalChinese"]
 
 
-class Camera:
-    def __init__(self, program, folder):
-        self.resources = folder / "resource"
-        shutil.copytree(ROOT / "resource", self.resources)
+class SoakedCamera(Camera):
+    def __init__(self, program):
         # The quarantine would look like growth; a little of it finds as much here.
-        environment = dict(os.environ, ASAN_OPTIONS="quarantine_size_mb=8:thread_local_quarantine_size_kb=64:"
-                           "allocator_release_to_os_interval_ms=500:detect_leaks=1", TSAN_OPTIONS="halt_on_error=0")
-        self.log = open(folder / "log.txt", "w+", encoding="utf-8", errors="replace")
-        self.process = subprocess.Popen(
-            [program, "--data", folder / "data", "--resources", self.resources, "--listen", "127.0.0.1:0"],
-            stdout=subprocess.PIPE, stderr=self.log, env=environment, text=True)
-        line = self.process.stdout.readline()
-        self.port = int(re.search(r":(\d+)/", line).group(1))
+        super().__init__(program, environment=dict(
+            os.environ, ASAN_OPTIONS="quarantine_size_mb=8:thread_local_quarantine_size_kb=64:"
+            "allocator_release_to_os_interval_ms=500:detect_leaks=1", TSAN_OPTIONS="halt_on_error=0"))
+        self.resources = self.folder / "resources"
+        self.port = int(re.search(r":(\d+)/", self.address).group(1))
 
     def ask(self, method, path, body=None):
         """Sends a request; returns the status."""
@@ -176,17 +170,14 @@ def main():
     parser.add_argument("--seed", type=int, default=1)
     options = parser.parse_args()
     answers, faults, rests = {}, [], []
-    with tempfile.TemporaryDirectory(prefix="soak-") as name:
-        camera = Camera(options.program, Path(name))
-        # The first request comes alone: the HTTP library sets up its tables then, and is not built with the sanitizer.
-        camera.ask("GET", "/state")
-        for part in range(ROUNDS):
-            run_round(camera, options.minutes * 60 / ROUNDS, f"{options.seed} {part}", answers, faults)
-            rests.append(rest(camera))
-        camera.process.send_signal(signal.SIGTERM)
-        status = camera.process.wait(60)
-        camera.log.seek(0)
-        log = camera.log.read()
+    camera = SoakedCamera(options.program)
+    # The first request comes alone: the HTTP library sets up its tables then, and is not built with the sanitizer.
+    camera.ask("GET", "/state")
+    for part in range(ROUNDS):
+        run_round(camera, options.minutes * 60 / ROUNDS, f"{options.seed} {part}", answers, faults)
+        rests.append(rest(camera))
+    camera.stop()
+    status, log = camera.process.returncode, camera.log()
     reports = re.findall(r"^.*(?:ERROR: \w+Sanitizer|WARNING: ThreadSanitizer|runtime error).*$", log, re.M)
     Path("soak.log").write_text(log, encoding="utf-8")
     print("answers:", ", ".join(f"{task} {code}: {count}" for (task, code), count in sorted(answers.items())))

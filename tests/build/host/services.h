@@ -1,0 +1,15 @@
+// The smallest camera: pixels on the heap, no settings, one page. Its services may be called by several threads and have
+// no lock, so that nobody but the library orders what its threads do.
+#pragma once
+
+#include <atomic>
+
+#include "osd_canvas.h"
+
+extern std::atomic<int> g_blocks;                               // of media memory, alive
+extern const char* g_page;                                      // the document of every page
+extern void (*g_pushed)(OSD_BOOL, const tagOSD_MENU_CANVAS_S&); // runs in each push to all channels
+
+// Prints what isn't as wanted, and counts it.
+extern std::atomic<int> g_failures;
+void expect(const char* what, int actual, int wanted);
