@@ -51,12 +51,6 @@ TEST_F(StartTest, BuildsManagerCanvasAndSurface)
     EXPECT_EQ(gstMenuMgr.pfnGetDataZoneParent, dataZoneParent);
     EXPECT_EQ(platform().update, OSD_MENU_UpdateCanvas);
     EXPECT_EQ(gstMenuMgr.pstSurface->pixels, gstMenuMgr.stCanvas.stMem.pvVirAddr);
-
-    memset(&gstMenuMgr, 0x5A, sizeof(gstMenuMgr)); // a second start believes nothing that stands in the managers
-    memset(&gstPageMgr, 0x5A, sizeof(gstPageMgr));
-    EXPECT_EQ(init(), 0);
-    EXPECT_EQ(gstPageMgr.s32PageCnt, 0);
-    EXPECT_EQ(called(), "free canvas; release menu_scale; release menu_mem; close bold; close plain; " + START);
 }
 
 TEST_F(StartTest, CanvasFollowsTheConfiguration)

@@ -4,7 +4,6 @@
 #include <cstring>
 #include <tinyxml2.h>
 
-#include "menu/core/flat_list.h"
 #include "osd_page.h"
 #include "osd_xml.h"
 #include "tests/fake/keys.h"
@@ -192,7 +191,10 @@ TEST_F(FaultTest, PageThatCantBeReadIsReported)
 
 TEST_F(FaultTest, StartFollowsNothingInTheManagers)
 {
-    tagITEM_NODE_S* own = addItem(addPage(PAGE_LAYOUT_VERTICAL), "Gain", NAME, CONST_TXT); // the host's to free
+    tagITEM_NODE_S* own = itemAt(open("own", R"(<P Layout="icon" CountPerLine="1"><I ItemIndex="Gain" Ctx="NAME"
+                                     Attr="CONST_TXT"/></P>)")
+                                     ->stItemList,
+                                 0); // the host's to free
     memset(&gstPageMgr.astPage[1], 0x5A, sizeof gstPageMgr.astPage[1]);
     memset(&gstMenuMgr, 0x5A, sizeof gstMenuMgr);
     EXPECT_EQ(init(), 0);
@@ -200,8 +202,8 @@ TEST_F(FaultTest, StartFollowsNothingInTheManagers)
         linesOf({"push", "free", "release", "close"}),
         testing::ElementsAre("free canvas", "release menu_scale", "release menu_mem", "close bold", "close plain"))
         << "of the start before";
-    EXPECT_STREQ(own->acItemName, "Gain");
-    free(own);
+    EXPECT_STREQ(own->acItemIndex, "Gain");
+    EXPECT_EQ(osdMenuReleaseItem(own), 0);
     const auto* bytes = reinterpret_cast<const char*>(&gstPageMgr);
     EXPECT_EQ(std::count(bytes, bytes + sizeof gstPageMgr, '\0'), std::ptrdiff_t{sizeof gstPageMgr});
     EXPECT_EQ(platform().canvasAtCreate.stMem.pvVirAddr, nullptr);
@@ -253,7 +255,7 @@ TEST_F(FaultTest, GarbageFromTheServicesStaysInBounds)
         (void)printed([] { EXPECT_EQ(OSD_MENU_RefreshCurrentPage(), 0); });
     }
     EXPECT_EQ(gstPageMgr.astPage[0].s32ItemCnt, 9);
-    for (const tagITEM_NODE_S* item : osdItems(&gstPageMgr.astPage[0].stItemList)) {
+    for (const tagITEM_NODE_S* item : itemsOf(gstPageMgr.astPage[0])) {
         EXPECT_LT(strnlen(item->acItemName, OSD_TEXT_LEN), 32u);
         EXPECT_LE(item->s32ValCnt, 32);
         for (int option = 0; item->enValType != NUMERICAL && option < item->s32ValCnt; option++) {
