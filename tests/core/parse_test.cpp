@@ -51,7 +51,7 @@ TEST_F(ParseTest, ItemAttributes)
         Ctx='ICON' Attr='CONST_TXT' PicType='MAINTYPE'               | ICON CONST_TXT PicType=MAINTYPE Pic=n
         Ctx='ICON_TXT' Attr='CONST_TXT' PicType='SUBTYPE'            | ICON_TXT CONST_TXT PicType=SUBTYPE Pic=n
         Ctx='ICON_TXT_KETH' Attr='CONST_TXT' PicType='IPTYPE'        | ICON_TXT_KETH CONST_TXT PicType=IPTYPE Pic=n
-        Ctx='NAME_IP_VAL' Attr='CONST_TXT' PicType='CONFIRMTYPE' | NAME_IP_VAL CONST_TXT PicType=CONFIRMTYPE NumOfChar=15
+        Ctx='NAME_IP_VAL' Attr='CONST_TXT' PicType='CONFIRMTYPE'| NAME_IP_VAL CONST_TXT PicType=CONFIRMTYPE NumOfChar=15
         Ctx='NAME_BAR_VAL' Attr='CONST_TXT' ValType='edittxt' PicType='subtype' | NAME_BAR_VAL CONST_TXT
         Ctx='NAME_VAL' Attr='CONST_TXT' ValType='EDITTXT'            | NAME_VAL CONST_TXT ValType=EDITTXT
         Ctx='NAME' Attr='KEY_WITH_MSG' DataZone='LONG'               | NAME KEY_WITH_MSG DataZone=FITS Msg=m reads=t.m

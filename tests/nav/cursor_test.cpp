@@ -132,7 +132,7 @@ TEST_F(CursorTest, PagedList)
         told Layout="vertical_align_keth":
             <I ItemIndex="SN" Attr="STATUS"/> <I ItemIndex="Gain"/> <I ItemIndex="Zoom" ValType="NUMERICAL"/>
         one Layout="vertical_align_keth":
-            <I ItemIndex="SN" Attr="STATUS"/> <I ItemIndex="Wait" Attr="KEY_WITH_MSG"/> <I ItemIndex="Mac" Attr="STATUS"/>
+            <I ItemIndex="SN" Attr="STATUS"/> <I ItemIndex="Wait" Attr="KEY_WITH_MSG"/> <I ItemIndex="M" Attr="STATUS"/>
         facts Layout="vertical_align_keth": <I ItemIndex="SN" Attr="STATUS"/> <I ItemIndex="Mac" Attr="STATUS"/>
         plain Layout="vertical_align_keth" NextPage="two" PrevPage="one": <I ItemIndex="Gain"/>
         first Layout="vertical_align_keth" CurPagesNum="1" NextPage="two":
@@ -168,9 +168,9 @@ TEST_F(CursorTest, PagedList)
         then down down        | shows the menu                    | first at Wait C, was B / two: SN; > Zoom 9 of 0..10
         then up               | shows the menu                    | > Wait C, was B --- Press
         then up               | shows the menu                    | > Gain Auto
-        down down_right       | reads two, shows the menu | first at Wait C, was B / two: > SN; Zoom 9 of 0..10 --- Press
+        down down_right | reads two, shows the menu | first at Wait C, was B / two: > SN; Zoom 9 of 0..10 --- Press
         short
-        down_right            | reads two, sets Gain to Low, shows the menu | short at Gain Low / two: > SN; Zoom 9 of 0..10
+        down_right | reads two, sets Gain to Low, shows the menu | short at Gain Low / two: > SN; Zoom 9 of 0..10
         short / two
         up_right              | shows the menu                    | short: > Gain Auto
         lost
@@ -179,7 +179,7 @@ TEST_F(CursorTest, PagedList)
         right                 | reads two, shows the menu         | deep at More / two: > SN; Zoom 9 of 0..10
         home                  | reads two, shows the menu         | deep at More / two: > SN; Zoom 9 of 0..10
         left                  | sets More to option -1, shows the menu | > More option -1
-        then right            | reads two, shows the menu         | deep at More none, was option -1 / two: > SN; Zoom 9 of 0..10
+        then right | reads two, shows the menu | deep at More none, was option -1 / two: > SN; Zoom 9 of 0..10
         then up down          | passes More, shows the menu       | > More
     )");
     openAll("one"); // no direction

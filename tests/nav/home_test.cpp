@@ -69,6 +69,10 @@ TEST_F(HomeTest, RulesInTheirOrder)
     platform().host = [](tagITEM_NODE_S* item) { item->s32CurIdx = 2; };
     (void)pressed("home");
     EXPECT_STREQ(itemOf("Push").acValue[2], "go") << "where the option is by then";
+    openAll("push");
+    platform().host = [](tagITEM_NODE_S* item) { item->s32CurIdx = OSD_OPTION_MAX; };
+    (void)pressed("home");
+    EXPECT_STREQ(itemOf("Push").acValueKey[0], "Go") << "there is no such option";
     failCall("language");
     EXPECT_EQ(pressed("home"), "fails");
 }

@@ -6,8 +6,8 @@
 //     then down  | shows the menu                    | > Zoom 40 of 0..100
 // A row tells keys, the calls that the last one makes, and the rows that differ from the first screen, with that of the
 // cursor; all rows where there are others. It begins with the pages just opened and the settings as they were, behind
-// "then" where the row above ended. A line with "|" in front continues the row above, with its next cell unless the cell
-// goes on behind a comma.
+// "then" where the row above ended. A line with "|" in front continues the row above, with its next cell or, behind a
+// comma or semicolon, with the same one.
 #pragma once
 
 #include "osd_page.h"
@@ -140,9 +140,10 @@ protected:
         const auto label = [](const std::string& row) { return row.substr(2, row.find("  ", 2) - 2); };
         const auto end = std::find(now.begin(), now.end(), "---");
         const auto rows = static_cast<size_t>(end - now.begin());
-        bool same = before[0] == now[0];
+        bool same =
+            before[0] == now[0] && std::find(before.begin(), before.end(), "---") - before.begin() == end - now.begin();
         for (size_t at = 1; at < rows; at++) {
-            same = same && at < before.size() && label(before[at]) == label(now[at]);
+            same = same && label(before[at]) == label(now[at]);
         }
         std::vector<std::string> found;
         for (size_t at = 1; at < rows; at++) {

@@ -34,9 +34,11 @@ TEST_F(StackTest, MenuKeysByDepth)
         home up home menu        | shows the menu                 | main: > More; Gain Auto
         home up return           | shows the menu                 | main: > More; Gain Auto
     )");
-    EXPECT_EQ(
-        pressed("close up down left right up_left up_right down_left down_right left_update right_update set home"),
-        "");
+    openAll("closed");
+    for (const char* key : {"return", "up", "down", "left", "right", "up_left", "up_right", "down_left", "down_right",
+                            "left_update", "right_update", "set", "home"}) {
+        EXPECT_EQ(pressed(key), "") << key << " on a closed menu";
+    }
     tellsLanguage = true; // the text of a button is asked for on the way back
     check(R"(
         main / sub

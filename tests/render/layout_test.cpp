@@ -128,6 +128,7 @@ TEST_F(LayoutTest, PagedList)
     setField(page->acTitle, "abcdefghijklmnopqrstuvwxyz.,");
     expect("arrow_bottom at 925,925 size 70x70\nabcdefghijklmnopqrstuvwxyz.,  1 at 70,15 plain 28 white\n" + rule);
     page->stTurn.bCurPagesNum = 0;
+    EXPECT_EQ(osdMenuDrawTurnArrow(&page->stTurn), 0);
     expect("abcdefghijklmnopqrstuvwxyz., at 70,15 plain 28 white\n" + rule);
     tagITEM_NODE_S& sub = itemOf("Sub");
     setField(sub.acItemIndex, "DnsMode"); // the address comes by itself: nothing behind it
