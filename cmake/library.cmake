@@ -67,8 +67,9 @@ target_link_libraries(osdmenu
   PRIVATE $<BUILD_INTERFACE:osd_flags> PkgConfig::SDL2_IMAGE PkgConfig::SDL2_GFX PkgConfig::TINYXML2)
 osd_unite_folders(osdmenu)
 target_compile_definitions(osdmenu PRIVATE OSD_RESOURCE_DIR="${OSD_RESOURCE_DIR}")
-# Nobody replaces single functions of the library, so calls within a file need no detour.
-target_compile_options(osdmenu PRIVATE -fno-semantic-interposition)
+# Nobody replaces single functions of the library, so calls within a file need no detour. The camera's flash is small, and
+# a redraw's time is SDL's.
+target_compile_options(osdmenu PRIVATE -fno-semantic-interposition $<$<CONFIG:Release>:-Os>)
 set_target_properties(osdmenu PROPERTIES
   VERSION ${PROJECT_VERSION}
   SOVERSION ${PROJECT_VERSION_MAJOR}

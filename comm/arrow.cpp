@@ -74,8 +74,8 @@ bool osdArrowEnter(SDL_Surface* pstDst, const SDL_Rect& stMenuRect, const SDL_Re
     return osdArrowDraw(pstDst, "nav_arrow", bBright, {s32X, s32Y, s32W, s32H}, OSD_NAME(OSD_COMM_DrawSubPageEnter));
 }
 
-bool osdButtonPicture(SDL_Surface* pstDst, SDL_Rect* pstPos, const SDL_Rect& stMenuRect, bool bBright,
-                      const char* pcPicName)
+bool osdArrowButton(SDL_Surface* pstDst, SDL_Rect* pstPos, const SDL_Rect& stMenuRect, bool bBright,
+                    const char* pcPicName)
 {
     const double f64Drop = static_cast<double>(stMenuRect.h) * c_f64ConfirmDrop;
     SDL_Rect stPlace = {pstPos->x, osdTruncF64(f64Drop + static_cast<double>(pstPos->y)),

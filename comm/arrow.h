@@ -13,5 +13,5 @@ bool osdArrowTurn(SDL_Surface* pstDst, const SDL_Rect& stMenuRect, const char* p
 bool osdArrowEnter(SDL_Surface* pstDst, const SDL_Rect& stMenuRect, const SDL_Rect& stItemRect, bool bBright);
 
 // A button's picture at the pen, which moves behind it.
-bool osdButtonPicture(SDL_Surface* pstDst, SDL_Rect* pstPos, const SDL_Rect& stMenuRect, bool bBright,
-                      const char* pcPicName);
+bool osdArrowButton(SDL_Surface* pstDst, SDL_Rect* pstPos, const SDL_Rect& stMenuRect, bool bBright,
+                    const char* pcPicName);

@@ -99,5 +99,5 @@ int OSD_COMM_DrawSubPageEnter(SDL_Surface* pstDst, SDL_Rect stMenuRect, SDL_Rect
 int OSD_COMM_DrawConfirmImg(SDL_Surface* pstDst, SDL_Rect* pstPos, SDL_Rect stMenuRect, OSD_BOOL bSelected,
                             char* pcPicName)
 {
-    return osdResult(osdButtonPicture(pstDst, pstPos, stMenuRect, bSelected != 0, pcPicName));
+    return osdResult(osdArrowButton(pstDst, pstPos, stMenuRect, bSelected != 0, pcPicName));
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <SDL_ttf.h>
+#include <memory>
 
 #include "comm/guard.h"
 

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "comm/guard.h"
-#include "osd_types.h"
 
 // A picture file of any format; null when it can't be read.
 OSD_SURFACE_PTR osdImageLoad(const char* pcPath);

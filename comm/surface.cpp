@@ -1,3 +1,5 @@
+#include "comm/surface.h"
+
 #include <iterator>
 
 #include "comm/log.h"

@@ -6,7 +6,7 @@
 
 #include "osd_types.h"
 
-// Exact equality; mostly the first byte tells.
+// Exact equality; most texts differ in the first byte.
 inline bool osdTextEqual(const char* pcLeft, const char* pcRight)
 {
     return *pcLeft == *pcRight && strcmp(pcLeft, pcRight) == 0;

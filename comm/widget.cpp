@@ -1,7 +1,5 @@
 #include "comm/widget.h"
 
-#include <utility>
-
 #include "comm/arith.h"
 #include "comm/image.h"
 #include "comm/log.h"

@@ -116,7 +116,7 @@ OSD_API int OSD_MENU_InitOpensourceRes(void);
  * pfnGetDataZoneParent  may be null
  * Clears gstPageMgr and gstMenuMgr and follows no pointer in them. On failure everything that was made is released and
  * the menu refuses to draw. The host calls this once; before a further call, which releases canvas and fonts of the
- * last successful one and builds them anew, it closes the menu. */
+ * last successful one and builds them anew, it closes the menu. They are the library's: nobody else frees them. */
 OSD_API int OSD_MENU_InitSdkRes(tagOSD_MENU_CFG_S* pstCfg, OSD_BUSINESS_FUNC pfnBusinessFunc,
                                 OSD_DATA_ZONE_FUNC pfnGetDataZoneParent);
 
@@ -131,7 +131,8 @@ OSD_API int osdMenuCalcPopRect(SDL_Rect* pstMenu, SDL_Rect* pstOut);
 /* The popup with message: two thirds of the menu's width, a quarter of its height. */
 OSD_API int osdMenuCalcPopWithMsgRect(SDL_Rect* pstMenu, SDL_Rect* pstOut);
 
-/* Opens the two fonts and makes the surface over the canvas. Returns 0, or -1 with nothing left open. */
+/* Opens the two fonts and makes the surface over the canvas; on another manager than gstMenuMgr they are the caller's.
+ * Returns 0, or -1 with nothing left open. */
 OSD_API int osdMenuCreatSurface(tagOSD_MENU_MGR_S* pstMgr);
 
 /* Opens the root page "main" when the menu is closed, and draws; does nothing when it is open. Returns 0. */

@@ -102,7 +102,7 @@ OSD_API int osdMenuUpdateParam(list_head* pstList, OSD_BOOL bUpdate);
 OSD_API int osdMenuUpdateStatusWithCustomColor(tagPAGE_NODE_S* pstPage, list_head* pstList, OSD_BOOL bUpdate);
 
 /* 1 when the item is a DNS mode and stands right behind a committed static address mode in the most recent flattened
- * list. */
+ * list. For an item that stands on no open page, what its stTmpNode leads to must still be there. */
 OSD_API OSD_BOOL osdXmlIsStaticOfNetMode(tagITEM_NODE_S* pstItemNode);
 
 /* 1 when the page ends behind this item: an applied DHCP mode whose DNS is automatic. */

@@ -12,7 +12,7 @@
 static constexpr SDL_Rect c_stPromptBase = {0, 0, 3840, 2160};
 static constexpr uint32_t c_u32PromptPixFmt = 1;  // ARGB4444
 static constexpr int c_s32PromptAlign = 4;        // canvases start on and cover multiples of this
-static constexpr unsigned c_u32PromptSeconds = 3; // so long OSD_PROMPT_Update shows its text
+static constexpr unsigned c_u32PromptSeconds = 3; // how long OSD_PROMPT_Update shows its text
 
 OSD_PROMPT_HANDLER_S gsOsdPromptItem;
 
@@ -21,10 +21,10 @@ static SDL_Color osdPromptColor(const OSD_PROMPT_COLOR_S& stColor)
     return {stColor.u8Red, stColor.u8Green, stColor.u8Blue, stColor.u8Alpha};
 }
 
-// A text, and the font that is open for this text alone. The text goes first.
+// A text, and the font that is open for this text alone; the text is null on failure.
 struct tagPROMPT_TEXT_S {
     OSD_FONT_PTR pstFont;
-    OSD_SURFACE_PTR pstTxt; // null on failure
+    OSD_SURFACE_PTR pstTxt;
 };
 
 static tagPROMPT_TEXT_S osdPromptText(const OSD_PROMPT_CFG_S& stCfg, const char* pcText)
@@ -38,8 +38,7 @@ static tagPROMPT_TEXT_S osdPromptText(const OSD_PROMPT_CFG_S& stCfg, const char*
     return stText;
 }
 
-// Fills the ground, a null rectangle being the whole canvas, and blits the text onto it. A text without ground is still
-// a text.
+// Fills the ground, a null rectangle being the whole canvas, and blits the text onto it. Failures are ignored.
 static void osdPromptDraw(SDL_Surface* pstSurface, SDL_Surface* pstTxt, const SDL_Rect* pstGround, SDL_Rect stPlace,
                           const OSD_PROMPT_COLOR_S& stGround)
 {
@@ -68,28 +67,32 @@ static SDL_Rect osdPromptPlace(OSD_PROMPT_HANDLER_S* pstHandler, const SDL_Surfa
     return stOnCanvas;
 }
 
-bool osdPromptCreate(OSD_PROMPT_HANDLER_S* pstHandler, const OSD_PROMPT_CFG_S& stCfg, const char* pcText)
+// Makes the canvas for the text and shows it; false with nothing left of it.
+static bool osdPromptShow(OSD_PROMPT_HANDLER_S* pstHandler, SDL_Surface* pstTxt)
 {
     tagOSD_MENU_CANVAS_S& stCanvas = pstHandler->stCanvas;
-    pstHandler->stCfg = stCfg;
-    stCanvas.stBaseRect = c_stPromptBase;
-    stCanvas.enPixFmt = c_u32PromptPixFmt;
-    tagPROMPT_TEXT_S stText = osdPromptText(stCfg, pcText);
-    if (stText.pstTxt == nullptr) {
-        return false;
-    }
-    const SDL_Rect stOnCanvas = osdPromptPlace(pstHandler, stText.pstTxt.get());
+    const SDL_Rect stOnCanvas = osdPromptPlace(pstHandler, pstTxt);
     pstHandler->pstSurface = osdSurfaceCreate(&stCanvas);
     if (pstHandler->pstSurface == nullptr) {
         return false;
     }
-    osdPromptDraw(pstHandler->pstSurface, stText.pstTxt.get(), &stOnCanvas, stOnCanvas, stCfg.stBgColor);
-    const bool bShown = osdSurfacePush(&stCanvas, 1) == 0;
-    if (!bShown) {
+    osdPromptDraw(pstHandler->pstSurface, pstTxt, &stOnCanvas, stOnCanvas, pstHandler->stCfg.stBgColor);
+    if (osdSurfacePush(&stCanvas, 1) != 0) {
         osdTrace("failed update all target\n");
         osdSurfaceDestroy(&stCanvas, pstHandler->pstSurface);
+        return false;
     }
-    stText.pstFont.reset(); // before the text here
+    return true;
+}
+
+bool osdPromptCreate(OSD_PROMPT_HANDLER_S* pstHandler, const OSD_PROMPT_CFG_S& stCfg, const char* pcText)
+{
+    pstHandler->stCfg = stCfg;
+    pstHandler->stCanvas.stBaseRect = c_stPromptBase;
+    pstHandler->stCanvas.enPixFmt = c_u32PromptPixFmt;
+    tagPROMPT_TEXT_S stText = osdPromptText(stCfg, pcText);
+    const bool bShown = stText.pstTxt != nullptr && osdPromptShow(pstHandler, stText.pstTxt.get());
+    stText.pstFont.reset(); // before the text
     return bShown;
 }
 
@@ -98,7 +101,7 @@ bool osdPromptChange(OSD_PROMPT_HANDLER_S* pstHandler, const OSD_PROMPT_CFG_S& s
     if (pstHandler->pstSurface == nullptr) {
         return false;
     }
-    const tagPROMPT_TEXT_S stText = osdPromptText(stCfg, pcText);
+    const tagPROMPT_TEXT_S stText = osdPromptText(stCfg, pcText); // its text is freed before its font
     SDL_Surface* pstTxt = stText.pstTxt.get();
     if (pstTxt == nullptr) {
         return false;
@@ -112,7 +115,7 @@ bool osdPromptChange(OSD_PROMPT_HANDLER_S* pstHandler, const OSD_PROMPT_CFG_S& s
 
 void osdPromptDestroy(OSD_PROMPT_HANDLER_S* pstHandler)
 {
-    osdSurfacePush(&pstHandler->stCanvas, 0); // the canvas goes, shown or not
+    osdSurfacePush(&pstHandler->stCanvas, 0); // a canvas that can't be hidden is destroyed all the same
     if (pstHandler->pstSurface != nullptr) {
         osdSurfaceDestroy(&pstHandler->stCanvas, pstHandler->pstSurface);
     }

@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Checks who includes whom: layers look down only, public headers are named bare, the rest from the root, no cycles."""
+"""Checks who includes whom: layers look down only, public headers are named bare, the rest from the root, a file's own
+header first, no cycles."""
 import re
 import sys
 from pathlib import Path
@@ -16,7 +17,7 @@ SEES = {  # folder: what it includes beside itself
     "prompt": ["include", "platform", "comm"],
     "simulator": ["include", "platform"],
     "tools": LIBRARY + ["simulator"],
-    "tests": LIBRARY + ["simulator", "tools"],
+    "tests": ["include", "platform", "simulator", "tools"],
     "bench": ["include", "platform"],
 }
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.M)
@@ -41,7 +42,11 @@ files = {p.relative_to(ROOT).as_posix() for layer in SEES for p in (ROOT / layer
 faults, graph = [], {f: [] for f in files}
 for file in sorted(files):
     layer = layer_of(file)
-    for mark, name in INCLUDE.findall((ROOT / file).read_text(encoding="utf-8")):
+    included = INCLUDE.findall((ROOT / file).read_text(encoding="utf-8"))
+    own = file.removesuffix(".cpp") + ".h"
+    if own in files and included[0] != ('"', own):
+        faults.append(f"{file}: {own} goes first")
+    for mark, name in included:
         target = "include/" + name if "include/" + name in files else name
         if target in files and mark == '"' and not name.startswith("include/"):
             graph[file].append(target)

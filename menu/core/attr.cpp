@@ -1,5 +1,6 @@
 #include "menu/core/attr.h"
 
+#include <cstring>
 #include <iterator>
 #include <string_view>
 

@@ -1,5 +1,7 @@
 #include "menu/core/canvas.h"
 
+#include <pthread.h>
+
 #include "comm/color.h"
 #include "comm/log.h"
 #include "comm/shape.h"

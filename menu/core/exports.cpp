@@ -1,5 +1,8 @@
 // The core's C functions: each hands over to the C++ behind it.
 #include "menu/core/canvas.h"
+
+#include <cstring>
+
 #include "menu/core/flat_list.h"
 #include "menu/core/item.h"
 #include "menu/core/item_parse.h"

@@ -3,8 +3,11 @@
 #include "menu/core/item.h"
 #include "menu/core/page.h"
 
+static list_head* gs_pstHead; // of the most recent list; it may be gone, so it is compared and never followed
+
 void osdFlatAppend(tagITEM_NODE_S* pstItem, list_head* pstHead)
 {
+    gs_pstHead = pstHead;
     osdListAddTail(&pstItem->stTmpNode, pstHead);
     if (!osdItemHasSubItems(pstItem)) {
         return;
@@ -71,7 +74,7 @@ static tagITEM_NODE_S* osdFlatNeighbour(const tagITEM_NODE_S* pstItem, list_head
     if (osdFlatOwnerOnStack(&pstItem->stTmpNode) != nullptr) {
         return osdFlatOwnerOnStack(pstLink);
     }
-    return pstLink != nullptr ? osdFlatItem(pstLink) : nullptr;
+    return pstLink != nullptr && pstLink != gs_pstHead ? osdFlatItem(pstLink) : nullptr;
 }
 
 tagITEM_NODE_S* osdFlatPrev(const tagITEM_NODE_S* pstItem)

@@ -15,8 +15,8 @@ tagITEM_NODE_S* osdFlatActive(list_head* pstHead);
 // The page's selected item, or null: on a list the active one, on an icon page the one at the selected place.
 tagITEM_NODE_S* osdPageSelected(tagPAGE_NODE_S* pstPage);
 
-// The item that stood right before (next: right behind) in the most recent flattened list, or null at its end. The head
-// of that list may be gone, so the link of an open page's item is believed only when it leads to such an item; the link
-// of any other item is its owner's, and taken as it stands.
+// The item that stood right before (next: right behind) in the most recent flattened list, or null at its end. What the
+// link of an open page's item leads to may be gone, so it is followed only to another such item; the link of any other
+// item is its owner's, and taken as it stands.
 tagITEM_NODE_S* osdFlatPrev(const tagITEM_NODE_S* pstItem);
 tagITEM_NODE_S* osdFlatNext(const tagITEM_NODE_S* pstItem);

@@ -43,11 +43,12 @@ bool osdItemSubSelected(tagITEM_NODE_S* pstItem)
     return false;
 }
 
+static list_head gs_stNone; // an empty list, to which nothing is ever linked
+
 tagITEM_WALK_S osdCommittedSubItems(tagITEM_NODE_S* pstItem)
 {
-    static list_head stNone; // an empty list
     list_head* pstList = osdItemHasSubItems(pstItem) ? osdItemSubList(pstItem, pstItem->s32SavedIdx) : nullptr;
-    return osdItems(pstList != nullptr ? pstList : &stNone);
+    return osdItems(pstList != nullptr ? pstList : &gs_stNone);
 }
 
 static const OSD_TEXT& osdOptionOf(const OSD_TEXT (&aacOption)[OSD_OPTION_MAX], int32_t s32Option)

@@ -122,7 +122,7 @@ static bool osdItemReadOptions(const char* pcLanguage, const tinyxml2::XMLElemen
     for (const tinyxml2::XMLElement* pstOption = pstElem->FirstChildElement(); pstOption != nullptr;
          pstOption = pstOption->NextSiblingElement()) {
         if (pstItem->s32ValCnt >= OSD_OPTION_MAX) {
-            OSD_LOG(osdXmlParseItemAttribute, OSD_LOG_LEVEL_ERR, "line %d: item %s has more than %d options\n",
+            OSD_LOG(OSD_MENU_ParseXml, OSD_LOG_LEVEL_ERR, "line %d: item %s has more than %d options\n",
                     pstOption->GetLineNum(), pstItem->acItemIndex, OSD_OPTION_MAX);
             return false;
         }

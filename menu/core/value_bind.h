@@ -2,7 +2,6 @@
 #pragma once
 
 #include "menu/core/attr.h"
-#include "platform/config_service.h"
 
 // The binding of osdXmlFillItemParam, for an element whose attributes have been collected.
 bool osdValueBind(const char* pcLanguage, const tagATTR_SET_S& stSet, tagITEM_NODE_S* pstItem);

@@ -12,11 +12,11 @@
 #include "menu/nav/stack.h"
 #include "osd_menu.h"
 
-static void osdApplyCommit(const tagPAGE_NODE_S* pstPage, tagITEM_NODE_S* pstItem, OSD_BOOL bUpdate)
+static void osdApplyCommit(const tagPAGE_NODE_S* pstPage, tagITEM_NODE_S* pstItem, bool bUpdate)
 {
     osdItemCommit(pstItem);
     const bool bLanguage = osdTextEqual(pstItem->acItemIndex, OSD_KEY_LANGUAGE);
-    const bool bAlive = bUpdate == 0 || osdItemSurvives(osdPageMark(pstPage), pstItem);
+    const bool bAlive = !bUpdate || osdItemSurvives(osdPageMark(pstPage), pstItem);
     if (bLanguage) {
         osdLanguageTranslateAll(); // without a language the old texts stay
     }
@@ -25,7 +25,7 @@ static void osdApplyCommit(const tagPAGE_NODE_S* pstPage, tagITEM_NODE_S* pstIte
     }
 }
 
-void osdApplyChange(tagITEM_NODE_S* pstItem, OSD_BOOL bUpdate)
+void osdApplyChange(tagITEM_NODE_S* pstItem, bool bUpdate)
 {
     const bool bChanged = osdItemChanged(pstItem);
     const tagPAGE_NODE_S* pstPage = osdPageTop();

@@ -3,8 +3,8 @@
 
 #include "osd_records.h"
 
-// Commits a pending change where the top page allows it, and hands it on when bUpdate isn't 0.
-void osdApplyChange(tagITEM_NODE_S* pstItem, OSD_BOOL bUpdate);
+// Commits a pending change where the top page allows it, and hands it on with bUpdate.
+void osdApplyChange(tagITEM_NODE_S* pstItem, bool bUpdate);
 
 // Hands the item on, changed or not, unless its value waits for the home key.
 void osdApplyItem(tagITEM_NODE_S* pstItem);

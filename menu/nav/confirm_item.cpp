@@ -13,7 +13,7 @@
 #include "osd_page.h"
 #include "platform/config_call.h"
 
-static constexpr unsigned c_u32ConfirmSeconds = 1; // so long the person sees what the button says
+static constexpr unsigned c_u32ConfirmSeconds = 1; // how long the button's text is seen
 
 // Parent items whose button says "Finish" while the host works.
 static constexpr const char* c_apcFinishKey[] = {OSD_KEY_FACTORY_RESTORE, OSD_KEY_RESTART, OSD_KEY_LENS_CORRECTION};

@@ -46,23 +46,30 @@ static bool osdFormatVisit(const tagPAGE_MARK_S& stMark, tagITEM_NODE_S* pstItem
 
 // The item "Confirm" goes to the host under another key, which it keeps until the page is read again.
 template <size_t N>
-static bool osdConfirmLast(tagITEM_NODE_S* pstItem, const char (&acKey)[N])
+static void osdConfirmLast(tagITEM_NODE_S* pstItem, const char (&acKey)[N])
 {
     osdTextPatch(pstItem->acItemIndex, acKey);
     osdItemApply(pstItem);
-    return false;
 }
 
 static bool osdRotateVisit(const tagPAGE_MARK_S& stMark, tagITEM_NODE_S* pstItem)
 {
     osdItemCommitOption(pstItem);
-    return osdIsConfirm(pstItem) ? osdConfirmLast(pstItem, OSD_KEY_RESTART) : osdItemSurvives(stMark, pstItem);
+    if (!osdIsConfirm(pstItem)) {
+        return osdItemSurvives(stMark, pstItem);
+    }
+    osdConfirmLast(pstItem, OSD_KEY_RESTART);
+    return false;
 }
 
 static bool osdPipVisit(const tagPAGE_MARK_S& /*stMark*/, tagITEM_NODE_S* pstItem)
 {
     osdConfirmStore(pstItem);
-    return osdIsConfirm(pstItem) ? osdConfirmLast(pstItem, OSD_KEY_PIP) : true;
+    if (!osdIsConfirm(pstItem)) {
+        return true;
+    }
+    osdConfirmLast(pstItem, OSD_KEY_PIP);
+    return false;
 }
 
 static bool osdVideoVisit(const tagPAGE_MARK_S& /*stMark*/, tagITEM_NODE_S* pstItem)
@@ -71,48 +78,73 @@ static bool osdVideoVisit(const tagPAGE_MARK_S& /*stMark*/, tagITEM_NODE_S* pstI
     for (tagITEM_NODE_S* pstSub : osdCommittedSubItems(pstItem)) {
         osdConfirmStore(pstSub);
     }
-    return osdIsConfirm(pstItem) ? osdConfirmLast(pstItem, OSD_KEY_HDMI_CFG) : true;
+    if (!osdIsConfirm(pstItem)) {
+        return true;
+    }
+    osdConfirmLast(pstItem, OSD_KEY_HDMI_CFG);
+    return false;
 }
 
 struct tagCONFIRM_PAGE_S {
     const char* pcName;
     OSD_CONFIRM_VISIT pfnVisit;
+    bool bOnRestart; // its confirm page is "restart"
 };
-static constexpr tagCONFIRM_PAGE_S c_astConfirmPage[] = {{OSD_PAGE_NETWORK, osdNetworkVisit},
-                                                         {OSD_PAGE_FORMAT, osdFormatVisit},
-                                                         {OSD_PAGE_ROTATE, osdRotateVisit},
-                                                         {OSD_PAGE_PIP, osdPipVisit},
-                                                         {OSD_PAGE_VIDEO, osdVideoVisit}};
+static constexpr tagCONFIRM_PAGE_S c_astConfirmPage[] = {{OSD_PAGE_NETWORK, osdNetworkVisit, false},
+                                                         {OSD_PAGE_FORMAT, osdFormatVisit, false},
+                                                         {OSD_PAGE_PIP, osdPipVisit, false},
+                                                         {OSD_PAGE_VIDEO, osdVideoVisit, false},
+                                                         {OSD_PAGE_ROTATE, osdRotateVisit, true}};
 
-static void osdConfirmWalk(tagPAGE_NODE_S* pstParent)
+// The page below a confirm page, when it is one that is confirmed as a whole; else null.
+static const tagCONFIRM_PAGE_S* osdConfirmFind(const tagPAGE_NODE_S* pstParent)
 {
     for (const tagCONFIRM_PAGE_S& stPage : c_astConfirmPage) {
-        if (!osdTextEqual(pstParent->acPageName, stPage.pcName)) {
-            continue;
-        }
-        const tagPAGE_MARK_S stMark = osdPageMark(pstParent);
-        for (tagITEM_NODE_S* pstItem : osdItems(&pstParent->stItemList)) {
-            if (!stPage.pfnVisit(stMark, pstItem)) {
-                return;
-            }
+        if (pstParent != nullptr && osdTextEqual(pstParent->acPageName, stPage.pcName)) {
+            return &stPage;
         }
     }
+    return nullptr;
+}
+
+static void osdConfirmWalk(tagPAGE_NODE_S* pstParent, OSD_CONFIRM_VISIT pfnVisit)
+{
+    const tagPAGE_MARK_S stMark = osdPageMark(pstParent);
+    for (tagITEM_NODE_S* pstItem : osdItems(&pstParent->stItemList)) {
+        if (!pfnVisit(stMark, pstItem)) {
+            return;
+        }
+    }
+}
+
+static void osdConfirmTakePage(const tagITEM_NODE_S* pstAnswer, tagPAGE_NODE_S* pstParent, OSD_CONFIRM_VISIT pfnVisit)
+{
+    const bool bYes = osdTextEqual(pstAnswer->acItemIndex, OSD_KEY_YES);
+    if (!bYes && !osdTextEqual(pstAnswer->acItemIndex, OSD_KEY_NO)) {
+        return;
+    }
+    osdPagePop(); // the answer goes with its page; the parent page is the top page now
+    if (bYes) {
+        osdConfirmWalk(pstParent, pfnVisit);
+    }
+    osdCanvasRender();
 }
 
 tagANSWER_E osdConfirmPage(const tagITEM_NODE_S* pstAnswer, const tagPAGE_NODE_S* pstPage, const char* pcParentName)
 {
     tagPAGE_NODE_S* pstParent = osdPageBelow(pstPage);
-    if (pstParent == nullptr || !osdTextEqual(pstParent->acPageName, pcParentName)) {
+    const tagCONFIRM_PAGE_S* pstConfirm = osdConfirmFind(pstParent);
+    if (pstConfirm == nullptr || !osdTextEqual(pstConfirm->pcName, pcParentName)) {
         return ANSWER_OTHERS;
     }
-    const bool bYes = osdTextEqual(pstAnswer->acItemIndex, OSD_KEY_YES);
-    if (!bYes && !osdTextEqual(pstAnswer->acItemIndex, OSD_KEY_NO)) {
-        return ANSWER_DONE;
-    }
-    osdPagePop(); // the answer goes with its page; the parent page is the top page now
-    if (bYes) {
-        osdConfirmWalk(pstParent);
-    }
-    osdCanvasRender();
+    osdConfirmTakePage(pstAnswer, pstParent, pstConfirm->pfnVisit);
     return ANSWER_DONE;
+}
+
+tagANSWER_E osdConfirmBelow(const tagITEM_NODE_S* pstAnswer, const tagPAGE_NODE_S* pstPage, bool bOnRestart)
+{
+    const tagCONFIRM_PAGE_S* pstConfirm = osdConfirmFind(osdPageBelow(pstPage));
+    return pstConfirm != nullptr && pstConfirm->bOnRestart == bOnRestart
+               ? osdConfirmPage(pstAnswer, pstPage, pstConfirm->pcName)
+               : ANSWER_OTHERS;
 }

@@ -6,3 +6,7 @@
 // For the parent page of this name, which must be one of "network", "format", "rotate", "pip" and "video": "Yes" applies
 // its items up to and with "Confirm".
 tagANSWER_E osdConfirmPage(const tagITEM_NODE_S* pstAnswer, const tagPAGE_NODE_S* pstPage, const char* pcParentName);
+
+// The same for whichever of these pages lies below: bOnRestart on the page "restart", which asks about "rotate" alone, and
+// else on a page that asks about any of the others.
+tagANSWER_E osdConfirmBelow(const tagITEM_NODE_S* pstAnswer, const tagPAGE_NODE_S* pstPage, bool bOnRestart);

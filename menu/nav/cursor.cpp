@@ -33,7 +33,7 @@ static const tagCURSOR_S* osdCursorFind(tagPAGE_LAYOUT_E enLayout)
     return nullptr;
 }
 
-bool osdCursorApply(list_head* pstList, OSD_BOOL bUpdate)
+bool osdCursorApply(list_head* pstList, bool bUpdate)
 {
     tagITEM_NODE_S* pstItem = osdCursorActive(pstList);
     if (pstItem != nullptr) {
@@ -43,17 +43,17 @@ bool osdCursorApply(list_head* pstList, OSD_BOOL bUpdate)
 }
 
 // The host's function may redraw, which threads the list anew, or close the page.
-static void osdCursorApplyOn(tagPAGE_NODE_S* pstPage, list_head* pstList, OSD_BOOL bUpdate)
+static void osdCursorApplyOn(tagPAGE_NODE_S* pstPage, list_head* pstList, bool bUpdate)
 {
     const tagPAGE_MARK_S stMark = osdPageMark(pstPage);
-    osdCursorApply(pstList, bUpdate); // says once more that there is no cursor, as the move did
+    osdCursorApply(pstList, bUpdate); // without a cursor the log has a second line then
     if (pstPage->enLayout == PAGE_LAYOUT_VERTICAL_KETH && osdPageHolds(stMark)) {
         osdPageFlatten(pstPage, pstList);
         osdTallyUpdate(pstPage, pstList, bUpdate);
     }
 }
 
-void osdCursorKey(tagPAGE_NODE_S* pstPage, tagOSD_MENU_KEY_E enKey, OSD_BOOL bUpdate)
+void osdCursorKey(tagPAGE_NODE_S* pstPage, tagOSD_MENU_KEY_E enKey, bool bUpdate)
 {
     if (pstPage->enLayout == PAGE_LAYOUT_ICON) {
         osdIconMove(pstPage, enKey);

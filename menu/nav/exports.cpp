@@ -1,5 +1,4 @@
 // The navigation's C functions: each hands over to the C++ behind it.
-#include "comm/text.h"
 #include "menu/core/change.h"
 #include "menu/core/network.h"
 #include "menu/core/words.h"
@@ -38,7 +37,7 @@ int OSD_MENU_CloseMenu()
     return 0;
 }
 
-static int osdDirection(std::initializer_list<tagOSD_MENU_KEY_E> aenKey, OSD_BOOL bUpdate = 1)
+static int osdDirection(std::initializer_list<tagOSD_MENU_KEY_E> aenKey, bool bUpdate = true)
 {
     osdKeyMove(aenKey, bUpdate);
     return 0;
@@ -53,7 +52,7 @@ int OSD_MENU_HandleKeyUp_Right() { return osdDirection({OSD_MENU_KEY_UP, OSD_MEN
 int OSD_MENU_HandleKeyDown_Left() { return osdDirection({OSD_MENU_KEY_DOWN, OSD_MENU_KEY_LEFT}); }
 int OSD_MENU_HandleKeyDown_Right() { return osdDirection({OSD_MENU_KEY_DOWN, OSD_MENU_KEY_RIGHT}); }
 
-int osdMenuChangeItem(tagOSD_MENU_KEY_E enKey) { return osdDirection({enKey}, 0); }
+int osdMenuChangeItem(tagOSD_MENU_KEY_E enKey) { return osdDirection({enKey}, false); }
 int OSD_MENU_HandleKeyLeftUpdateItem() { return osdMenuChangeItem(OSD_MENU_KEY_LEFT); }
 int OSD_MENU_HandleKeyRightUpdateItem() { return osdMenuChangeItem(OSD_MENU_KEY_RIGHT); }
 
@@ -67,13 +66,13 @@ int OSD_MENU_HandleSetParam()
 
 int osdMenuNextPage(char* pcPageName) { return osdStackNext(pcPageName) ? 0 : -1; }
 
-int osdMenuPrevPage() { return gstPageMgr.s32PageCnt < 1 ? -1 : osdMenuReleaseSinglePage(); }
+int osdMenuPrevPage() { return osdStackBack() ? 0 : -1; }
 
 OSD_BOOL osdMenuParamChange(tagITEM_NODE_S* pstItemNode) { return osdItemChanged(pstItemNode) ? 1 : 0; }
 
 int osdMenuInvokeBusinessFuncIfNeed(tagITEM_NODE_S* pstItemNode, OSD_BOOL bUpdate)
 {
-    osdApplyChange(pstItemNode, bUpdate);
+    osdApplyChange(pstItemNode, bUpdate != 0);
     return 0;
 }
 
@@ -83,11 +82,11 @@ int osdMenuInvokeBusinessFunc(tagITEM_NODE_S* pstItemNode)
     return 0;
 }
 
-int osdMenuUpdateParam(list_head* pstList, OSD_BOOL bUpdate) { return osdCursorApply(pstList, bUpdate) ? 0 : -1; }
+int osdMenuUpdateParam(list_head* pstList, OSD_BOOL bUpdate) { return osdCursorApply(pstList, bUpdate != 0) ? 0 : -1; }
 
 int osdMenuUpdateStatusWithCustomColor(tagPAGE_NODE_S* pstPage, list_head* pstList, OSD_BOOL bUpdate)
 {
-    osdTallyUpdate(pstPage, pstList, bUpdate);
+    osdTallyUpdate(pstPage, pstList, bUpdate != 0);
     return 0;
 }
 
@@ -95,7 +94,7 @@ OSD_BOOL osdXmlIsStaticOfNetMode(tagITEM_NODE_S* pstItemNode) { return osdNetwor
 
 int osdMenuUpdateItemCursor(tagPAGE_NODE_S* pstPage, tagOSD_MENU_KEY_E enKey, OSD_BOOL bUpdate)
 {
-    osdCursorKey(pstPage, enKey, bUpdate);
+    osdCursorKey(pstPage, enKey, bUpdate != 0);
     return 0;
 }
 

@@ -1,5 +1,7 @@
 #include "menu/nav/home_key.h"
 
+#include <cstring>
+
 #include "comm/log.h"
 #include "comm/text.h"
 #include "menu/core/canvas.h"
@@ -53,35 +55,25 @@ static bool osdHomeConfirmPage(const tagHOME_S& stHome)
     return osdHomeOpen(pcPageName);
 }
 
-// Parent pages in the order in which they are asked; what belongs to none of them is read again.
-static constexpr const char* c_apcAnswerPage[] = {OSD_PAGE_NETWORK, OSD_PAGE_FORMAT, OSD_PAGE_PIP, OSD_PAGE_VIDEO};
-
-static bool osdHomeAnswer(const tagHOME_S& stHome)
+static void osdHomeAnswer(const tagHOME_S& stHome)
 {
-    if (osdConfirmFinish(stHome.pstItem, stHome.pstPage) != ANSWER_OTHERS) {
-        return true;
+    if (osdConfirmFinish(stHome.pstItem, stHome.pstPage) == ANSWER_OTHERS &&
+        osdConfirmBelow(stHome.pstItem, stHome.pstPage, false) == ANSWER_OTHERS) {
+        osdConfirmReread(stHome.pstItem, stHome.pstPage); // reports its own failure
     }
-    for (const char* pcParentName : c_apcAnswerPage) {
-        if (osdConfirmPage(stHome.pstItem, stHome.pstPage, pcParentName) != ANSWER_OTHERS) {
-            return true;
-        }
-    }
-    osdConfirmReread(stHome.pstItem, stHome.pstPage); // reports its own failure
-    return true;
 }
 
-static bool osdHomeRestart(const tagHOME_S& stHome)
+static void osdHomeRestart(const tagHOME_S& stHome)
 {
-    osdConfirmPage(stHome.pstItem, stHome.pstPage, OSD_PAGE_ROTATE); // above another page nothing happens
-    return true;
+    osdConfirmBelow(stHome.pstItem, stHome.pstPage, true); // above another page nothing happens
 }
 
-static bool osdHomeButton(const tagHOME_S& stHome)
+static void osdHomeButton(const tagHOME_S& stHome)
 {
     tagITEM_NODE_S* pstItem = stHome.pstItem;
     if (pstItem->enPicType == MAINTYPE || osdTextEqual(pstItem->acItemIndex, OSD_KEY_BACK)) {
         osdItemApply(pstItem);
-        return true;
+        return;
     }
     OSD_TEXT acOwn;
     osdTextSetField(acOwn, osdButtonText(pstItem));
@@ -91,33 +83,26 @@ static bool osdHomeButton(const tagHOME_S& stHome)
         osdButtonSet(pstItem, acOwn);
     }
     osdCanvasRender();
-    return true;
 }
 
-static bool osdHomeWaiting(const tagHOME_S& stHome)
+static void osdHomeWaiting(const tagHOME_S& stHome)
 {
     if (osdNetworkHolds(stHome.pstItem) || !osdItemChanged(stHome.pstItem)) {
-        return true; // a value that is held keeps waiting, with its message line
+        return; // a value that is held keeps waiting, with its message line
     }
     osdItemCommit(stHome.pstItem);
     stHome.pstPage->bKeyMsg = 0;
     osdItemApply(stHome.pstItem);
     osdCanvasRender();
-    return true;
 }
 
-static bool osdHomeAddress(const tagHOME_S& stHome)
+static void osdHomeAddress(const tagHOME_S& stHome)
 {
     osdAddressToggle(stHome.pstItem);
     osdCanvasRender();
-    return true;
 }
 
-static bool osdHomeNothing(const tagHOME_S& /*stHome*/)
-{
-    osdCanvasRender();
-    return true;
-}
+static void osdHomeNothing(const tagHOME_S& /*stHome*/) { osdCanvasRender(); }
 
 template <tagITEM_ATTR_E... aenAttr>
 static bool osdHomeIs(const tagHOME_S& stHome)
@@ -139,22 +124,32 @@ static bool osdHomeAlways(const tagHOME_S& /*stHome*/) { return true; }
 
 struct tagHOME_RULE_S {
     bool (*pfnFits)(const tagHOME_S&);
-    bool (*pfnPress)(const tagHOME_S&);
+    bool (*pfnOpen)(const tagHOME_S&);  // opens a page, which can fail; null for a rule that
+    void (*pfnPress)(const tagHOME_S&); // does something else
 };
 
 // In this order: what an item opens goes before the page that it stands on.
 static constexpr tagHOME_RULE_S c_astHomeRule[] = {
-    {osdHomeIs<SUBPAGE>, osdHomeSubPage},  {osdHomeIs<CONFIRM_POP, CONFIRM_POP_BTN>, osdHomeConfirmPage},
-    {osdHomeOnConfirmPage, osdHomeAnswer}, {osdHomeOnRestartPage, osdHomeRestart},
-    {osdHomeIs<CONFIRM>, osdHomeButton},   {osdHomeIs<KEY_WITH_MSG, MSG_WITH_SUBITEM>, osdHomeWaiting},
-    {osdHomeIs<EDITABLE>, osdHomeAddress}, {osdHomeAlways, osdHomeNothing}};
+    {osdHomeIs<SUBPAGE>, osdHomeSubPage, nullptr},
+    {osdHomeIs<CONFIRM_POP, CONFIRM_POP_BTN>, osdHomeConfirmPage, nullptr},
+    {osdHomeOnConfirmPage, nullptr, osdHomeAnswer},
+    {osdHomeOnRestartPage, nullptr, osdHomeRestart},
+    {osdHomeIs<CONFIRM>, nullptr, osdHomeButton},
+    {osdHomeIs<KEY_WITH_MSG, MSG_WITH_SUBITEM>, nullptr, osdHomeWaiting},
+    {osdHomeIs<EDITABLE>, nullptr, osdHomeAddress},
+    {osdHomeAlways, nullptr, osdHomeNothing}};
 
 static bool osdHomePress(const tagHOME_S& stHome)
 {
     for (const tagHOME_RULE_S& stRule : c_astHomeRule) {
-        if (stRule.pfnFits(stHome)) {
-            return stRule.pfnPress(stHome);
+        if (!stRule.pfnFits(stHome)) {
+            continue;
         }
+        if (stRule.pfnOpen != nullptr) {
+            return stRule.pfnOpen(stHome);
+        }
+        stRule.pfnPress(stHome);
+        break;
     }
     return true;
 }

@@ -25,7 +25,7 @@ void osdKeyOpen()
     }
 }
 
-void osdKeyMove(std::initializer_list<tagOSD_MENU_KEY_E> aenKey, OSD_BOOL bUpdate)
+void osdKeyMove(std::initializer_list<tagOSD_MENU_KEY_E> aenKey, bool bUpdate)
 {
     tagPAGE_NODE_S* pstPage = osdPageTop();
     if (pstPage == nullptr) {

@@ -10,7 +10,7 @@
 void osdKeyOpen();
 
 // Makes one or two moves on the top page.
-void osdKeyMove(std::initializer_list<tagOSD_MENU_KEY_E> aenKey, OSD_BOOL bUpdate);
+void osdKeyMove(std::initializer_list<tagOSD_MENU_KEY_E> aenKey, bool bUpdate);
 
 // The menu key and the advanced key; false when the page count is negative.
 bool osdKeyMenu();

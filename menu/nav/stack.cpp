@@ -37,6 +37,13 @@ bool osdStackNext(const char* pcPageName)
     return osdStackPush(pcPageName, pcFunc);
 }
 
+bool osdStackBack()
+{
+    const bool bOpen = gstPageMgr.s32PageCnt >= 1;
+    osdPagePop();
+    return bOpen;
+}
+
 tagITEM_NODE_S* osdStackSelected(tagPAGE_NODE_S* pstPage, const char* pcFunc)
 {
     tagITEM_NODE_S* pstItem = osdPageSelected(pstPage);

@@ -1,5 +1,5 @@
 // The stack of open pages: what raises and lowers its depth, and what is put right before a page goes. pcFunc is the
-// function of the interface in whose name a failure is said.
+// function of the interface that a line in the log names.
 #pragma once
 
 #include "menu/core/page.h"
@@ -13,6 +13,9 @@ bool osdStackPush(const char* pcPageName, const char* pcFunc);
 
 // Pushes the named page; false with no page open, on a full stack and when the page can't be parsed.
 bool osdStackNext(const char* pcPageName);
+
+// Pops the top page; false with no page open.
+bool osdStackBack();
 
 // The selected item of a page, or null with a line in the log.
 tagITEM_NODE_S* osdStackSelected(tagPAGE_NODE_S* pstPage, const char* pcFunc);

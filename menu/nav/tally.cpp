@@ -28,7 +28,7 @@ static void osdTallyMix(const tagLED_BYTE_S& stByte, int32_t s32Byte, OSD_TEXT& 
     (void)snprintf(acColor, sizeof(acColor), "%06X", u32Color); // six digits always fit
 }
 
-void osdTallyUpdate(tagPAGE_NODE_S* pstPage, list_head* pstList, OSD_BOOL bUpdate)
+void osdTallyUpdate(tagPAGE_NODE_S* pstPage, list_head* pstList, bool bUpdate)
 {
     if (!osdTextEqual(pstPage->acPageName, OSD_PAGE_TALLY)) {
         return;
@@ -40,7 +40,7 @@ void osdTallyUpdate(tagPAGE_NODE_S* pstPage, list_head* pstList, OSD_BOOL bUpdat
     if (pstColor == nullptr || pstByte == nullptr) {
         return;
     }
-    if (bUpdate == 0) {
+    if (!bUpdate) {
         osdTallyMix(*pstByte, pstItem->s32Cur, pstColor->acValue[0]);
         return;
     }

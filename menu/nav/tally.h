@@ -3,6 +3,6 @@
 
 #include "osd_records.h"
 
-// Asks the device, or with bUpdate 0, as the device doesn't know the change yet, computes the text from the selected
+// Asks the device, or without bUpdate, as the device doesn't know the change yet, computes the text from the selected
 // item. pstList is the page's flattened list, which may be threaded anew.
-void osdTallyUpdate(tagPAGE_NODE_S* pstPage, list_head* pstList, OSD_BOOL bUpdate);
+void osdTallyUpdate(tagPAGE_NODE_S* pstPage, list_head* pstList, bool bUpdate);

@@ -129,7 +129,7 @@ static bool osdIconDraw(const tagITEM_NODE_S* pstItem, const tagICON_S& stIcon, 
     }
     osdRowPut(pstCaption.get(), stIcon.stCaption);
     if (bSelected == 1) {
-        osdShapeFill(gstMenuMgr.pstSurface, stIcon.stBar, c_u32BarPixel); // a cell without bar is still a cell
+        osdShapeFill(gstMenuMgr.pstSurface, stIcon.stBar, c_u32BarPixel); // a failed fill is ignored
     }
     return true;
 }

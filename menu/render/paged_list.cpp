@@ -72,18 +72,19 @@ static bool osdPagedBright(tagITEM_NODE_S* pstItem, OSD_BOOL bSelected)
 
 void osdPagedTurnArrow(const tagPAGE_TURN_S& stTurn)
 {
-    const char* pcNext = stTurn.bPrevPage != 0 ? "arrow_all" : "arrow_bottom";
-    if (stTurn.bNextPage != 0 || stTurn.bPrevPage != 0) {
-        osdArrowTurn(gstMenuMgr.pstSurface, gstMenuMgr.stCanvas.stMenuRect,
-                     stTurn.bNextPage != 0 ? pcNext : "arrow_top");
+    static constexpr const char* apcPic[2][2] = {{nullptr, "arrow_top"},
+                                                 {"arrow_bottom", "arrow_all"}}; // next, previous
+    const char* pcPic = apcPic[stTurn.bNextPage != 0 ? 1 : 0][stTurn.bPrevPage != 0 ? 1 : 0];
+    if (pcPic != nullptr) {
+        osdArrowTurn(gstMenuMgr.pstSurface, gstMenuMgr.stCanvas.stMenuRect, pcPic);
     }
 }
 
 OSD_SURFACE_PTR osdPagedText(const tagITEM_NODE_S* pstItem, SDL_Rect stRect, int s32Size, OSD_BOOL bBright)
 {
     if (pstItem->enAttr == CONFIRM_POP_BTN) { // without a picture the text stays where it is
-        osdButtonPicture(gstMenuMgr.pstSurface, &stRect, gstMenuMgr.stCanvas.stMenuRect, bBright != 0,
-                         osdPagedPicture(pstItem->acItemIndex));
+        osdArrowButton(gstMenuMgr.pstSurface, &stRect, gstMenuMgr.stCanvas.stMenuRect, bBright != 0,
+                       osdPagedPicture(pstItem->acItemIndex));
     }
     OSD_SURFACE_PTR pstTxt = osdTextLit(gstMenuMgr.pstFont, pstItem->acItemName, s32Size, bBright);
     if (pstTxt == nullptr) {
@@ -111,7 +112,7 @@ bool osdPagedTitle(const tagITEM_NODE_S* pstItem, SDL_Rect* pstLayoutCursor)
     }
     const SDL_Rect stRule = {stTitle.x, osdClampS32(stTitle.h + int64_t{2} * stTitle.y),
                              osdTrunc(f32MenuW * c_f32TitleRuleW), osdTrunc(f32MenuH * c_f32TitleRuleH)};
-    osdShapeLine(gstMenuMgr.pstSurface, stRule); // a title without rule is still a title
+    osdShapeLine(gstMenuMgr.pstSurface, stRule); // a failed fill is ignored
     osdRowEnd(stRule, pstLayoutCursor);
     return true;
 }
@@ -126,7 +127,7 @@ static void osdPagedSeparator(SDL_Rect* pstLayoutCursor)
     stLine.y = osdTruncF64(static_cast<double>(stMenu.h) * c_f64LineY + f64Below);
     stLine.w = osdClampS32(stMenu.w - int64_t{2} * stLine.x);
     stLine.h = osdTruncF64(static_cast<double>(stMenu.h) * c_f64LineH);
-    osdShapeLine(gstMenuMgr.pstSurface, stLine); // a row without line is still a row
+    osdShapeLine(gstMenuMgr.pstSurface, stLine); // a failed fill is ignored
     osdRowEnd(stLine, pstLayoutCursor);
 }
 
@@ -172,7 +173,7 @@ bool osdPagedRow(tagITEM_NODE_S* pstItem, SDL_Rect* pstLayoutCursor, OSD_BOOL bS
 {
     tagROW_S stRow = {pstItem, gstMenuMgr.pstFont, osdPagedSize(), osdPagedBright(pstItem, bSelected), {}};
     const OSD_SURFACE_PTR pstName =
-        osdPagedName(pstItem, pstLayoutCursor, stRow.s32Size, stRow.bBright ? 1 : 0, &stRow.stLabel);
+        osdPagedName(pstItem, pstLayoutCursor, stRow.s32Size, stRow.bBright, &stRow.stLabel);
     if (pstName == nullptr) {
         OSD_TRACE_FAILED(OSD_MENU_RenderVerticalKETHItem);
         return false;

@@ -24,7 +24,7 @@ struct tagPOPUP_S {
     float f32LineGap;                         // of R.h, above a line of several items
     bool bMsg;                                // has a message line
     TTF_Font* (*pfnFont)(OSD_BOOL bSelected); // that draws; the regular font measures
-    const char* pcFunc;                       // in whose name a failure is said
+    const char* pcFunc;                       // that a line in the log names
 };
 
 static constexpr tagITEM_LEVEL_E c_enMsgLevel = static_cast<tagITEM_LEVEL_E>(2); // no top-level item stands so deep

@@ -91,7 +91,7 @@ OSD_SURFACE_PTR osdRowValueSurface(const tagROW_S& stRow, const tagROW_VALUE_S& 
 {
     return stRow.pstItem->enCtx == NAME_BAR_VAL
                ? osdBarSurface(osdRowWidget(stRow, stValue), stValue.stBar, stColumn)
-               : osdTextLit(stRow.pstFont, stValue.acText, stRow.s32Size, stRow.bBright ? 1 : 0);
+               : osdTextLit(stRow.pstFont, stValue.acText, stRow.s32Size, stRow.bBright);
 }
 
 static int osdRowTextWidth(const char* pcText) { return osdTextWidth(gstMenuMgr.pstFont, pcText); }
@@ -117,7 +117,7 @@ static void osdRowCaretDraw(const tagROW_GEOM_S& stGeom, SDL_Rect stCaret, const
     const float f32Gap = osdF32(gstMenuMgr.stCanvas.stMenuRect.h) * stGeom.f32NextGap;
     stCaret.y = osdTrunc(osdF32(osdClampS32(int64_t{stColumn.y} + stColumn.h)) + f32Gap / 3.0f);
     stCaret.h = osdTrunc(f32Gap / stGeom.f32CaretPart);
-    osdShapeLine(gstMenuMgr.pstSurface, stCaret); // a row without caret is still a row
+    osdShapeLine(gstMenuMgr.pstSurface, stCaret); // a failed fill is ignored
 }
 
 void osdRowDrawValue(const tagROW_GEOM_S& stGeom, const tagROW_S& stRow, OSD_VALUE_FUNC pfnSurface)

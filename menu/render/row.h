@@ -71,7 +71,7 @@ void osdRowDrawValue(const tagROW_GEOM_S& stGeom, const tagROW_S& stRow, OSD_VAL
 // The text of a value with what a widget needs of its row.
 inline tagWIDGET_TEXT_S osdRowWidget(const tagROW_S& stRow, const tagROW_VALUE_S& stValue)
 {
-    return {stRow.pstFont, stValue.acText, stRow.s32Size, stRow.bBright ? 1 : 0};
+    return {stRow.pstFont, stValue.acText, stRow.s32Size, stRow.bBright};
 }
 
 // Blits the whole of a surface onto the canvas; a null surface draws nothing.

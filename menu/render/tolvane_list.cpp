@@ -112,7 +112,7 @@ static OSD_SURFACE_PTR osdTolvaneLabel(const tagROW_S& stRow)
     TTF_Font* pstFont = bAlone ? gstMenuMgr.pstSelectFont : stRow.pstFont;
     return bAlone && pstItem->enLevel == ITEM_LEVEL_TOP
                ? osdTextAmber(pstFont, pstItem->acItemName, stRow.s32Size)
-               : osdTextLit(pstFont, pstItem->acItemName, stRow.s32Size, stRow.bBright ? 1 : 0);
+               : osdTextLit(pstFont, pstItem->acItemName, stRow.s32Size, stRow.bBright);
 }
 
 static bool osdTolvaneDrawRow(const tagROW_S& stRow, OSD_BOOL bSelected)
@@ -196,7 +196,7 @@ bool osdTolvaneHints(const tagITEM_NODE_S* pstItem)
 void osdTolvanePage(tagPAGE_NODE_S* pstPage)
 {
     osdListDraw(pstPage, {osdTolvaneRow, nullptr, false});
-    osdTolvaneRule(); // a page without rule is still a page
+    osdTolvaneRule(); // a failed fill is ignored
     const tagITEM_NODE_S* pstSelected = osdPageSelected(pstPage);
     if (pstSelected != nullptr) {
         osdTolvaneHints(pstSelected); // hints that are missing leave the row empty

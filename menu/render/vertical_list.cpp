@@ -47,7 +47,7 @@ static bool osdVerticalDrawRow(const tagROW_S& stRow)
 {
     const tagITEM_NODE_S* pstItem = stRow.pstItem;
     TTF_Font* pstFont = pstItem->enCtx == NAME ? gstMenuMgr.pstSelectFont : stRow.pstFont;
-    const OSD_SURFACE_PTR pstLabel = osdTextLit(pstFont, pstItem->acItemName, stRow.s32Size, stRow.bBright ? 1 : 0);
+    const OSD_SURFACE_PTR pstLabel = osdTextLit(pstFont, pstItem->acItemName, stRow.s32Size, stRow.bBright);
     if (pstLabel == nullptr) {
         osdTrace("%s %d failed, pstItemNode->acItemIndex = %s\n", OSD_PLACE(OSD_MENU_RenderVerticalItem),
                  pstItem->acItemIndex);

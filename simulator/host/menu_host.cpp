@@ -28,8 +28,6 @@ bool push_and_draw(const std::string& name)
 
 MenuHost::MenuHost(Camera& camera, MenuConfig config) : camera_(camera), config_(std::move(config))
 {
-    // Without this the library's start would catch Ctrl-C for an event queue that nobody empties.
-    SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
     tagOSD_MENU_CFG_S menu{menu_place, config_.pixel_format, config_.uhd ? 1 : 0, config_.style};
     if (OSD_MENU_InitOpensourceRes() != 0) {
         throw std::runtime_error("the menu's graphics libraries don't start, see the log above");

@@ -42,7 +42,7 @@ TEST_F(FaultsTest, ReachTheServices)
             MPP_FreeMem(&block);
         }
         return std::vector<int>{found, found && number.s32Cur <= number.s32Max,
-                                osdCfgTranslate(language, "On", text) == 0, allocated};
+                                osdCfgTranslate(language, "On", text), allocated};
     };
     const std::pair<const char*, std::vector<int>> cases[] = {
         {"settings-slow", {1, 1, 1, 1}},         {"settings-refusing", {0, 0, 1, 1}},

@@ -43,11 +43,11 @@ TEST_F(Services, AnswerSettingsAndTexts)
     EXPECT_STREQ(text.acValue, "German");
     char language[OSD_TEXT_LEN];
     char out[OSD_TEXT_LEN];
-    EXPECT_EQ(osdCfgLanguage(language), 0);
+    EXPECT_TRUE(osdCfgLanguage(language));
     for (const char* missing : {"Gain", "Gain", "192.168.1.120"}) {
-        EXPECT_NE(osdCfgTranslate(language, missing, out), 0);
+        EXPECT_FALSE(osdCfgTranslate(language, missing, out));
     }
-    EXPECT_EQ(osdCfgTranslate(language, "On", out), 0);
+    EXPECT_TRUE(osdCfgTranslate(language, "On", out));
     EXPECT_STREQ(out, "Ein");
     EXPECT_EQ(CFG_GetDocByFileName(folder.write("bad.xml", "<Page>\n<Item>\n</Page>").c_str(), 1), nullptr);
     EXPECT_THAT(testing::internal::GetCapturedStderr(),
