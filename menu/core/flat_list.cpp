@@ -1,13 +1,15 @@
 #include "menu/core/flat_list.h"
 
+#include <cstdint>
+
 #include "menu/core/item.h"
 #include "menu/core/page.h"
 
-static list_head* gs_pstHead; // of the most recent list; it may be gone, so it is compared and never followed
+static uintptr_t gs_uHead; // where the head of the most recent list stood; it may be gone, so this is no pointer
 
 void osdFlatAppend(tagITEM_NODE_S* pstItem, list_head* pstHead)
 {
-    gs_pstHead = pstHead;
+    gs_uHead = reinterpret_cast<uintptr_t>(pstHead);
     osdListAddTail(&pstItem->stTmpNode, pstHead);
     if (!osdItemHasSubItems(pstItem)) {
         return;
@@ -74,7 +76,8 @@ static tagITEM_NODE_S* osdFlatNeighbour(const tagITEM_NODE_S* pstItem, list_head
     if (osdFlatOwnerOnStack(&pstItem->stTmpNode) != nullptr) {
         return osdFlatOwnerOnStack(pstLink);
     }
-    return pstLink != nullptr && pstLink != gs_pstHead ? osdFlatItem(pstLink) : nullptr;
+    const bool bEnd = pstLink == nullptr || reinterpret_cast<uintptr_t>(pstLink) == gs_uHead;
+    return bEnd ? nullptr : osdFlatItem(pstLink);
 }
 
 tagITEM_NODE_S* osdFlatPrev(const tagITEM_NODE_S* pstItem)
