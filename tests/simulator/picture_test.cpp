@@ -1,7 +1,6 @@
 // Canvases over the picture, and the picture itself.
 #include <gmock/gmock.h>
 
-#include <future>
 #include <numeric>
 #include <sstream>
 
@@ -251,12 +250,4 @@ TEST(Channels, TellTheMenusCanvasAndEachChange)
 
     EXPECT_FALSE(channels.wait_for_change(4, Clock::now()));
     EXPECT_TRUE(channels.wait_for_change(3, Clock::now() + std::chrono::hours(1)));
-    const auto wait = [&] { return channels.wait_for_change(4, Clock::now() + std::chrono::hours(1)); };
-    for (const bool change : {false, true}) {
-        std::future<bool> waiting = std::async(std::launch::async, wait);
-        while (waiting.wait_for(std::chrono::milliseconds(1)) != std::future_status::ready) {
-            change ? channels.hide(2, &menu) : channels.wake();
-        }
-        EXPECT_EQ(waiting.get(), change);
-    }
 }

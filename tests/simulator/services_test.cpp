@@ -108,7 +108,7 @@ TEST_F(Services, DoWhatTheMenuApplies)
     EXPECT_THAT(stored, ElementsAre(Pair(Field(&SettingId::key, "Language"), "English")));
 }
 
-TEST_F(Services, ReadKeysFilesAndRecordAtOnce)
+TEST_F(Services, ReadKeysFiles)
 {
     const auto at = [](double seconds) { return Field(&TimedKey::at, seconds); };
     EXPECT_THAT(read_keys_file(folder.write("good", "# x\r\n\n0.5 menu #1\nhome\n\t1.25  down-left\r\n")),
@@ -123,10 +123,6 @@ TEST_F(Services, ReadKeysFilesAndRecordAtOnce)
         const auto path = folder.write("bad", text);
         EXPECT_THAT([&] { read_keys_file(path); }, ThrowsMessage<BadInput>(StartsWith(path.string() + words)));
     }
-    KeyRecorder recorder(folder.path("record"));
-    recorder.follow(camera);
-    camera.events().tell({"key", "up"});
-    EXPECT_THAT(folder.read("record"), MatchesRegex("[0-9]+[.][0-9][0-9][0-9] up\n"));
 }
 
 TEST_F(Services, KeepAPageThatCantBeReadOpen)
