@@ -29,7 +29,7 @@ def fetch(method, url, body=None):
         with urllib.request.urlopen(request, timeout=60) as response:
             return response.read()
     except urllib.error.HTTPError as error:
-        raise AssertionError(f"{method} {url}: {error.read().decode()[:400]}") from None
+        raise AssertionError(f"{method} {url}: {error.read().decode()[:400]}") from error
 
 
 class Browser:

@@ -5,7 +5,6 @@
 
 #include "osd_menu.h"
 #include "platform/config_call.h"
-#include "platform/config_service.h"
 #include "platform/media_service.h"
 #include "simulator/core/camera.h"
 #include "simulator/host/key_script.h"
@@ -22,41 +21,34 @@ struct FaultsTest : testing::Test {
 
 TEST_F(FaultsTest, ReachTheServices)
 {
-    EXPECT_THAT(
-        [] {
-            parse_faults({"fonts-missing", "rain"});
-        },
-        ThrowsMessage<BadInput>(HasSubstr("unknown fault 'rain', expected one of settings-slow, ")));
-    char name[] = "menu";
-    char parent[] = "ImageParam";
-    char number_key[] = "Brightness";
-    char text_key[] = "Mirror";
-    char language[OSD_TEXT_LEN] = "English";
-    char text[OSD_TEXT_LEN];
-    const auto answers = [&] { // 1 for each service that succeeds
+    const auto answers = [] { // how each service answers
+        std::string words;
         tagCFG_VALUE_INT_S number{};
+        osdCfgGetInt("ImageParam", "Brightness", &number);
+        words += number.s32Max == 0 ? "" : number.s32Cur <= number.s32Max ? "number " : "number out of range ";
+        tagCFG_VALUE_TXT_S value{};
+        osdCfgGetTxt("ImageParam", "Mirror", &value);
+        const bool ends = std::count(std::begin(value.acList), std::end(value.acList), '\0') > 0;
+        words += value.acList[0] == '\0' ? "" : ends ? "list " : "endless list ";
+        char text[OSD_TEXT_LEN];
+        words += osdCfgTranslate("English", "On", text) ? "text " : "";
         tagOSD_MEM_S block{};
-        const bool found = CFG_COM_GetIntParamByParent(parent, number_key, &number) == 0;
-        const bool allocated = MPP_AllocMem(name, 4096, 0, &block) == 0;
-        if (allocated) {
+        if (MPP_AllocMem("menu", 4096, 0, &block) == 0) {
+            words += "memory ";
             MPP_FreeMem(&block);
         }
-        return std::vector<int>{found, found && number.s32Cur <= number.s32Max,
-                                osdCfgTranslate(language, "On", text), allocated};
+        return words;
     };
-    const std::pair<const char*, std::vector<int>> cases[] = {
-        {"settings-slow", {1, 1, 1, 1}},         {"settings-refusing", {0, 0, 1, 1}},
-        {"settings-out-of-range", {1, 0, 1, 1}}, {"language-refusing", {1, 1, 0, 1}},
-        {"memory-exhausted", {1, 1, 1, 0}},      {"pictures-missing", {1, 1, 1, 1}}};
+    const std::pair<const char*, const char*> cases[] = {
+        {"settings-slow", "number list text memory "},
+        {"settings-refusing", "text memory "},
+        {"settings-out-of-range", "number out of range endless list text memory "},
+        {"language-refusing", "number list memory "},
+        {"memory-exhausted", "number list text "}};
     for (const auto& [fault, expected] : cases) {
         turn_on(fault);
-        EXPECT_THAT(camera.faults().names(), ElementsAre(fault));
         EXPECT_EQ(answers(), expected) << fault;
     }
-    turn_on("settings-out-of-range");
-    tagCFG_VALUE_TXT_S value{};
-    EXPECT_EQ(CFG_COM_GetTxtParamByParent(parent, text_key, &value), 0);
-    EXPECT_EQ(std::count(std::begin(value.acList), std::end(value.acList), '\0'), 0);
 }
 
 TEST_F(FaultsTest, KeepTheMenuFromStarting)
@@ -66,9 +58,6 @@ TEST_F(FaultsTest, KeepTheMenuFromStarting)
         EXPECT_THROW(MenuHost(camera, {2, 0, false, "", ""}), std::runtime_error) << fault;
         camera.faults().set({});
         MenuHost host(camera, {2, 0, false, "", ""}); // the next try starts it
-        host.open();
-        EXPECT_TRUE(host.is_open());
-        host.call(OSD_MENU_CloseMenu);
     }
 }
 

@@ -47,7 +47,7 @@ TEST(Log, TakesStandardOutputIn)
         std::printf("line\nno end");
         capture.print("the one line\n");
     }
-    std::printf("behind\n");
+    std::puts("behind");
     std::fflush(stdout);
     EXPECT_THAT(heard, ElementsAre("TRACE [osdPageParse:144]", "TRACE second line", "TRACE no end"));
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "the one line\nbehind\n");

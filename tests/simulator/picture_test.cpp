@@ -1,7 +1,6 @@
 // Canvases over the picture, and the picture itself.
 #include <gmock/gmock.h>
 
-#include <future>
 #include <numeric>
 #include <sstream>
 
@@ -66,34 +65,53 @@ TEST(Layer, LiesScaledOnEachChannelAndIsCutAtTheEdges)
 
 TEST(Picture, ShowsTheSettings)
 {
+    const Color corner = draw_picture({640, 360}, Look(), 0).row(159)[539];
     Look look;
     look.mirror = look.flip = true;
-    EXPECT_EQ(draw_picture({640, 360}, look, 0).row(200)[100], draw_picture({640, 360}, Look(), 0).row(159)[539]);
-    look = Look();
-    look.zoom = 2;
-    look.tally = 0xE8202A;
-    const Image near = draw_picture({640, 360}, look, 0);
-    EXPECT_EQ(near.row(300)[150], draw_picture({1280, 720}, Look(), 0).row(480)[470]);
-    EXPECT_EQ(near.row(2)[2], 0xFFE8202AU);
-
+    EXPECT_EQ(draw_picture({640, 360}, look, 0).row(200)[100], corner);
     look = Look();
     look.mounting.angle = 180;
-    EXPECT_EQ(draw_picture({640, 360}, look, 0).row(200)[100], draw_picture({640, 360}, Look(), 0).row(159)[539]);
+    EXPECT_EQ(draw_picture({640, 360}, look, 0).row(200)[100], corner);
     look.mounting = {90, false}; // 202 pixels wide, 219 beside it
     look.inset = Inset{true, false, true, 0.25};
     const Image turned = draw_picture({640, 360}, look, 0);
     EXPECT_EQ(turned.row(20)[218], 0xFF000000U);
     EXPECT_EQ(turned.row(20)[420], draw_picture({640, 360}, Look(), 0).row(1)[36]); // the sky lies at the right
     EXPECT_EQ(turned.row(232)[19], draw_picture({160, 90}, Look(), 0).row(0)[0]);
+    look = Look();
+    look.zoom = 2;
+    look.tally = 0xE8202A;
+    const Image near = draw_picture({640, 360}, look, 0);
+    EXPECT_EQ(near.row(300)[150], draw_picture({1280, 720}, Look(), 0).row(480)[470]);
+    EXPECT_EQ(near.row(2)[2], 0xFFE8202AU);
+    look = Look();
+    look.pattern = Pattern::ColorBars;
+    look.tones.closed = look.mirror = true; // of the scene alone
+    const Image bars = draw_picture({800, 450}, look, 0);
+    look.pattern = Pattern::GrayRamp;
+    const Image ramp = draw_picture({256, 144}, look, 0);
+    EXPECT_THAT((std::vector{bars.row(440)[99], bars.row(0)[100], ramp.row(100)[0], ramp.row(143)[255]}),
+                testing::ElementsAre(0xFFC0C0C0U, 0xFFC0C000U, 0xFF000000U, 0xFFFFFFFFU));
 
-    const TempFolder folder;
-    SettingsStore store(folder.path("settings.db"));
-    const SettingId id{"", "TallyLevel"};
-    const std::tuple<int, int, const char*, double> levels[] = {{0, 5, "4", 0.8}, {-5, 5, "-3", 0}, {-9, 0, "0", 0}};
-    for (const auto& [min, max, value, level] : levels) {
-        const std::map<SettingId, Setting> one = {{id, {id, SettingKind::Integer, {}, min, max, 1, "", value}}};
-        EXPECT_DOUBLE_EQ(look_of(Settings(one, store)).tally_level, level) << value;
-    }
+    /// How unlike its neighbor each pixel of a part is: the grass is all of one color, the other part full of edges.
+    const auto unlike = [](double noise, double sharpness, SDL_Rect part) {
+        Look detail;
+        detail.noise = noise;
+        detail.sharpness = sharpness;
+        const Image image = draw_picture({480, 270}, detail, 0);
+        int sum = 0;
+        for (int i = 0; i < part.w * part.h; ++i) {
+            const Color* at = image.row(part.y + i / part.w) + part.x + i % part.w;
+            sum += std::abs(static_cast<int>(component(at[0], 8)) - static_cast<int>(component(at[1], 8)));
+        }
+        return sum;
+    };
+    const SDL_Rect grass{100, 258, 100, 9};
+    const SDL_Rect edges{50, 150, 100, 50};
+    EXPECT_EQ(unlike(0, 0, grass), 0);
+    EXPECT_GT(unlike(12, 0, grass), 2 * unlike(3, 0, grass));
+    EXPECT_GT(unlike(0, 1, edges), unlike(0, 0, edges));
+    EXPECT_LT(unlike(0, -1, edges), unlike(0, 0, edges));
 }
 
 /// The look of the camera's own settings, of which some have other values: "Key=value Key=value".
@@ -111,110 +129,55 @@ static Look look_with(const std::string& changes)
     return look_of(settings);
 }
 
-namespace {
-struct Measures {
-    double light = 0;  ///< of all that isn't written onto the picture
-    double warmth = 0; ///< red by blue on the street
-    int grain = 0;     ///< unlike pixels in the grass, which is all of one color
-    double edges = 0;
-};
-} // namespace
-
-static Measures measure(const Look& look)
+/// What is to be seen with a look, beside that of the default settings.
+static std::string words_for(const Look& look)
 {
-    const Image image = draw_picture({480, 270}, look, 0);
-    const auto sum = [&](SDL_Rect part, auto value_at) {
-        double total = 0;
-        for (int y = part.y; y < part.y + part.h; ++y) {
-            for (int x = part.x; x < part.x + part.w; ++x) {
-                total += value_at(image.row(y) + x);
-            }
-        }
-        return total;
+    const Tones& tones = look.tones;
+    const auto compare = [](double difference, const char* less, const char* more) {
+        return std::string(difference > 0.1 ? more : difference < -0.1 ? less : "");
     };
-    const auto shade = [](int shift) { return [shift](const Color* at) { return component(*at, shift); }; };
-    const auto edge = [](const Color* at) {
-        return std::abs(static_cast<int>(component(at[0], 8)) - static_cast<int>(component(at[1], 8)));
-    };
-    const SDL_Rect street{25, 216, 75, 12};
-    return {sum({0, 30, 440, 240}, shade(8)), sum(street, shade(16)) / sum(street, shade(0)),
-            static_cast<int>(sum({100, 258, 100, 9}, [](const Color* at) { return at[0] != at[1] ? 1.0 : 0.0; })),
-            sum({50, 150, 100, 50}, edge)};
+    return (tones.closed ? "black " : compare(tones.stops + tones.shadow_light, "darker ", "lighter ")) +
+           compare(tones.red_gain - tones.blue_gain, "colder ", "warmer ") + compare(look.noise, "", "grainy ") +
+           compare(look.sharpness, "softer ", "harder ");
 }
 
-/// How a picture differs from that of the default settings.
-static std::string difference(const Look& look)
-{
-    static const Measures usual = measure(look_with(""));
-    const Measures seen = measure(look);
-    if (seen.light == 0) {
-        return "black";
-    }
-    std::string words;
-    const auto compare = [&words](double by_usual, double tolerance, const char* less, const char* more) {
-        words += by_usual > 1 + tolerance ? more : by_usual < 1 - tolerance ? less : "";
-    };
-    compare(seen.light / usual.light, 0.04, "darker ", "lighter ");
-    compare(seen.warmth / usual.warmth, 0.08, "colder ", "warmer ");
-    words += seen.grain > 0 ? "grainy " : "";
-    if (words.empty()) { // else light and grain change edges as well
-        compare(seen.edges / usual.edges, 0.05, "softer ", "harder ");
-    }
-    return words;
-}
-
-TEST(Picture, ShowsExposureColorAndDetail)
+TEST(Picture, FollowsTheModesOfExposureColorAndDetail)
 {
     const std::pair<const char*, const char*> cases[] = {
-        {"ExposureMode=Manual", ""},
-        {"ExposureMode=ShutterPri", ""},
-        {"ExposureMode=IrisPri", ""},
-        {"ExposureMode=BrightPri", ""},
+        {"ExposureMode=Manual Backlight=On", ""},
         {"Shutter=1/1000 Iris=IrisClose Gain=30 BrightLevel=17 ExpCompLevel=7 GainLimit=0", ""}, // in other modes
         {"ExposureMode=Manual Shutter=1/250", "darker "},
-        {"ExposureMode=Manual Shutter=1/30", "lighter "},
         {"ExposureMode=Manual Iris=F1.8 ExpComp=On ExpCompLevel=-7", "lighter "},
         {"ExposureMode=Manual Gain=12", "lighter grainy "},
         {"ExposureMode=Manual Iris=F5.6 Gain=12", "grainy "},
-        {"ExposureMode=IrisPri Iris=IrisClose NoiseReduction=Off", "black"},
+        {"ExposureMode=IrisPri Iris=IrisClose NoiseReduction=Off", "black grainy "},
         {"ExposureMode=IrisPri Iris=F8.0 GainLimit=0", "darker "},
         {"ExposureMode=ShutterPri Shutter=1/1000", "darker grainy "},
         {"ExposureMode=ShutterPri Shutter=1/30", "lighter "},
         {"ExposureMode=BrightPri BrightLevel=0", "darker "},
         {"ExpComp=On ExpCompLevel=-5", "darker "},
         {"Backlight=On", "lighter "},
-        {"ExposureMode=Manual Backlight=On", ""},
         {"Wdr=Low", "lighter "},
-        {"NoiseReduction=Off", "grainy "},
         {"NoiseReduction=Manual Nr2d=1 Nr3d=1", "grainy "},
         {"WbMode=Outdoor", "warmer "},
         {"WbMode=OnePush", "warmer "},
         {"WbMode=ColorTempMode", ""},
         {"WbMode=ColorTempMode ColorTemp=7100", "warmer "},
-        {"WbMode=Manual", ""},
         {"WbMode=Manual RedGain=60", "colder "},
         {"WbMode=Manual BlueGain=60", "warmer "},
         {"ColorTemp=2400 RedGain=255", ""}, // in other modes
         {"Sharpness=15", "harder "},
         {"Sharpness=0", "softer "},
     };
-    for (const auto& [settings, seen] : cases) {
-        EXPECT_EQ(difference(look_with(settings)), seen) << settings;
+    for (const auto& [settings, words] : cases) {
+        EXPECT_EQ(words_for(look_with(settings)), words) << settings;
     }
     // The gain limit bounds both what the camera makes up for and its noise; noise reduction takes grain away.
-    const std::string fast = "ExposureMode=ShutterPri Shutter=1/2000 GainLimit=";
-    EXPECT_LT(measure(look_with(fast + "1")).light * 1.1, measure(look_with(fast + "15")).light);
-    EXPECT_LT(look_with(fast + "1").noise * 2, look_with(fast + "15").noise);
+    const Look dark = look_with("ExposureMode=ShutterPri Shutter=1/2000 GainLimit=1");
+    const Look bright = look_with("ExposureMode=ShutterPri Shutter=1/2000 GainLimit=15");
+    EXPECT_LT(dark.tones.stops + 0.5, bright.tones.stops);
+    EXPECT_LT(dark.noise * 2, bright.noise);
     EXPECT_LT(look_with("NoiseReduction=Manual Nr2d=5 Nr3d=8").noise * 3, look_with("NoiseReduction=Manual").noise);
-
-    Look look;
-    look.pattern = Pattern::ColorBars;
-    look.tones.closed = look.mirror = true;
-    const Image bars = draw_picture({800, 450}, look, 0);
-    look.pattern = Pattern::GrayRamp;
-    const Image ramp = draw_picture({256, 144}, look, 0);
-    EXPECT_THAT((std::vector{bars.row(440)[99], bars.row(0)[100], ramp.row(100)[0], ramp.row(143)[255]}),
-                testing::ElementsAre(0xFFC0C0C0U, 0xFFC0C000U, 0xFF000000U, 0xFFFFFFFFU));
 }
 
 TEST(Picture, TonesMoveEachColor)
@@ -224,6 +187,7 @@ TEST(Picture, TonesMoveEachColor)
         {{0, false, 0, 1, 1, 0, 0, -1, 0}, 0xFFC02010, 0xFF4E4E4E}, // 192, 32, 16 weighed: 78.3
         {{0, false, 0, 1, 1, 0, 0, 1, 0}, 0xFFC02010, 0xFFFF0000},
         {{0, false, 0, 1, 1, 0, 0, 0, 60}, 0xFF808080, 0xFF808080},
+        {{0, false, 0, 1, 1, 0, 0, 0, 120}, 0xFFC02010, 0xFF10C020}, // red becomes green, not blue
         {{2.2, false, 0, 1, 1, 0, 0, 0, 0}, 0xFF104080, 0xFF2080FF}, // twice as light to the eye
         {{0, false, 0, 1, 1, 0.5, 0, 0, 0}, 0xFF104080, 0xFF4777B7}, // 55 more
         {{0, true, 1, 1, 1, 0, 0, 0, 0}, 0xFFC02010, 0xFF000000}};
@@ -233,30 +197,18 @@ TEST(Picture, TonesMoveEachColor)
         apply_tones(image, tones);
         EXPECT_EQ(image.pixels[0], after) << std::hex << before << " to " << image.pixels[0];
     }
-    Image image({1, 1});
-    image.pixels[0] = 0xFFC01010;
-    Tones tones;
-    tones.hue = 60;
-    apply_tones(image, tones);
-    EXPECT_GT(component(image.pixels[0], 8), component(image.pixels[0], 0)); // from red to green, not to blue
 }
 
 TEST(Encode, GivesBackWhatItTook)
 {
     const TempFolder folder;
     Image image({40, 30});
-    for (int i = 0; i < 1200; ++i) {
-        const auto x = static_cast<std::uint32_t>(i) % 40;
-        image.pixels[static_cast<std::size_t>(i)] =
-            make_color(x * 6, 200 - x, x * 5, static_cast<std::uint32_t>(i) / 8);
+    for (std::uint32_t i = 0; i < 1200; ++i) {
+        image.pixels[i] = make_color(i % 40 * 6, 200 - i % 40, i % 40 * 5, i / 8);
     }
     EXPECT_EQ(load_png(folder.write("a.png", encode_png(image, true))).pixels, image.pixels);
-    for (Color& pixel : image.pixels) {
-        pixel |= 0xFF000000U;
-    }
-    EXPECT_EQ(load_png(folder.write("b.png", encode_png(image, false))).pixels, image.pixels);
-
     const std::string file = encode_jpeg(image, 95);
+    EXPECT_LT(encode_jpeg(image, 10).size(), file.size());
     const Image read = load_png(folder.write("c.jpg", file));
     ASSERT_TRUE(read.size == image.size);
     for (std::size_t i = 0; i < image.pixels.size(); ++i) {
@@ -264,10 +216,7 @@ TEST(Encode, GivesBackWhatItTook)
             ASSERT_NEAR(component(read.pixels[i], shift), component(image.pixels[i], shift), 12) << i;
         }
     }
-    EXPECT_LT(encode_jpeg(image, 10).size(), file.size());
-    for (const Size size : {Size{0, 0}, Size{65501, 1}}) {
-        EXPECT_THROW(encode_jpeg(Image(size), 80), std::runtime_error) << size.width;
-    }
+    EXPECT_THROW(encode_jpeg(Image({65501, 1}), 80), std::runtime_error);
     EXPECT_THROW(encode_png(Image(), true), std::runtime_error);
 }
 
@@ -301,12 +250,4 @@ TEST(Channels, TellTheMenusCanvasAndEachChange)
 
     EXPECT_FALSE(channels.wait_for_change(4, Clock::now()));
     EXPECT_TRUE(channels.wait_for_change(3, Clock::now() + std::chrono::hours(1)));
-    const auto wait = [&] { return channels.wait_for_change(4, Clock::now() + std::chrono::hours(1)); };
-    for (const bool change : {false, true}) {
-        std::future<bool> waiting = std::async(std::launch::async, wait);
-        while (waiting.wait_for(std::chrono::milliseconds(1)) != std::future_status::ready) {
-            change ? channels.hide(2, &menu) : channels.wake();
-        }
-        EXPECT_EQ(waiting.get(), change);
-    }
 }

@@ -27,6 +27,11 @@ private:
     sim::TemporaryFolder folder_;
 };
 
+inline std::string replaced(std::string text, const std::string& from, const std::string& to)
+{
+    return text.replace(text.find(from), from.size(), to);
+}
+
 /// A settings definitions file with the languages English and German, with a list of further settings and the start of
 /// a list of further languages.
 inline std::string definitions_with(const std::string& settings, const std::string& zones = "{}",
