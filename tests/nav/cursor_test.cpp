@@ -24,6 +24,8 @@ TEST_F(CursorTest, VerticalList)
           More
         right               | sets Zoom to 0         | > Zoom 0 of 0..10
         then right          | sets Zoom to 3         | > Zoom 3 of 0..10
+        Zoom=7 refresh right | sets Zoom to 10       | > Zoom 10 of 0..10
+        Zoom=3 refresh left | sets Zoom to 0         | > Zoom 0 of 0..10
         Zoom=1 refresh left | sets Zoom to 10        | > Zoom 10 of 0..10
         down right_update   | > Gain Low
         then set            | sets Gain to Low       | > Gain Low
@@ -148,7 +150,6 @@ TEST_F(CursorTest, PagedList)
         then up         | > Zoom 9 of 0..10
         then down right | sets Gain to Low | > Gain Low
         told
-        up        | > Zoom 9 of 0..10
         down up   | > Zoom 9 of 0..10
         then down | > Gain Auto
         one
@@ -174,7 +175,6 @@ TEST_F(CursorTest, PagedList)
         down | reads none | lost at Gain Auto / unread
         deep
         right        | reads two              | deep at More / two: > SN; Zoom 9 of 0..10
-        home         | reads two              | deep at More / two: > SN; Zoom 9 of 0..10
         left         | sets More to option -1 | > More option -1
         then right   | reads two              | deep at More none, was option -1 / two: > SN; Zoom 9 of 0..10
         then up down | passes More            | > More

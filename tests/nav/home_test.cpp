@@ -54,10 +54,7 @@ TEST_F(HomeTest, RulesInTheirOrder)
         then home            | no redraw      | > Wait C
         up up right home     | sets Mode to B | > Mode B
         down home            | > Gain Auto
-        down down down home  | > Note
         up up up up home     | > SN
-        modes
-        home | > Mode A
     )");
     platform().untranslated = {"Loading"};
     openAll("push");

@@ -19,11 +19,6 @@ TEST_F(StackTest, MenuKeysByDepth)
         return             | hides the menu | closed
         down right up home | reads sub      | main at More / sub: > More; Ip 192.168.1.5
         then return        | > More; Gain Low
-        main / sub / third
-        > Ip    192.168.1.5
-          Gain  Auto
-        close    | hides the menu | closed
-        advanced | reads advanced | advanced: > Gain Auto
         third
         home menu        | hides the menu | closed
         home up advanced | reads advanced | advanced: > Gain Auto
