@@ -5,20 +5,13 @@
 using namespace fake;
 using namespace testing;
 
-class CanvasTest : public MenuTest {
-protected:
-    tagPAGE_NODE_S* openPage(const std::string& items = "")
-    {
-        setPage("p", items);
-        return open("p", platform().pages["p"]);
-    }
-};
+class CanvasTest : public MenuTest {};
 
 TEST_F(CanvasTest, RedrawPushesUnderTheLock)
 {
     start({0, 2, 0, {0.05f, 0.05f, 0.35f, 0.7f}, false});
     EXPECT_EQ(OSD_MENU_RenderCanvas(), 0); // a closed menu is hidden with its pixels as they are
-    tagPAGE_NODE_S* page = openPage();
+    tagPAGE_NODE_S* page = openPage("");
     calls().lines.erase(calls().lines.begin() + 1, calls().lines.end());
     page->enLayout = static_cast<tagPAGE_LAYOUT_E>(6);
     EXPECT_EQ(OSD_MENU_RenderCanvas(), -1); // a layout that nothing draws isn't pushed
@@ -30,37 +23,25 @@ TEST_F(CanvasTest, RedrawPushesUnderTheLock)
     EXPECT_EQ(platform().pushes.at(1).pixels.at((56 * 672 + 96) * 4), 0x0A) << "pushed as drawn";
 }
 
-TEST_F(CanvasTest, OpensTheRootPageOnce)
-{
-    start();
-    EXPECT_EQ(OSD_MENU_GetMenuStatus(), 0);
-    EXPECT_EQ(OSD_MENU_OpenMenu(), 0) << "also what can't be parsed";
-    EXPECT_EQ(OSD_MENU_GetMenuStatus(), 1);
-    ASSERT_EQ(osdMenuReleaseSinglePage(), 0);
-    calls().lines.clear();
-    platform().pages["main"] = "<P Layout='vertical_align'/>";
-    EXPECT_EQ(OSD_MENU_OpenMenu(), 0);
-    EXPECT_EQ(OSD_MENU_OpenMenu(), 0) << "and nothing more";
-    EXPECT_THAT(linesOf({"doc", "push"}), ElementsAre("document " OSD_RESOURCE_DIR "/menu/main_page.xml 1", "push 1"));
-}
-
 TEST_F(CanvasTest, ChannelCallbackShowsOnlyAnOpenMenu)
 {
     start();
     auto* attach = reinterpret_cast<OSD_ATTACH_INFO_S*>(this);
     EXPECT_EQ(platform().update(1, attach), 0);
-    openPage();
+    openPage("");
     EXPECT_EQ(platform().update(1, attach), 0);
     EXPECT_EQ(platform().update(0, attach), 0);
     EXPECT_THAT(linesOf({"push", "fill"}), ElementsAre("push one 0", "push one 1", "push one 0"));
     EXPECT_THAT(platform().pushes, Each(AllOf(Field(&Push::locked, false), Field(&Push::attach, attach))));
 }
 
-TEST_F(CanvasTest, SubPageQueries)
+TEST_F(CanvasTest, Queries)
 {
+    EXPECT_EQ(OSD_MENU_GetMenuStatus(), 0);
     const auto answers = [] { return std::pair<int, int>(OSD_Menu_HasSubPage(), OSD_MENU_HasSubPageWithOutIcon()); };
     EXPECT_THAT(answers(), Pair(1, 0)) << "closed";
     tagITEM_NODE_S* item = itemAt(openPage("<I ItemIndex='More' Attr='SUBPAGE' SubPage='s'/>")->stItemList, 0);
+    EXPECT_EQ(OSD_MENU_GetMenuStatus(), 1);
     item->bActive = 0;
     EXPECT_THAT(answers(), Pair(0, 0)) << "nothing selected";
     item->bActive = 1;

@@ -75,12 +75,8 @@ inline std::string describe(const tagPAGE_NODE_S& page)
 
 class PageTest : public MenuTest {
 protected:
-    // Opens a page of these items, completed with the usual words, and gives the first one.
-    tagITEM_NODE_S* opened(const std::string& items)
-    {
-        setPage("p", items);
-        return itemAt(open("p", platform().pages["p"])->stItemList, 0);
-    }
+    // The first item of a page of these.
+    tagITEM_NODE_S* opened(const std::string& items) { return itemAt(openPage(items)->stItemList, 0); }
 
     // The page and its items, or "fails", of a file as it stands; nothing stays open.
     std::string parsed(const std::string& items, const std::string& attributes = "Layout='vertical_align'")

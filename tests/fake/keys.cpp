@@ -34,9 +34,7 @@ int press(const std::string& words)
     for (std::string word; in >> word;) {
         const size_t at = word.find('=');
         const std::string key = word.substr(0, at);
-        if (key == "language") {
-            platform().language = word.substr(at + 1);
-        } else if (at != std::string::npos) {
+        if (at != std::string::npos) {
             char(&text)[OSD_CFG_VALUE_LEN] = platform().texts[key].acValue;
             snprintf(text, sizeof text, "%s", word.c_str() + at + 1);
             platform().numbers[key].s32Cur = atoi(word.c_str() + at + 1);

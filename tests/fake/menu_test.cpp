@@ -85,6 +85,12 @@ tagPAGE_NODE_S* MenuTest::open(const std::string& name, const std::string& docum
     return page;
 }
 
+tagPAGE_NODE_S* MenuTest::openPage(const std::string& items, const std::string& attributes)
+{
+    setPage("p", items, attributes);
+    return open("p", platform().pages["p"]);
+}
+
 uint32_t pixelAt(SDL_Surface* surface, int x, int y)
 {
     const int bytes = surface->format->BytesPerPixel;

@@ -32,6 +32,8 @@ protected:
 
     // Parses a document text as the page of that name and counts it as open.
     tagPAGE_NODE_S* open(const std::string& name, const std::string& document, int expected = 0);
+    // The same with a page "p" of these items, completed with the usual words.
+    tagPAGE_NODE_S* openPage(const std::string& items, const std::string& attributes = "");
 
 private:
     std::string heldBefore;

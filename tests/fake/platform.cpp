@@ -172,11 +172,7 @@ tinyxml2::XMLDocument* CFG_GetDocByFileName(const char* path, OSD_BOOL read)
         return nullptr;
     }
     auto document = std::make_unique<CountedDocument>();
-    if (platform().build) {
-        platform().build(*document);
-    } else {
-        (void)document->Parse(it->second.c_str()); // a broken text leaves a document without a root
-    }
+    (void)document->Parse(it->second.c_str()); // a broken text leaves a document without a root
     return document.release();
 }
 

@@ -28,7 +28,6 @@ struct Platform {
     std::map<std::string, tagCFG_VALUE_TXT_S> texts;   // by "key" or "parent/key"
     std::map<std::string, tagCFG_VALUE_INT_S> numbers; // the same
     std::map<std::string, std::string> pages;          // page name to document text
-    std::function<void(tinyxml2::XMLDocument&)> build; // builds any document, when set
     std::set<std::string> untranslated;                // any other key answers this and the key
     std::string translated = "t.";
     std::map<std::string, std::string> words; // that are translated otherwise

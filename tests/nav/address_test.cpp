@@ -10,24 +10,20 @@ TEST_F(AddressTest, FormsCursorAndDigits)
     check(R"(
         a
         > Ip  192.168.1.5
-        home                         | shows the menu | > Ip [1]92.168.001.005, was 192.168.1.5
-        then home                    | shows the menu | > Ip 192.168.1.5
-        home right right             | shows the menu | > Ip 19[2].168.001.005, was 192.168.1.5
-        then right                   | shows the menu | > Ip 192.[1]68.001.005, was 192.168.1.5
-        then left                    | shows the menu | > Ip 19[2].168.001.005, was 192.168.1.5
-        then home                    | shows the menu | > Ip 192.168.1.5
-        then home                    | shows the menu | > Ip [1]92.168.001.005, was 192.168.1.5
-        then left                    | shows the menu | > Ip 192.168.001.00[5], was 192.168.1.5
-        then up                      | shows the menu | > Ip 192.168.001.00[6], was 192.168.1.5
-        then left left left          | shows the menu | > Ip 192.168.00[1].006, was 192.168.1.5
-        home left left down          | shows the menu | > Ip 192.168.001.0[9]5, was 192.168.1.5
-        home left right              | shows the menu | > Ip [1]92.168.001.005, was 192.168.1.5
-        then right up                | shows the menu | > Ip 1[0]2.168.001.005, was 192.168.1.5
-        home down_right              | shows the menu | > Ip 0[9]2.168.001.005, was 192.168.1.5
-        then home                    | shows the menu | > Ip 92.168.1.5, was 192.168.1.5
-        Ip=010.000.000.001 refresh home | shows the menu | > Ip [0]10.000.000.001
-        then home                    | shows the menu | > Ip 10.0.0.1, was 010.000.000.001
-        Ip=10.0.0.255 refresh home left up right up home | shows the menu | > Ip 110.0.0.256, was 10.0.0.255
+        home                       | > Ip [1]92.168.001.005, was 192.168.1.5
+        then home                  | > Ip 192.168.1.5
+        home right right right     | > Ip 192.[1]68.001.005, was 192.168.1.5
+        then left                  | > Ip 19[2].168.001.005, was 192.168.1.5
+        then home home left        | > Ip 192.168.001.00[5], was 192.168.1.5
+        then up                    | > Ip 192.168.001.00[6], was 192.168.1.5
+        home left left down        | > Ip 192.168.001.0[9]5, was 192.168.1.5
+        home left right            | > Ip [1]92.168.001.005, was 192.168.1.5
+        then right up              | > Ip 1[0]2.168.001.005, was 192.168.1.5
+        home down_right            | > Ip 0[9]2.168.001.005, was 192.168.1.5
+        then home                  | > Ip 92.168.1.5, was 192.168.1.5
+        Ip=010.000.000.001 refresh home | > Ip [0]10.000.000.001
+        then home                  | > Ip 10.0.0.1, was 010.000.000.001
+        Ip=10.0.0.255 refresh home left up right up home | > Ip 110.0.0.256, was 10.0.0.255
     )");
 }
 

@@ -22,47 +22,46 @@ TEST_F(CursorTest, VerticalList)
           Ip     192.168.1.5
           Mode   A
           More
-        right                | sets Zoom to 0, shows the menu        | > Zoom 0 of 0..10
-        then right           | sets Zoom to 3, shows the menu        | > Zoom 3 of 0..10
-        Zoom=1 refresh left  | sets Zoom to 10, shows the menu       | > Zoom 10 of 0..10
-        down right_update    | shows the menu                        | > Gain Low
-        then set             | sets Gain to Low, shows the menu      | > Gain Low
-        then down up         | shows the menu                        | > Gain Low
-        down_left            | sets Gain to High, shows the menu     | > Gain High
-        then up_left         | sets Zoom to 6, shows the menu        | > Zoom 6 of 0..10; Gain High
-        then down_right      | sets Gain to Auto, shows the menu     | Zoom 6 of 0..10; > Gain Auto
-        then up_right        | sets Zoom to 9, shows the menu        | > Zoom 9 of 0..10
-        down down right      | shows the menu                        | > Wait C, was B --- Press
-        then left            | shows the menu                        | > Wait B
-        then right down      | shows the menu                        | > Note
-        then up right up     | shows the menu                        | > Gain Auto
-        down down down left  | shows the menu                        | > Note option -1, was none
-        up                   | shows the menu                        | > More
-        then left            | sets More to option -1, shows the menu | > More option -1
-        then right           | passes More, shows the menu           | > More
-        then down            | shows the menu                        | > Zoom 9 of 0..10
+        right               | sets Zoom to 0         | > Zoom 0 of 0..10
+        then right          | sets Zoom to 3         | > Zoom 3 of 0..10
+        Zoom=7 refresh right | sets Zoom to 10       | > Zoom 10 of 0..10
+        Zoom=3 refresh left | sets Zoom to 0         | > Zoom 0 of 0..10
+        Zoom=1 refresh left | sets Zoom to 10        | > Zoom 10 of 0..10
+        down right_update   | > Gain Low
+        then set            | sets Gain to Low       | > Gain Low
+        down_left           | sets Gain to High      | > Gain High
+        then up_left        | sets Zoom to 6         | > Zoom 6 of 0..10; Gain High
+        then down_right     | sets Gain to Auto      | Zoom 6 of 0..10; > Gain Auto
+        then up_right       | sets Zoom to 9         | > Zoom 9 of 0..10
+        down down right     | > Wait C, was B --- Press
+        then left           | > Wait B
+        down down down left | > Note option -1, was none
+        up                  | > More
+        then left           | sets More to option -1 | > More option -1
+        then right          | passes More            | > More
+        then down           | > Zoom 9 of 0..10
         tolvane
-        down right           | sets Gain to Low, shows the menu      | > Gain Low
+        down right | sets Gain to Low | > Gain Low
         one
-        right down           | shows the menu                        | > Wait B
-        right up             | shows the menu                        | > Wait B
+        right down | > Wait B
+        right up   | > Wait B
         modes
         > Mode   A
             Gain Auto
-        up                   | shows the menu                        | > Gain Auto
-        Zoom=4 right_update  | shows the menu                        | > Mode B; Zoom 4 of 0..10; Wait B
-        then up              | shows the menu                        | Mode B; Zoom 4 of 0..10; > Wait B
+        up                  | > Gain Auto
+        Zoom=4 right_update | > Mode B; Zoom 4 of 0..10; Wait B
+        then up             | Mode B; Zoom 4 of 0..10; > Wait B
         waits
-        right                | shows the menu                        | > Mode B, was A --- Press
-        then down            | shows the menu                        | > Gain Auto
-        right home           | sets Mode to B, shows the menu        | > Mode B; Zoom 9 of 0..10
+        right      | > Mode B, was A --- Press
+        then down  | > Gain Auto
+        right home | sets Mode to B | > Mode B; Zoom 9 of 0..10
     )");
     setPage("empty", "");
     check(R"(
         empty
-        up                   | shows the menu                        |
-        right set            |                                       |
-        home                 | fails                                 |
+        up        |
+        right set | no redraw |
+        home      | fails     |
     )");
     EXPECT_EQ(printed([] { press("up"); }), "F don't find selected item\nNo active item found, weird\n"
                                             "No active item found, weird\n");
@@ -85,13 +84,13 @@ TEST_F(CursorTest, Popups)
             > Gain Auto
               Wait B
               Ip   192.168.1.5
-            right                | shows the menu | > Wait B
-            then up              | shows the menu | > Wait B
-            then down            | shows the menu | > Wait B
-            then set             |                | > Wait B
-            then right right     | shows the menu | > Gain Auto
-            left                 | shows the menu | > Ip 192.168.1.5
-            then home up right   | shows the menu | > Gain Auto; Ip [1]92.168.001.005, was 192.168.1.5
+            right              | > Wait B
+            then up            | > Wait B
+            then down          | > Wait B
+            then set           | no redraw | > Wait B
+            then right right   | > Gain Auto
+            left               | > Ip 192.168.1.5
+            then home up right | > Gain Auto; Ip [1]92.168.001.005, was 192.168.1.5
         )");
     }
 }
@@ -101,9 +100,9 @@ TEST_F(CursorTest, IconGrid)
     setPage("grid", "<I ItemIndex='A'/><I ItemIndex='B'/><I ItemIndex='C'/>", "Layout='icon' CountPerLine='2'");
     check(R"(
         grid
-        down_right    | shows the menu | > A
-        right         | shows the menu | > B
-        then set      |                | > B
+        down_right | > A
+        right      | > B
+        then set   | no redraw | > B
     )");
     // cells in all and in a row, the position before, and behind up, down, left and right; also outside the page
     const int cases[][7] = {
@@ -146,41 +145,39 @@ TEST_F(CursorTest, PagedList)
     )");
     check(R"(
         list
-        down                  | shows the menu                    | > Zoom 9 of 0..10
-        then up               | shows the menu                    | > Gain Auto
-        then up               | shows the menu                    | > Zoom 9 of 0..10
-        then down right       | sets Gain to Low, shows the menu  | > Gain Low
+        down            | > Zoom 9 of 0..10
+        then up         | > Gain Auto
+        then up         | > Zoom 9 of 0..10
+        then down right | sets Gain to Low | > Gain Low
         told
-        up                    | shows the menu                    | > Zoom 9 of 0..10
-        down up               | shows the menu                    | > Zoom 9 of 0..10
-        then down             | shows the menu                    | > Gain Auto
+        down up   | > Zoom 9 of 0..10
+        then down | > Gain Auto
         one
-        down right            | shows the menu                    | > Wait C, was B --- Press
-        then down             | shows the menu                    | > Wait B
-        then right up         | shows the menu                    | > Wait B
+        down right    | > Wait C, was B --- Press
+        then down     | > Wait B
+        then right up | > Wait B
         facts
-        down up up            | shows the menu                    | > SN
+        down up up | > SN
         plain
-        down up               | shows the menu                    | > Gain Auto
+        down up | > Gain Auto
         first
-        up                    | shows the menu                    | > Wait B
-        then right down       | reads two, shows the menu         | first at Wait C, was B / two: > SN; Zoom 9 of 0..10
-        then down down        | shows the menu                    | first at Wait C, was B / two: SN; > Zoom 9 of 0..10
-        then up               | shows the menu                    | > Wait C, was B --- Press
-        then up               | shows the menu                    | > Gain Auto
-        down down_right | reads two, shows the menu | first at Wait C, was B / two: > SN; Zoom 9 of 0..10 --- Press
+        up              | > Wait B
+        then right down | reads two | first at Wait C, was B / two: > SN; Zoom 9 of 0..10
+        then down down  | first at Wait C, was B / two: SN; > Zoom 9 of 0..10
+        then up         | > Wait C, was B --- Press
+        then up         | > Gain Auto
+        down down_right | reads two | first at Wait C, was B / two: > SN; Zoom 9 of 0..10 --- Press
         short
-        down_right | reads two, sets Gain to Low, shows the menu | short at Gain Low / two: > SN; Zoom 9 of 0..10
+        down_right | reads two, sets Gain to Low | short at Gain Low / two: > SN; Zoom 9 of 0..10
         short / two
-        up_right              | shows the menu                    | short: > Gain Auto
+        up_right | short: > Gain Auto
         lost
-        down                  | reads none, shows the menu        | lost at Gain Auto / unread
+        down | reads none | lost at Gain Auto / unread
         deep
-        right                 | reads two, shows the menu         | deep at More / two: > SN; Zoom 9 of 0..10
-        home                  | reads two, shows the menu         | deep at More / two: > SN; Zoom 9 of 0..10
-        left                  | sets More to option -1, shows the menu | > More option -1
-        then right | reads two, shows the menu | deep at More none, was option -1 / two: > SN; Zoom 9 of 0..10
-        then up down          | passes More, shows the menu       | > More
+        right        | reads two              | deep at More / two: > SN; Zoom 9 of 0..10
+        left         | sets More to option -1 | > More option -1
+        then right   | reads two              | deep at More none, was option -1 / two: > SN; Zoom 9 of 0..10
+        then up down | passes More            | > More
     )");
     openAll("one"); // no direction
     tagPAGE_NODE_S& page = gstPageMgr.astPage[0];

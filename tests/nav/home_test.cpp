@@ -32,36 +32,29 @@ TEST_F(HomeTest, RulesInTheirOrder)
         > More
           Pop         go
           confirm
-        home            | reads advanced, shows the menu | opens at More / advanced: > Gain Auto
-        down home       | shows Pop loading, reads confirm, shows the menu
-                        | opens at Pop loading / confirm: > Yes; No; Other
-        up home         | shows confirm, reads confirm, shows the menu
-                        | opens at confirm / confirm: > Yes; No; Other
+        home      | reads advanced                   | opens at More / advanced: > Gain Auto
+        down home | shows Pop loading, reads confirm | opens at Pop loading / confirm: > Yes; No; Other
+        up home   | shows confirm, reads confirm     | opens at confirm / confirm: > Yes; No; Other
         opens / this_confirms_restart
-        home            | reads advanced, shows the menu
-                        | opens at More / this_confirms_restart at More / advanced: > Gain Auto
-        down home       | shows Pop loading, reads confirm, shows the menu
-                        | opens at More / this_confirms_restart at Pop loading / confirm: > Yes; No; Other
-        then return     | shows the menu                               | > Pop loading
-        up home         | shows the menu                               | opens: > More confirm; Pop go; confirm
+        home        | reads advanced | opens at More / this_confirms_restart at More / advanced: > Gain Auto
+        down home   | shows Pop loading, reads confirm
+            | opens at More / this_confirms_restart at Pop loading / confirm: > Yes; No; Other
+        then return | > Pop loading
+        up home     | opens: > More confirm; Pop go; confirm
         opens / restart
-        home            | reads advanced, shows the menu
-                        | opens at More / restart at More / advanced: > Gain Auto
-        up home         |                                              | > Other
+        home    | reads advanced | opens at More / restart at More / advanced: > Gain Auto
+        up home | no redraw      | > Other
         push
-        home            | shows Push loading, presses Push loading, shows the menu | > Push go
-        down home       | presses Back go                            | > Back go
-        up home         | presses Any go                             | > Any go
+        home      | shows Push loading, presses Push loading | > Push go
+        down home | presses Back go, no redraw               | > Back go
+        up home   | presses Any go, no redraw                | > Any go
         list
-        down down home       |                                         | > Wait B
-        down down right home | sets Wait to C, shows the menu          | > Wait C
-        then home            |                                         | > Wait C
-        up up right home     | sets Mode to B, shows the menu          | > Mode B
-        down home            | shows the menu                          | > Gain Auto
-        down down down home  | shows the menu                          | > Note
-        up up up up home     | shows the menu                          | > SN
-        modes
-        home                 | shows the menu                          | > Mode A
+        down down home       | no redraw      | > Wait B
+        down down right home | sets Wait to C | > Wait C
+        then home            | no redraw      | > Wait C
+        up up right home     | sets Mode to B | > Mode B
+        down home            | > Gain Auto
+        up up up up home     | > SN
     )");
     platform().untranslated = {"Loading"};
     openAll("push");
@@ -84,14 +77,11 @@ TEST_F(HomeTest, AnswersForOneItem)
             setPage(page,
                     "<I ItemIndex='" + key + "' Attr='CONFIRM_POP' ConfirmPage='confirm'/> <I ItemIndex='Gain'/>");
             const std::string text = page + R"(
-                home                     | shows KEY loading, reads confirm, shows the menu
-                                         | PAGE at KEY loading / confirm: > Yes; No; Other
-                then home                | shows KEY finish, presses KEY finish, waits 1 s, shows the menu
-                                         | > KEY confirm
-                home down home           | shows the menu | > KEY confirm
-                Gain=High home home      | shows KEY finish, presses KEY finish, waits 1 s, shows the menu
-                                         | > KEY confirm
-                home up home             |                | PAGE at KEY loading / confirm: Yes; No; > Other
+                home                | shows KEY loading, reads confirm | PAGE at KEY loading / confirm: > Yes; No; Other
+                then home           | shows KEY finish, presses KEY finish, waits 1 s | > KEY confirm
+                home down home      | > KEY confirm
+                Gain=High home home | shows KEY finish, presses KEY finish, waits 1 s | > KEY confirm
+                home up home        | no redraw | PAGE at KEY loading / confirm: Yes; No; > Other
             )";
             check(replaced(replaced(text, "KEY", key), "PAGE", page));
         }
@@ -99,10 +89,9 @@ TEST_F(HomeTest, AnswersForOneItem)
     setPage("p", R"(<I ItemIndex="RestoreImg" Attr="CONFIRM_POP" ConfirmPage="confirm"/> <I ItemIndex="Gain"/>)");
     check(R"(
         p
-        Gain=High home home          | presses RestoreImg loading, waits 1 s, shows the menu
-                                     | > RestoreImg confirm; Gain High
-        Gain=High home down home     | shows the menu | > RestoreImg confirm
-        home up home                 |                | p at RestoreImg loading / confirm: Yes; No; > Other
+        Gain=High home home      | presses RestoreImg loading, waits 1 s | > RestoreImg confirm; Gain High
+        Gain=High home down home | > RestoreImg confirm
+        home up home             | no redraw | p at RestoreImg loading / confirm: Yes; No; > Other
     )");
     for (const std::string key : {"FactoryRestore", "RestoreImg"}) { // no language: nothing is done
         setPage("p", "<I ItemIndex='" + key + "' Attr='CONFIRM_POP' ConfirmPage='confirm'/>");
@@ -147,10 +136,10 @@ TEST_F(HomeTest, AnswersForAPage)
             Gain     Auto
           confirm
           Last       X
-        EDIT down home | shows the menu | Zoom 0 of 0..10, was 9; Ip 292.168.1.5, was 192.168.1.5;
+        EDIT down home | Zoom 0 of 0..10, was 9; Ip 292.168.1.5, was 192.168.1.5;
             | Dns 18.8.8.8, was 8.8.8.8; > confirm; Last Y, was X
         EDIT home | sets Zoom to 0, was 9, sets IpMode to StaticIp, sets Ip to 292.168.1.5, sets DnsMode to AutoMode,
-            | sets Dns to 18.8.8.8, sets Gain to Auto, presses Confirm, shows the menu
+            | sets Dns to 18.8.8.8, sets Gain to Auto, presses Confirm
             | Zoom 0 of 0..10, was 9; > IpMode StaticIp; Ip 292.168.1.5; Dns 18.8.8.8; > confirm; Last Y, was X
     )",
                    "EDIT", edit));
@@ -165,8 +154,7 @@ TEST_F(HomeTest, CursorBehindAnAutomaticMode)
     )");
     check(R"(
         network
-        up home home   | sets IpMode to StaticIp, sets DnsMode to AutoMode, presses Sure, shows the menu
-                       | > IpMode StaticIp
+        up home home | sets IpMode to StaticIp, sets DnsMode to AutoMode, presses Sure | > IpMode StaticIp
     )");
     setPages(R"(
         network: <I ItemIndex="Sure" Attr="CONFIRM_POP_BTN" ConfirmPage="confirm"/>
@@ -175,9 +163,8 @@ TEST_F(HomeTest, CursorBehindAnAutomaticMode)
     )");
     check(R"(
         network
-        home home      | presses Sure, sets IpMode to StaticIp, sets DnsMode to AutoMode, shows the menu
-                       | > Sure; > IpMode StaticIp
-        home up home   |                | network at Sure / confirm: Yes; No; > Other
+        home home    | presses Sure, sets IpMode to StaticIp, sets DnsMode to AutoMode | > Sure; > IpMode StaticIp
+        home up home | no redraw | network at Sure / confirm: Yes; No; > Other
     )");
 }
 
@@ -208,9 +195,9 @@ TEST_F(HomeTest, AnswersForPagesWithAConfirmItem)
                          "ASK", answer),
                 "ConfirmBtn='Yes'");
         const std::string rows = R"(
-            EDIThome      | CALLS, shows the menu | Gain Low; Note option -1; > confirm; Last Y, was X
-            EDITdown home | shows the menu | Gain Low, was Auto; Note option -1, was none; > confirm; Last Y, was X
-            EDITup home   | | PAGE at confirm / ASK: Yes; No; > Other
+            EDIThome      | CALLS     | Gain Low; Note option -1; > confirm; Last Y, was X
+            EDITdown home | Gain Low, was Auto; Note option -1, was none; > confirm; Last Y, was X
+            EDITup home   | no redraw | PAGE at confirm / ASK: Yes; No; > Other
         )";
         const std::string filled = replaced(replaced(rows, "EDIT", edit), "CALLS", c[3]);
         check(c[0] + replaced(replaced(filled, "PAGE", c[0]), "ASK", answer));

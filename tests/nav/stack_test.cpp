@@ -9,30 +9,25 @@ TEST_F(StackTest, MenuKeysByDepth)
 {
     check(R"(
         closed
-        menu                     | reads main, shows the menu     | main: > More; Gain Auto
-        open                     | reads main, shows the menu     | main: > More; Gain Auto
-        advanced                 | reads advanced, shows the menu | advanced: > Gain Auto
-        close                    | hides the menu                 |
+        menu     | reads main     | main: > More; Gain Auto
+        open     | reads main     | main: > More; Gain Auto
+        advanced | reads advanced | advanced: > Gain Auto
+        close    | hides the menu |
         main
-        open                     |                                | > More
-        menu                     | hides the menu                 | closed
-        return                   | hides the menu                 | closed
-        down right up home       | reads sub, shows the menu      | main at More / sub: > More; Ip 192.168.1.5
-        then return              | shows the menu                 | > More; Gain Low
-        main / sub / third
-        > Ip    192.168.1.5
-          Gain  Auto
-        close                    | hides the menu                 | closed
-        advanced                 | reads advanced, shows the menu | advanced: > Gain Auto
+        open               | no redraw      | > More
+        menu               | hides the menu | closed
+        return             | hides the menu | closed
+        down right up home | reads sub      | main at More / sub: > More; Ip 192.168.1.5
+        then return        | > More; Gain Low
         third
-        home menu                | hides the menu                 | closed
-        home up advanced         | reads advanced, shows the menu | advanced: > Gain Auto
+        home menu        | hides the menu | closed
+        home up advanced | reads advanced | advanced: > Gain Auto
         main / third
-        home up                  | shows the menu                 | > Ip [2]92.168.001.005, was 192.168.1.5
-        then right menu          | shows the menu                 | > Ip 192.168.1.5
-        then menu                | shows the menu                 | main: > More; Gain Auto
-        home up home menu        | shows the menu                 | main: > More; Gain Auto
-        home up return           | shows the menu                 | main: > More; Gain Auto
+        home up           | > Ip [2]92.168.001.005, was 192.168.1.5
+        then right menu   | > Ip 192.168.1.5
+        then menu         | main: > More; Gain Auto
+        home up home menu | main: > More; Gain Auto
+        home up return    | main: > More; Gain Auto
     )");
     openAll("closed");
     for (const char* key : {"return", "up", "down", "left", "right", "up_left", "up_right", "down_left", "down_right",
@@ -42,13 +37,13 @@ TEST_F(StackTest, MenuKeysByDepth)
     tellsLanguage = true; // the text of a button is asked for on the way back
     check(R"(
         main / sub
-        menu     | asks the language, shows the menu              | main: > More; Gain Auto
-        return   | asks the language, shows the menu              | main: > More; Gain Auto
+        menu   | asks the language | main: > More; Gain Auto
+        return | asks the language | main: > More; Gain Auto
         main / sub / third
-        close    | hides the menu                                 | closed
-        advanced | asks the language, reads advanced, asks the language, shows the menu | advanced: > Gain Auto
+        close    | hides the menu | closed
+        advanced | asks the language, reads advanced, asks the language | advanced: > Gain Auto
         main
-        advanced | reads advanced, asks the language, shows the menu | advanced: > Gain Auto
+        advanced | reads advanced, asks the language | advanced: > Gain Auto
     )");
 }
 
@@ -94,31 +89,30 @@ TEST_F(StackTest, PushesThatFail)
     )");
     check(R"(
         main / main / main / full
-        home      | reads sub, shows the menu
-            | main at More / main at More / main at More / full at More / sub: > More; Ip 192.168.1.5
+        home | reads sub | main at More / main at More / main at More / full at More / sub: > More; Ip 192.168.1.5
         main / main / main / main / full
         > More
           Push    Go
           Confirm
-        home      | fails                                       | > More
-        down home | fails                                       | > Push Go
-        up home   | fails                                       | > Confirm
+        home      | fails | > More
+        down home | fails | > Push Go
+        up home   | fails | > Confirm
         main / main / main / main / paged
-        down      | shows the menu                              | > More
-        right     | shows the menu                              | > More
+        down  | > More
+        right | > More
         opens
-        home      | reads broken, fails                         | opens at Sub / broken: > Gain Auto
-        down home | shows Push Loading, reads none, fails       | opens at Push Loading / unread
-        up home   | shows Confirm, reads none, fails            | opens at Confirm / unread
-        then menu | shows the menu                              | > Confirm
+        home      | reads broken, fails                   | opens at Sub / broken: > Gain Auto
+        down home | shows Push Loading, reads none, fails | opens at Push Loading / unread
+        up home   | shows Confirm, reads none, fails      | opens at Confirm / unread
+        then menu | > Confirm
     )");
     platform().pages.erase("main");
     check(R"(
         closed
-        menu      | reads main, shows the menu | unread
-        then home | fails                      | unread
-        then up   | shows the menu             | unread
-        then menu | hides the menu             |
+        menu      | reads main     | unread
+        then home | fails          | unread
+        then up   | unread
+        then menu | hides the menu |
     )");
 }
 

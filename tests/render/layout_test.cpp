@@ -85,6 +85,10 @@ TEST_F(LayoutTest, TolvaneList)
         nav_move at 242,970 size 150x50 | nav_enter at 442,970 size 150x30 | nav_change_value at 642,970 size 290x30
         Press at 50,859 bold 45 white
     )");
+    setField(itemOf("Sub").acItemIndex, "DnsMode"); // doesn't end this list
+    setField(itemOf("DnsMode").acValue[0], "AutoMode");
+    itemOf("DnsMode").s32ValCnt = 1;
+    EXPECT_THAT(redraw(), HasSubstr("\nZoom at 50,92 plain 45 grey"));
     platform().language = "TraditionalChinese";
     expect("nav_arrow at 192,6 size 30x30 | IpMode at 50,10 tc 45 white | DhcpIp at 600,10\nSub at 50,51 bold 45 grey\n"
            "Zoom at 50,92 tc 45 grey | value at 600,92 size 350x21\n...\nPress at 50,859 bold 45 white\n");

@@ -24,8 +24,7 @@ protected:
     // Opens a page with these items, its message line shown.
     void show(const std::string& items, const std::string& attributes = "")
     {
-        setPage("page", items, attributes);
-        page = open("page", platform().pages["page"]);
+        page = openPage(items, attributes);
         page->bKeyMsg = 1;
         setField(page->acKeyMsg, "Press");
     }

@@ -176,8 +176,8 @@ TEST_F(VerticalListTest, LiveValuesAreReadAtEachDraw)
     setText("Fps", "", "25");
     platform().language = "German"; // the language of now
     expect("...\nFps at 10,60 plain 32 grey | d.25 at 505,60\n");
-    platform().untranslated = {"25"};
-    expect("...\nFps at 10,60 plain 32 grey\n");
+    platform().untranslated = {"10.0.0.8", "25"}; // an address needs no translation
+    expect("IpAddr at 10,10 plain 32 white | 10.0.0.8 at 505,10\nFps at 10,60 plain 32 grey\n");
 }
 
 TEST_F(VerticalListTest, AutomaticAddressEndsTheWalk)
