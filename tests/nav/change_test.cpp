@@ -88,6 +88,9 @@ TEST_F(ChangeTest, NeighbourOfTheLastList)
     EXPECT_EQ(osdXmlIsStaticOfNetMode(&behind), 1) << "there the link is taken as it stands";
     setField(before.acItemIndex, "Other");
     EXPECT_EQ(osdXmlIsStaticOfNetMode(&behind), 0);
+    list_head head = {&head, &head};
+    EXPECT_EQ(osdMenuInsertItems2TmpList(&behind, &head), 0);
+    EXPECT_EQ(osdXmlIsStaticOfNetMode(&behind), 0) << "the first of its list";
 }
 
 TEST_F(ChangeTest, ColourText)
