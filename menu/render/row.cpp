@@ -5,6 +5,7 @@
 
 #include "comm/arith.h"
 #include "comm/font.h"
+#include "comm/log.h"
 #include "comm/shape.h"
 #include "comm/text.h"
 #include "comm/text_surface.h"
@@ -36,12 +37,6 @@ TTF_Font* osdRowSkinFont(OSD_BOOL bSelected)
 }
 
 bool osdRowSetSize(int s32Size, const char* pcFunc) { return osdFontSetSize(gstMenuMgr.pstFont, s32Size, pcFunc); }
-
-bool osdRowSetBothSizes(int s32Size, const char* pcFunc)
-{
-    (void)TTF_SetFontSize(gstMenuMgr.pstFont, s32Size); // the bold font's answer counts for both
-    return osdFontSetSize(gstMenuMgr.pstSelectFont, s32Size, pcFunc);
-}
 
 SDL_Rect osdRowMeasure(const tagITEM_NODE_S* pstItem) { return osdTextSize(gstMenuMgr.pstFont, pstItem->acItemName); }
 
@@ -140,6 +135,31 @@ void osdRowPut(SDL_Surface* pstSrc, const SDL_Rect& stDst)
 {
     SDL_Rect stPlace = osdRectInRange(stDst);
     (void)SDL_UpperBlit(pstSrc, nullptr, gstMenuMgr.pstSurface, &stPlace); // a missing source is no failure
+}
+
+bool osdRowPlace(const tagROW_GEOM_S& stGeom, const SDL_Rect& stAbove, const char* pcFunc, tagROW_S* pstRow)
+{
+    (void)TTF_SetFontSize(gstMenuMgr.pstFont, pstRow->s32Size); // the bold font's answer counts for both
+    if (!osdFontSetSize(gstMenuMgr.pstSelectFont, pstRow->s32Size, pcFunc)) {
+        return false;
+    }
+    pstRow->stLabel = osdRowLabel(stGeom, pstRow->pstItem, stAbove);
+    return true;
+}
+
+bool osdRowDraw(const tagROW_GEOM_S& stGeom, const tagROW_S& stRow, OSD_SURFACE_PTR pstLabel, const char* pcFunc,
+                SDL_Rect* pstLayoutCursor)
+{
+    if (pstLabel == nullptr) {
+        osdTrace("%s %d failed, pstItemNode->acItemIndex = %s\n", pcFunc, __LINE__, stRow.pstItem->acItemIndex);
+        return false;
+    }
+    osdRowPut(pstLabel.get(), stRow.stLabel);
+    if (osdItemHasValue(stRow.pstItem)) {
+        osdRowDrawValue(stGeom, stRow, osdRowValueSurface);
+    }
+    osdRowEnd(stRow.stLabel, pstLayoutCursor);
+    return true;
 }
 
 void osdRowEnd(const SDL_Rect& stLabel, SDL_Rect* pstLayoutCursor)

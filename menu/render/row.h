@@ -47,10 +47,8 @@ bool osdRowBright(tagITEM_NODE_S* pstItem, OSD_BOOL bSelected);
 // The font of a text that the skin may set off: bold for a selected one in style 1.
 TTF_Font* osdRowSkinFont(OSD_BOOL bSelected);
 
-// Sets the regular font to the size, or both fonts of the menu, in the name of pcFunc; false with a line in the log. For
-// both the bold one's answer counts.
+// Sets the regular font to the size in the name of pcFunc; false with a line in the log.
 bool osdRowSetSize(int s32Size, const char* pcFunc);
-bool osdRowSetBothSizes(int s32Size, const char* pcFunc);
 
 // The size of the item's label in the regular font, at 0, 0; empty where it can't be measured.
 SDL_Rect osdRowMeasure(const tagITEM_NODE_S* pstItem);
@@ -76,6 +74,13 @@ inline tagWIDGET_TEXT_S osdRowWidget(const tagROW_S& stRow, const tagROW_VALUE_S
 
 // Blits the whole of a surface onto the canvas; a null surface draws nothing.
 void osdRowPut(SDL_Surface* pstSrc, const SDL_Rect& stDst);
+
+// The row of the vertical and the Tolvane list, whose label and value are of one size. The first sets both fonts to it and
+// places the label; false where it can't. The second draws label and value and moves the cursor of the draw to the row;
+// false without a label. Both say a failure in the name of pcFunc.
+bool osdRowPlace(const tagROW_GEOM_S& stGeom, const SDL_Rect& stAbove, const char* pcFunc, tagROW_S* pstRow);
+bool osdRowDraw(const tagROW_GEOM_S& stGeom, const tagROW_S& stRow, OSD_SURFACE_PTR pstLabel, const char* pcFunc,
+                SDL_Rect* pstLayoutCursor);
 
 // Moves the cursor of the draw to the row.
 void osdRowEnd(const SDL_Rect& stLabel, SDL_Rect* pstLayoutCursor);

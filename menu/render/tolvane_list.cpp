@@ -59,8 +59,8 @@ static constexpr tagHINT_S c_stHintSet = {"nav_set", false};
 static constexpr tagHINT_S c_stHintChange = {"nav_change_value", true};
 static constexpr tagHINT_S c_stHintNone = {nullptr, false};
 
-static constexpr std::array<std::array<tagHINT_S, 3>, 5> c_aastHint = {{// by tagITEM_PIC_TYPE_E
-                                                                        {{c_stHintMove, c_stHintEnter, c_stHintNone}},
+// By tagITEM_PIC_TYPE_E.
+static constexpr std::array<std::array<tagHINT_S, 3>, 5> c_aastHint = {{{{c_stHintMove, c_stHintEnter, c_stHintNone}},
                                                                         {{c_stHintMove, c_stHintChange, c_stHintNone}},
                                                                         {{c_stHintMove, c_stHintEnter, c_stHintChange}},
                                                                         {{c_stHintMove, c_stHintSet, c_stHintNone}},
@@ -81,17 +81,10 @@ static bool osdTolvaneOwnFont(OSD_FONT_PTR* pstFont)
     return true;
 }
 
-static bool osdTolvaneMeasure(tagITEM_NODE_S* pstItem, const SDL_Rect& stAbove, OSD_BOOL bSelected, tagROW_S* pstRow)
+static int osdTolvaneSize()
 {
     const int s32Base = osdTrunc(osdF32(gstMenuMgr.stCanvas.stMenuRect.h) * c_f32TextSize);
-    pstRow->pstItem = pstItem;
-    pstRow->bBright = osdRowBright(pstItem, bSelected);
-    pstRow->s32Size = osdTrunc(osdF32(s32Base) * gstMenuMgr.f32Scale);
-    if (!osdRowSetBothSizes(pstRow->s32Size, OSD_NAME(OSD_MENU_RenderVerticalTolvaneItem))) {
-        return false;
-    }
-    pstRow->stLabel = osdRowLabel(c_stTolvaneGeom, pstItem, stAbove);
-    return true;
+    return osdTrunc(osdF32(s32Base) * gstMenuMgr.f32Scale);
 }
 
 static void osdTolvaneArrow(const SDL_Rect& stLabel)
@@ -115,39 +108,23 @@ static OSD_SURFACE_PTR osdTolvaneLabel(const tagROW_S& stRow)
                : osdTextLit(pstFont, pstItem->acItemName, stRow.s32Size, stRow.bBright);
 }
 
-static bool osdTolvaneDrawRow(const tagROW_S& stRow, OSD_BOOL bSelected)
-{
-    const tagITEM_NODE_S* pstItem = stRow.pstItem;
-    if (bSelected == 1 && pstItem->enAttr != MSG_LINE) {
-        osdTolvaneArrow(stRow.stLabel);
-    }
-    const OSD_SURFACE_PTR pstLabel = osdTolvaneLabel(stRow);
-    if (pstLabel == nullptr) {
-        osdTrace("%s %d failed, pstItemNode->acItemIndex = %s\n", OSD_PLACE(OSD_MENU_RenderVerticalTolvaneItem),
-                 pstItem->acItemIndex);
-        return false;
-    }
-    osdRowPut(pstLabel.get(), stRow.stLabel);
-    if (osdItemHasValue(pstItem)) {
-        osdRowDrawValue(c_stTolvaneGeom, stRow, osdRowValueSurface);
-    }
-    return true;
-}
-
 // One row without its sub-items: its own font is closed before they open theirs.
 static bool osdTolvaneOneRow(tagITEM_NODE_S* pstItem, SDL_Rect* pstLayoutCursor, OSD_BOOL bSelected)
 {
+    static constexpr const char* pcFunc = OSD_NAME(OSD_MENU_RenderVerticalTolvaneItem);
     OSD_FONT_PTR pstOwnFont;
-    tagROW_S stRow = {};
-    if (!osdTolvaneOwnFont(&pstOwnFont) || !osdTolvaneMeasure(pstItem, *pstLayoutCursor, bSelected, &stRow)) {
+    if (!osdTolvaneOwnFont(&pstOwnFont)) {
         return false;
     }
-    stRow.pstFont = pstOwnFont != nullptr ? pstOwnFont.get() : gstMenuMgr.pstFont;
-    if (!osdTolvaneDrawRow(stRow, bSelected)) {
+    TTF_Font* pstFont = pstOwnFont != nullptr ? pstOwnFont.get() : gstMenuMgr.pstFont;
+    tagROW_S stRow = {pstItem, pstFont, osdTolvaneSize(), osdRowBright(pstItem, bSelected), {}};
+    if (!osdRowPlace(c_stTolvaneGeom, *pstLayoutCursor, pcFunc, &stRow)) {
         return false;
     }
-    osdRowEnd(stRow.stLabel, pstLayoutCursor);
-    return true;
+    if (bSelected == 1 && pstItem->enAttr != MSG_LINE) {
+        osdTolvaneArrow(stRow.stLabel);
+    }
+    return osdRowDraw(c_stTolvaneGeom, stRow, osdTolvaneLabel(stRow), pcFunc, pstLayoutCursor);
 }
 
 bool osdTolvaneRow(tagITEM_NODE_S* pstItem, SDL_Rect* pstLayoutCursor, OSD_BOOL bSelected)

@@ -9,10 +9,11 @@
 //     | Message line                                      |   foot at 0.95 H
 #include "menu/render/vertical_list.h"
 
+#include <utility>
+
 #include "comm/arith.h"
 #include "comm/log.h"
 #include "comm/text_surface.h"
-#include "menu/core/item.h"
 #include "menu/render/list.h"
 #include "osd_menu.h"
 
@@ -30,43 +31,19 @@ static int osdVerticalSize(tagITEM_LEVEL_E enLevel)
     return osdTrunc(osdF32(s32Base) * gstMenuMgr.f32Scale);
 }
 
-static bool osdVerticalMeasure(tagITEM_NODE_S* pstItem, const SDL_Rect& stAbove, OSD_BOOL bSelected, tagROW_S* pstRow)
-{
-    pstRow->pstItem = pstItem;
-    pstRow->bBright = osdRowBright(pstItem, bSelected);
-    pstRow->pstFont = osdRowSkinFont(bSelected);
-    pstRow->s32Size = osdVerticalSize(pstItem->enLevel);
-    if (!osdRowSetBothSizes(pstRow->s32Size, OSD_NAME(OSD_MENU_RenderVerticalItem))) {
-        return false;
-    }
-    pstRow->stLabel = osdRowLabel(c_stVerticalGeom, pstItem, stAbove);
-    return true;
-}
-
-static bool osdVerticalDrawRow(const tagROW_S& stRow)
-{
-    const tagITEM_NODE_S* pstItem = stRow.pstItem;
-    TTF_Font* pstFont = pstItem->enCtx == NAME ? gstMenuMgr.pstSelectFont : stRow.pstFont;
-    const OSD_SURFACE_PTR pstLabel = osdTextLit(pstFont, pstItem->acItemName, stRow.s32Size, stRow.bBright);
-    if (pstLabel == nullptr) {
-        osdTrace("%s %d failed, pstItemNode->acItemIndex = %s\n", OSD_PLACE(OSD_MENU_RenderVerticalItem),
-                 pstItem->acItemIndex);
-        return false;
-    }
-    osdRowPut(pstLabel.get(), stRow.stLabel);
-    if (osdItemHasValue(pstItem)) {
-        osdRowDrawValue(c_stVerticalGeom, stRow, osdRowValueSurface);
-    }
-    return true;
-}
-
 bool osdVerticalRow(tagITEM_NODE_S* pstItem, SDL_Rect* pstLayoutCursor, OSD_BOOL bSelected)
 {
-    tagROW_S stRow = {};
-    if (!osdVerticalMeasure(pstItem, *pstLayoutCursor, bSelected, &stRow) || !osdVerticalDrawRow(stRow)) {
+    static constexpr const char* pcFunc = OSD_NAME(OSD_MENU_RenderVerticalItem);
+    tagROW_S stRow = {
+        pstItem, osdRowSkinFont(bSelected), osdVerticalSize(pstItem->enLevel), osdRowBright(pstItem, bSelected), {}};
+    if (!osdRowPlace(c_stVerticalGeom, *pstLayoutCursor, pcFunc, &stRow)) {
         return false;
     }
-    osdRowEnd(stRow.stLabel, pstLayoutCursor);
+    TTF_Font* pstFont = pstItem->enCtx == NAME ? gstMenuMgr.pstSelectFont : stRow.pstFont;
+    OSD_SURFACE_PTR pstLabel = osdTextLit(pstFont, pstItem->acItemName, stRow.s32Size, stRow.bBright);
+    if (!osdRowDraw(c_stVerticalGeom, stRow, std::move(pstLabel), pcFunc, pstLayoutCursor)) {
+        return false;
+    }
     osdRowSubItems(pstItem, pstLayoutCursor, osdVerticalRow);
     return true;
 }
