@@ -1,5 +1,5 @@
-# libosdmenu.so, layer by layer.
-add_library(osdmenu SHARED
+# libosdmenu.so, layer by layer. Its objects are a target of their own: the page tools are linked with them.
+add_library(osdmenu_objects OBJECT
   comm/arrow.cpp
   comm/exports.cpp
   comm/font.cpp
@@ -22,6 +22,7 @@ add_library(osdmenu SHARED
   menu/core/manager.cpp
   menu/core/network.cpp
   menu/core/page.cpp
+  menu/core/page_fault.cpp
   menu/core/page_parse.cpp
   menu/core/query.cpp
   menu/core/refresh.cpp
@@ -56,8 +57,24 @@ add_library(osdmenu SHARED
   prompt/exports.cpp
   prompt/prompt.cpp
   prompt/zoom_ratio.cpp)
-add_library(osdmenu::osdmenu ALIAS osdmenu)
+target_include_directories(osdmenu_objects PUBLIC ${PROJECT_SOURCE_DIR}/include ${PROJECT_SOURCE_DIR})
+target_link_libraries(osdmenu_objects
+  PUBLIC PkgConfig::SDL2 PkgConfig::SDL2_TTF PkgConfig::SDL2_IMAGE PkgConfig::SDL2_GFX PkgConfig::TINYXML2
+         Threads::Threads
+  PRIVATE osd_flags)
+osd_unite_folders(osdmenu_objects)
+target_compile_definitions(osdmenu_objects PRIVATE OSD_RESOURCE_DIR="${OSD_RESOURCE_DIR}")
+# Nobody replaces single functions of the library, so calls within a file need no detour. The camera's flash is small, and
+# a redraw's time is SDL's.
+target_compile_options(osdmenu_objects PRIVATE -fno-semantic-interposition $<$<CONFIG:Release>:-Os>)
+set_target_properties(osdmenu_objects PROPERTIES
+  POSITION_INDEPENDENT_CODE ON
+  C_VISIBILITY_PRESET hidden
+  CXX_VISIBILITY_PRESET hidden
+  VISIBILITY_INLINES_HIDDEN ON)
 
+add_library(osdmenu SHARED $<TARGET_OBJECTS:osdmenu_objects>)
+add_library(osdmenu::osdmenu ALIAS osdmenu)
 target_include_directories(osdmenu
   PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>
          $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
@@ -65,17 +82,10 @@ target_include_directories(osdmenu
 target_link_libraries(osdmenu
   PUBLIC PkgConfig::SDL2 PkgConfig::SDL2_TTF Threads::Threads
   PRIVATE $<BUILD_INTERFACE:osd_flags> PkgConfig::SDL2_IMAGE PkgConfig::SDL2_GFX PkgConfig::TINYXML2)
-osd_unite_folders(osdmenu)
-target_compile_definitions(osdmenu PRIVATE OSD_RESOURCE_DIR="${OSD_RESOURCE_DIR}")
-# Nobody replaces single functions of the library, so calls within a file need no detour. The camera's flash is small, and
-# a redraw's time is SDL's.
-target_compile_options(osdmenu PRIVATE -fno-semantic-interposition $<$<CONFIG:Release>:-Os>)
 set_target_properties(osdmenu PROPERTIES
+  LINKER_LANGUAGE CXX
   VERSION ${PROJECT_VERSION}
   SOVERSION ${PROJECT_VERSION_MAJOR}
-  C_VISIBILITY_PRESET hidden
-  CXX_VISIBILITY_PRESET hidden
-  VISIBILITY_INLINES_HIDDEN ON
   LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/osdmenu.map)
 # Templates of the standard library are visible by themselves; the map keeps inside what is no name of the interface.
 target_link_options(osdmenu PRIVATE LINKER:--version-script=${PROJECT_SOURCE_DIR}/cmake/osdmenu.map)

@@ -15,16 +15,20 @@ SEES = {  # folder: what it includes beside itself
     "menu/nav": ["include", "platform", "comm", "menu/core"],
     "menu/render": ["include", "platform", "comm", "menu/core"],
     "prompt": ["include", "platform", "comm"],
-    "simulator": ["include", "platform"],
-    "tools": LIBRARY + ["simulator"],
-    "tests": ["include", "platform", "simulator", "tools"],
+    "pages/data": ["include"],
+    "pages/menu": LIBRARY + ["pages/data"],
+    "pages/check": LIBRARY + ["pages/data", "pages/menu"],
+    "pages": ["pages/data", "pages/menu", "pages/check"],
+    "simulator": ["include", "platform", "pages/data", "pages/check", "pages"],
+    "tools": ["pages/data"],
+    "tests": ["include", "platform", "pages/data", "pages/menu", "pages/check", "pages", "simulator"],
     "bench": ["include", "platform"],
 }
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.M)
 
 
 def layer_of(path):
-    return next((layer for layer in SEES if path.startswith(layer + "/")), None)
+    return next((layer for layer in SEES if path.startswith(layer + "/")), None)  # the first that fits
 
 
 def find_cycle(graph, node, trail, done):

@@ -4,8 +4,7 @@
 #include <iterator>
 #include <string_view>
 
-#include "comm/log.h"
-#include "osd_menu.h"
+#include "platform/config_call.h"
 
 static constexpr char c_aacAttrName[][16] = { // in the order of tagATTR_ID_E, which is that of the names
     "Attr",      "ConfirmBtn", "ConfirmPage",     "CountPerLine", "Ctx",      "CurPagesNum", "DataZone",
@@ -42,8 +41,9 @@ static constexpr tagLETTER_INDEX_S osdLetterIndex()
     return stIndex;
 }
 
-// The number of a name, or ATTR_ID_CNT for a name that means nothing here.
-static size_t osdAttrId(const char* pcName)
+const char* osdAttrName(tagATTR_ID_E enId) { return c_aacAttrName[enId]; }
+
+size_t osdAttrId(const char* pcName)
 {
     static constexpr tagLETTER_INDEX_S stIndex = osdLetterIndex();
     const int s32Letter = *pcName - 'A';
@@ -71,6 +71,11 @@ tagATTR_SET_S osdAttrCollect(const tinyxml2::XMLElement* pstElem)
     return stSet;
 }
 
+void osdAttrFault(const tagATTR_SET_S& stSet, tagATTR_ID_E enId, tagPAGE_FAULT_E enFault)
+{
+    osdPageFault({enFault, stSet.pstElem, c_aacAttrName[enId], osdAttrValue(stSet, enId)});
+}
+
 tagATTR_E osdAttrText(const tagATTR_SET_S& stSet, tagATTR_ID_E enId, OSD_TEXT& acOut)
 {
     const char* pcValue = osdAttrValue(stSet, enId);
@@ -79,10 +84,30 @@ tagATTR_E osdAttrText(const tagATTR_SET_S& stSet, tagATTR_ID_E enId, OSD_TEXT& a
     }
     const size_t uLen = strlen(pcValue);
     if (uLen >= OSD_TEXT_LEN) {
-        OSD_LOG(OSD_MENU_ParseXml, OSD_LOG_LEVEL_ERR, "line %d: %s holds %zu bytes, at most %d fit\n",
-                stSet.pstElem->GetLineNum(), c_aacAttrName[enId], uLen, OSD_TEXT_LEN - 1);
+        osdAttrFault(stSet, enId, PAGE_FAULT_TOO_LONG);
         return ATTR_TOO_LONG;
     }
     memcpy(acOut, pcValue, uLen + 1);
     return ATTR_READ;
+}
+
+bool osdAttrInt(const tagATTR_SET_S& stSet, tagATTR_ID_E enId, int32_t* ps32Out)
+{
+    if (!osdAttrIsThere(stSet, enId)) {
+        return false;
+    }
+    if (stSet.apstAttr[enId]->QueryIntValue(ps32Out) != tinyxml2::XML_SUCCESS) {
+        osdAttrFault(stSet, enId, PAGE_FAULT_NUMBER);
+        return false;
+    }
+    return true;
+}
+
+bool osdAttrTranslate(const char* pcLanguage, const tagATTR_SET_S& stSet, tagATTR_ID_E enId, OSD_TEXT& acOut)
+{
+    if (!osdCfgTranslate(pcLanguage, osdAttrValue(stSet, enId), acOut)) {
+        osdAttrFault(stSet, enId, PAGE_FAULT_NO_TEXT);
+        return false;
+    }
+    return true;
 }

@@ -4,6 +4,7 @@
 #include <tinyxml2.h>
 
 #include "menu/core/keyword.h"
+#include "menu/core/page_fault.h"
 
 // Every attribute that a page file can give, in the order of their names.
 enum tagATTR_ID_E : int32_t {
@@ -44,6 +45,12 @@ struct tagATTR_SET_S {
     const tinyxml2::XMLAttribute* apstAttr[ATTR_ID_CNT]; // null where absent
 };
 
+// The name of an attribute in a page file.
+const char* osdAttrName(tagATTR_ID_E enId);
+
+// The number of a name, or ATTR_ID_CNT for a name that means nothing here.
+size_t osdAttrId(const char* pcName);
+
 // Without an element every attribute is absent.
 tagATTR_SET_S osdAttrCollect(const tinyxml2::XMLElement* pstElem);
 
@@ -55,10 +62,23 @@ inline const char* osdAttrValue(const tagATTR_SET_S& stSet, tagATTR_ID_E enId)
     return osdAttrIsThere(stSet, enId) ? stSet.apstAttr[enId]->Value() : nullptr;
 }
 
+// Tells what is wrong with an attribute.
+void osdAttrFault(const tagATTR_SET_S& stSet, tagATTR_ID_E enId, tagPAGE_FAULT_E enFault);
+
+// Tells of an attribute that isn't there; false where it is missing.
+inline bool osdAttrNeed(const tagATTR_SET_S& stSet, tagATTR_ID_E enId)
+{
+    if (!osdAttrIsThere(stSet, enId)) {
+        osdAttrFault(stSet, enId, PAGE_FAULT_ABSENT);
+        return false;
+    }
+    return true;
+}
+
 enum tagATTR_E : int32_t {
     ATTR_READ,
     ATTR_ABSENT,
-    ATTR_TOO_LONG, // more than a field holds; said in the log with line and length
+    ATTR_TOO_LONG, // more than a field holds
 };
 
 // A text, refused as a whole when it doesn't fit its field.
@@ -73,18 +93,32 @@ inline bool osdAttrOptText(const tagATTR_SET_S& stSet, tagATTR_ID_E enId, OSD_TE
 // A text that must be there: false when it is absent or too long.
 inline bool osdAttrReqText(const tagATTR_SET_S& stSet, tagATTR_ID_E enId, OSD_TEXT& acOut)
 {
-    return osdAttrText(stSet, enId, acOut) == ATTR_READ;
+    return osdAttrNeed(stSet, enId) && osdAttrText(stSet, enId, acOut) == ATTR_READ;
 }
 
 // An integer; false when it is absent or none, and *ps32Out is left alone.
-inline bool osdAttrInt(const tagATTR_SET_S& stSet, tagATTR_ID_E enId, int32_t* ps32Out)
-{
-    return osdAttrIsThere(stSet, enId) && stSet.apstAttr[enId]->QueryIntValue(ps32Out) == tinyxml2::XML_SUCCESS;
-}
+bool osdAttrInt(const tagATTR_SET_S& stSet, tagATTR_ID_E enId, int32_t* ps32Out);
 
 // A word of a table; false when it is absent or not in the table, and *penOut is left alone.
 template <typename E, size_t N>
 bool osdAttrWord(const tagATTR_SET_S& stSet, tagATTR_ID_E enId, const tagKEYWORD_S<E> (&astWord)[N], E* penOut)
 {
-    return osdAttrIsThere(stSet, enId) && osdKeywordFind(astWord, stSet.apstAttr[enId]->Value(), penOut);
+    if (!osdAttrIsThere(stSet, enId)) {
+        return false;
+    }
+    if (!osdKeywordFind(astWord, stSet.apstAttr[enId]->Value(), penOut)) {
+        osdAttrFault(stSet, enId, PAGE_FAULT_WORD);
+        return false;
+    }
+    return true;
 }
+
+// A word that must be there.
+template <typename E, size_t N>
+bool osdAttrReqWord(const tagATTR_SET_S& stSet, tagATTR_ID_E enId, const tagKEYWORD_S<E> (&astWord)[N], E* penOut)
+{
+    return osdAttrNeed(stSet, enId) && osdAttrWord(stSet, enId, astWord, penOut);
+}
+
+// The translation of the key that an attribute holds; false when the language has none.
+bool osdAttrTranslate(const char* pcLanguage, const tagATTR_SET_S& stSet, tagATTR_ID_E enId, OSD_TEXT& acOut);

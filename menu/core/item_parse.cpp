@@ -7,7 +7,6 @@
 #include "menu/core/value_bind.h"
 #include "osd_menu.h"
 #include "osd_xml.h"
-#include "platform/config_call.h"
 
 static bool osdItemReadLabel(const char* pcLanguage, const tagATTR_SET_S& stSet, tagITEM_NODE_S* pstItem)
 {
@@ -17,7 +16,7 @@ static bool osdItemReadLabel(const char* pcLanguage, const tagATTR_SET_S& stSet,
     if (!osdAttrReqText(stSet, ATTR_ITEM_INDEX, pstItem->acItemIndex)) {
         return false;
     }
-    return osdCfgTranslate(pcLanguage, pstItem->acItemIndex, pstItem->acItemName);
+    return osdAttrTranslate(pcLanguage, stSet, ATTR_ITEM_INDEX, pstItem->acItemName);
 }
 
 static bool osdItemReadPictures(const tagATTR_SET_S& stSet, tagITEM_NODE_S* pstItem)
@@ -30,7 +29,7 @@ static bool osdItemReadPictures(const tagATTR_SET_S& stSet, tagITEM_NODE_S* pstI
 
 static bool osdItemReadContext(const tagATTR_SET_S& stSet, tagITEM_NODE_S* pstItem)
 {
-    if (!osdAttrWord(stSet, ATTR_CTX, c_astCtxWord, &pstItem->enCtx)) {
+    if (!osdAttrReqWord(stSet, ATTR_CTX, c_astCtxWord, &pstItem->enCtx)) {
         return false;
     }
     switch (pstItem->enCtx) {
@@ -51,7 +50,7 @@ static bool osdItemReadContext(const tagATTR_SET_S& stSet, tagITEM_NODE_S* pstIt
 
 static bool osdItemReadAttr(const tagATTR_SET_S& stSet, tagITEM_NODE_S* pstItem)
 {
-    if (!osdAttrWord(stSet, ATTR_ATTR, c_astAttrWord, &pstItem->enAttr)) {
+    if (!osdAttrReqWord(stSet, ATTR_ATTR, c_astAttrWord, &pstItem->enAttr)) {
         return false;
     }
     if (pstItem->enAttr != CONFIRM_POP_BTN) {
@@ -92,7 +91,7 @@ static bool osdItemReadMsg(const char* pcLanguage, const tagATTR_SET_S& stSet, t
     if (!osdAttrReqText(stSet, ATTR_MSG, pstItem->acMsgKey)) {
         return false;
     }
-    osdCfgTranslate(pcLanguage, pstItem->acMsgKey, pstItem->acMsg); // a message without text is no failure
+    osdAttrTranslate(pcLanguage, stSet, ATTR_MSG, pstItem->acMsg); // a message without text is no failure
     return true;
 }
 
@@ -101,7 +100,7 @@ static bool osdItemReadOption(const char* pcLanguage, const tinyxml2::XMLElement
 {
     const tagATTR_SET_S stSet = osdAttrCollect(pstElem);
     if (!osdAttrReqText(stSet, ATTR_MODE_INDEX, pstItem->acValueKey[s32Option]) ||
-        !osdCfgTranslate(pcLanguage, pstItem->acValueKey[s32Option], pstItem->acValue[s32Option])) {
+        !osdAttrTranslate(pcLanguage, stSet, ATTR_MODE_INDEX, pstItem->acValue[s32Option])) {
         return false;
     }
     osdListInit(&pstItem->astSubList[s32Option]);
@@ -122,8 +121,7 @@ static bool osdItemReadOptions(const char* pcLanguage, const tinyxml2::XMLElemen
     for (const tinyxml2::XMLElement* pstOption = pstElem->FirstChildElement(); pstOption != nullptr;
          pstOption = pstOption->NextSiblingElement()) {
         if (pstItem->s32ValCnt >= OSD_OPTION_MAX) {
-            OSD_LOG(OSD_MENU_ParseXml, OSD_LOG_LEVEL_ERR, "line %d: item %s has more than %d options\n",
-                    pstOption->GetLineNum(), pstItem->acItemIndex, OSD_OPTION_MAX);
+            osdPageFault({PAGE_FAULT_OPTIONS, pstOption, osdAttrName(ATTR_ITEM_INDEX), pstItem->acItemIndex});
             return false;
         }
         if (!osdItemReadOption(pcLanguage, pstOption, pstItem, s32Option)) {

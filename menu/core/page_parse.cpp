@@ -14,10 +14,11 @@
 
 static bool osdPageReadLayout(const tagATTR_SET_S& stSet, tagPAGE_NODE_S* pstPage)
 {
-    if (!osdAttrWord(stSet, ATTR_LAYOUT, c_astLayoutWord, &pstPage->enLayout)) {
+    if (!osdAttrReqWord(stSet, ATTR_LAYOUT, c_astLayoutWord, &pstPage->enLayout)) {
         return false;
     }
-    return pstPage->enLayout != PAGE_LAYOUT_ICON || osdAttrInt(stSet, ATTR_COUNT_PER_LINE, &pstPage->s32CountPerLine);
+    return pstPage->enLayout != PAGE_LAYOUT_ICON || (osdAttrNeed(stSet, ATTR_COUNT_PER_LINE) &&
+                                                     osdAttrInt(stSet, ATTR_COUNT_PER_LINE, &pstPage->s32CountPerLine));
 }
 
 // Reads an optional text and notes whether it is there.
@@ -52,7 +53,7 @@ static bool osdPageReadMsg(const char* pcLanguage, const tagATTR_SET_S& stSet, t
     if (enAttr != ATTR_READ) {
         return enAttr == ATTR_ABSENT;
     }
-    return osdCfgTranslate(pcLanguage, acMsgKey, pstPage->acPageMsg);
+    return osdAttrTranslate(pcLanguage, stSet, ATTR_MSG, pstPage->acPageMsg);
 }
 
 static bool osdPageReadTitle(const char* pcLanguage, const tagATTR_SET_S& stSet, tagPAGE_NODE_S* pstPage)
@@ -61,11 +62,11 @@ static bool osdPageReadTitle(const char* pcLanguage, const tagATTR_SET_S& stSet,
     if (enAttr != ATTR_READ) {
         return enAttr == ATTR_ABSENT;
     }
-    if (!osdCfgTranslate(pcLanguage, pstPage->acTitleKey, pstPage->acTitle)) {
+    if (!osdAttrTranslate(pcLanguage, stSet, ATTR_TITLE, pstPage->acTitle)) {
         return false;
     }
     pstPage->bTitle = 1;
-    return osdAttrWord(stSet, ATTR_TITLE_POS, c_astTitlePosWord, &pstPage->enTitlePos);
+    return osdAttrReqWord(stSet, ATTR_TITLE_POS, c_astTitlePosWord, &pstPage->enTitlePos);
 }
 
 static void osdPageReadFlags(const tagATTR_SET_S& stSet, tagPAGE_NODE_S* pstPage)

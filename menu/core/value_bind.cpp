@@ -104,7 +104,7 @@ static bool osdBindButton(const char* pcLanguage, const tagATTR_SET_S& stSet, ta
     if (!osdAttrReqText(stSet, ATTR_VALUE, pstItem->acValueKey[0])) {
         return false;
     }
-    osdCfgTranslate(pcLanguage, pstItem->acValueKey[0], pstItem->acValue[0]);
+    osdAttrTranslate(pcLanguage, stSet, ATTR_VALUE, pstItem->acValue[0]); // without a translation the button is empty
     if (pstItem->enAttr == CONFIRM_POP && !osdAttrReqText(stSet, ATTR_CONFIRM_PAGE, pstItem->acConfirmPage)) {
         OSD_TRACE_FAILED(osdXmlFillItemParam);
         return false;

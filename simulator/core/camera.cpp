@@ -5,7 +5,7 @@
 #include <tinyxml2.h>
 #include <utility>
 
-#include "simulator/core/errors.h"
+#include "simulator/core/data.h"
 #include "simulator/core/log.h"
 #include "simulator/core/page_files.h"
 #include "simulator/core/services.h"

@@ -10,8 +10,8 @@
 #include <set>
 #include <string>
 
+#include "simulator/core/data.h"
 #include "simulator/core/data_folder.h"
-#include "simulator/core/definitions.h"
 #include "simulator/core/events.h"
 #include "simulator/core/faults.h"
 #include "simulator/core/media_memory.h"

@@ -10,7 +10,7 @@
 #include <unistd.h>
 #include <utility>
 
-#include "simulator/core/errors.h"
+#include "simulator/core/data.h"
 
 namespace sim {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "simulator/core/errors.h"
+#include "simulator/core/data.h"
 
 namespace sim {
 namespace {

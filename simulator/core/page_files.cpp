@@ -6,7 +6,6 @@
 #include <tinyxml2.h>
 #include <utility>
 
-#include "simulator/core/errors.h"
 #include "simulator/core/log.h"
 
 namespace sim {
@@ -15,24 +14,6 @@ namespace {
 constexpr std::string_view ending = "_page.xml";
 
 } // namespace
-
-bool is_page_file(const std::filesystem::path& path)
-{
-    const std::string name = path.filename().string();
-    if (name.empty()) {
-        return false;
-    }
-    const bool of_an_editor = name.front() == '.' || name.front() == '#'; // a copy or a lock
-    return !of_an_editor && name.size() > ending.size() &&
-           name.compare(name.size() - ending.size(), ending.size(), ending) == 0;
-}
-
-std::filesystem::path page_folder(const std::filesystem::path& resources)
-{
-    const std::filesystem::path written = resources / "pages";
-    std::error_code ignored; // what can't be looked at isn't there
-    return std::filesystem::is_directory(written, ignored) ? written : resources / "menu";
-}
 
 std::filesystem::path page_file(const std::filesystem::path& folder, const std::string& name)
 {
@@ -55,12 +36,6 @@ std::unique_ptr<tinyxml2::XMLDocument> parse_page_document(const std::string& te
 {
     auto document = std::make_unique<tinyxml2::XMLDocument>();
     return document->Parse(text.data(), text.size()) == tinyxml2::XML_SUCCESS ? std::move(document) : nullptr;
-}
-
-std::string page_name(const std::filesystem::path& path)
-{
-    const std::string file = path.filename().string();
-    return file.substr(0, file.size() - (is_page_file(path) ? ending.size() : 0));
 }
 
 std::vector<std::string> page_names(const std::filesystem::path& resources)

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "simulator/core/data.h"
+
 namespace tinyxml2 {
 class XMLDocument;
 }
@@ -18,17 +20,8 @@ std::unique_ptr<tinyxml2::XMLDocument> load_page_document(const std::filesystem:
 /// A page from a text; null when it isn't well formed.
 std::unique_ptr<tinyxml2::XMLDocument> parse_page_document(const std::string& text);
 
-/// Whether the name is one of a page file.
-bool is_page_file(const std::filesystem::path& path);
-
-/// The folder of the page files below a resource folder: "pages" where they are written, "menu" where they are staged.
-std::filesystem::path page_folder(const std::filesystem::path& resources);
-
 /// The file of a page in its folder.
 std::filesystem::path page_file(const std::filesystem::path& folder, const std::string& name);
-
-/// The name of the page in a page file.
-std::string page_name(const std::filesystem::path& path);
 
 /// The names of the pages below a resource folder, sorted.
 std::vector<std::string> page_names(const std::filesystem::path& resources);

@@ -2,7 +2,7 @@
 
 #include <system_error>
 
-#include "simulator/core/errors.h"
+#include "simulator/core/data.h"
 #include "simulator/core/page_files.h"
 
 namespace sim {

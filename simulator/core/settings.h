@@ -8,8 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "simulator/core/definitions.h"
-#include "simulator/core/errors.h"
+#include "simulator/core/data.h"
 #include "simulator/core/settings_store.h"
 
 namespace sim {

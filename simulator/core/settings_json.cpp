@@ -3,7 +3,7 @@
 #include <fstream>
 #include <map>
 
-#include "simulator/core/json_file.h"
+#include "simulator/core/data.h"
 
 namespace sim {
 namespace {

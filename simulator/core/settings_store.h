@@ -8,8 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "simulator/core/errors.h"
-#include "simulator/core/setting.h"
+#include "simulator/core/data.h"
 
 struct sqlite3;
 struct sqlite3_stmt;

@@ -1,24 +1,15 @@
 #include "simulator/core/translations.h"
 
-#include "osd_types.h"
-#include "simulator/core/json_file.h"
+#include "simulator/core/data.h"
 
 namespace sim {
 namespace {
 
-constexpr std::size_t max_bytes = OSD_TEXT_LEN - 1;
-
 std::map<std::string, std::string> load_language(const std::filesystem::path& path)
 {
-    JsonPlaces places(path.string());
-    const nlohmann::json root = load_json_object(path, &places);
     std::map<std::string, std::string> texts;
-    for (const auto& [key, value] : root.items()) {
-        FieldReader reader(root, places.of("/" + key));
-        if (key.size() > max_bytes) {
-            reader.complain("key '" + key + "' has " + std::to_string(key.size()) + " bytes, at most 31 fit the menu");
-        }
-        texts[key] = reader.text(key, 0, max_bytes);
+    for (const auto& [key, text] : pages::load_texts(path)) {
+        texts[key] = text.text;
     }
     return texts;
 }

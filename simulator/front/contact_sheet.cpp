@@ -2,7 +2,7 @@
 
 #include <iostream>
 
-#include "simulator/core/errors.h"
+#include "simulator/core/data.h"
 #include "simulator/core/page_files.h"
 #include "simulator/video/snapshot.h"
 

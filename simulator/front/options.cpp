@@ -6,7 +6,7 @@
 #include <map>
 #include <sstream>
 
-#include "simulator/core/errors.h"
+#include "simulator/core/data.h"
 #include "simulator/core/page_files.h"
 #include "simulator/core/resources.h"
 #include "simulator/video/snapshot.h"

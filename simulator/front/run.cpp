@@ -2,7 +2,7 @@
 
 #include <iostream>
 
-#include "simulator/core/errors.h"
+#include "simulator/core/data.h"
 #include "simulator/core/guard.h"
 #include "simulator/core/resources.h"
 #include "simulator/core/settings_json.h"

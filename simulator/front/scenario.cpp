@@ -8,9 +8,7 @@
 #include <sstream>
 #include <vector>
 
-#include "simulator/core/errors.h"
-#include "simulator/core/json_file.h"
-#include "simulator/core/text_file.h"
+#include "simulator/core/data.h"
 #include "simulator/host/key_script.h"
 #include "simulator/video/snapshot.h"
 
@@ -32,9 +30,9 @@ struct Outcome {
     Image frame;
 };
 
-std::map<std::string, std::string> read_settings(const nlohmann::json& object, const std::string& place)
+std::map<std::string, std::string> read_settings(const nlohmann::json& object, const Place& place)
 {
-    FieldReader reader(object, place);
+    FieldReader reader(object, place, "'settings'");
     std::map<std::string, std::string> values;
     for (const auto& [key, value] : object.items()) {
         values[key] = reader.text(key, 0, OSD_CFG_VALUE_LEN - 1);
@@ -49,7 +47,7 @@ ScenarioOptions read_options(const std::filesystem::path& path)
         return options;
     }
     const nlohmann::json root = load_json_object(path);
-    FieldReader reader(root, path.string());
+    FieldReader reader(root, Place{path.string()});
     if (reader.has("language")) {
         options.language = reader.text("language", 1, OSD_TEXT_LEN - 1);
     }
@@ -63,7 +61,7 @@ ScenarioOptions read_options(const std::filesystem::path& path)
         options.page = reader.text("page", 1, OSD_TEXT_LEN - 1);
     }
     if (reader.has("settings")) {
-        options.settings = read_settings(reader.field("settings"), path.string() + ": 'settings'");
+        options.settings = read_settings(reader.field("settings"), Place{path.string()});
     }
     reader.refuse_other_fields();
     return options;

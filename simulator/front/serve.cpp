@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "simulator/core/child_program.h"
-#include "simulator/core/errors.h"
+#include "simulator/core/data.h"
 #include "simulator/core/folder_watch.h"
 #include "simulator/core/log.h"
 #include "simulator/core/output_capture.h"

@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-#include "simulator/core/errors.h"
+#include "simulator/core/data.h"
 #include "simulator/host/keys.h"
 
 namespace sim {

@@ -13,13 +13,6 @@
 namespace sim {
 namespace {
 
-/// By event number.
-constexpr std::array<const char*, 12> event_facts = {"AfVersion",   "IspVersion",     "AiVersion", "FwVersion",
-                                                     "VideoFormat", "DeviceName",     "SN",        "Mac",
-                                                     "NdiVersion",  "FullNdiVersion", "NdiStatus", "LedCustomColor"};
-
-constexpr const char* custom_color = "LedCustomColor";
-
 /// Items that show one byte of the custom color.
 struct ColorPart {
     const char* item;
@@ -141,12 +134,12 @@ void answer_event(void* user, tagOSD_MENU_GET_EVENT_E event, tagOSD_MENU_CONTROL
 {
     auto* camera = static_cast<Camera*>(user);
     answer->acText[0] = '\0';
-    const auto index = static_cast<std::size_t>(event);
-    if (camera == nullptr || index >= event_facts.size()) {
+    const std::string name = fact_of_event(event);
+    if (camera == nullptr || name.empty()) {
         return;
     }
     (void)guarded("business", -1, [&] { // a failure leaves the answer empty
-        const std::string text = answer_text(*camera, event_facts[index]);
+        const std::string text = answer_text(*camera, name);
         return std::snprintf(answer->acText, sizeof answer->acText, "%s", text.c_str());
     });
 }

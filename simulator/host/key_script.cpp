@@ -9,8 +9,7 @@
 #include <stdexcept>
 #include <thread>
 
-#include "simulator/core/errors.h"
-#include "simulator/core/text_file.h"
+#include "simulator/core/data.h"
 
 namespace sim {
 namespace {

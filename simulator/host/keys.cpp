@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "osd_menu.h"
-#include "simulator/core/errors.h"
+#include "simulator/core/data.h"
 
 namespace sim {
 namespace {

@@ -6,12 +6,10 @@
 #include <utility>
 
 #include "osd_menu.h"
-#include "simulator/core/errors.h"
-#include "simulator/core/json_file.h"
+#include "simulator/core/data.h"
 #include "simulator/core/log.h"
 #include "simulator/core/page_files.h"
 #include "simulator/core/resources.h"
-#include "simulator/core/text_file.h"
 #include "simulator/host/page_check.h"
 #include "simulator/host/page_stack.h"
 

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "osd_page.h"
-#include "simulator/core/errors.h"
+#include "simulator/core/data.h"
 #include "simulator/core/log.h"
 #include "simulator/host/callbacks.h"
 #include "simulator/host/page_stack.h"

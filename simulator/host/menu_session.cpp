@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "osd_menu.h"
-#include "simulator/core/errors.h"
+#include "simulator/core/data.h"
 #include "simulator/core/log.h"
 #include "simulator/core/settings_json.h"
 #include "simulator/host/page_stack.h"

@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "simulator/core/errors.h"
+#include "simulator/core/data.h"
 #include "simulator/core/log.h"
 
 namespace sim {

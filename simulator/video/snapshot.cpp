@@ -10,7 +10,7 @@
 #include <string>
 #include <unistd.h>
 
-#include "simulator/core/errors.h"
+#include "simulator/core/data.h"
 #include "simulator/core/surface.h"
 #include "simulator/video/encode.h"
 

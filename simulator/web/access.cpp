@@ -6,7 +6,7 @@
 #include <charconv>
 #include <cstring>
 
-#include "simulator/core/errors.h"
+#include "simulator/core/data.h"
 #include "simulator/web/http.h"
 
 namespace sim {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "simulator/core/errors.h"
+#include "simulator/core/data.h"
 #include "simulator/core/log.h"
 #include "simulator/core/page_files.h"
 #include "simulator/core/settings_json.h"

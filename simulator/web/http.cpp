@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <sstream>
 
-#include "simulator/core/json_file.h"
+#include "simulator/core/data.h"
 
 namespace sim {
 

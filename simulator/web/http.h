@@ -9,7 +9,7 @@
 
 #include <httplib.h>
 
-#include "simulator/core/errors.h"
+#include "simulator/core/data.h"
 
 namespace sim {
 

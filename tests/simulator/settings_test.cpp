@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "simulator/core/camera.h"
-#include "simulator/core/json_file.h"
+#include "simulator/core/data.h"
 #include "simulator/core/settings_json.h"
 #include "tests/simulator/temp_folder.h"
 

@@ -4,9 +4,9 @@
 #include <filesystem>
 #include <string>
 
-namespace sim {
+namespace pages {
 
 /// The content of a file. Throws BadInput with the file and the reason.
 std::string read_text_file(const std::filesystem::path& path);
 
-} // namespace sim
+} // namespace pages

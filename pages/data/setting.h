@@ -5,7 +5,9 @@
 #include <string>
 #include <vector>
 
-namespace sim {
+#include "pages/data/errors.h"
+
+namespace pages {
 
 enum class SettingKind { Option, Integer, Text, HexColor };
 
@@ -29,6 +31,7 @@ struct Setting {
     std::int32_t step = 1;
     std::string unit; ///< shown behind the number by front ends, may be empty
     std::string default_text;
+    Place place; ///< in the definitions
 };
 
 /// Why the setting can't have this value, in words; empty when it can. All values are texts: an option's key, a
@@ -41,4 +44,4 @@ std::int32_t number_of(const Setting& setting, const std::string& text);
 /// The text of a number, as the settings store it.
 std::string text_of(const Setting& setting, std::int32_t number);
 
-} // namespace sim
+} // namespace pages

@@ -9,7 +9,9 @@
 #include <string>
 #include <utility>
 
-namespace sim {
+#include "pages/data/errors.h"
+
+namespace pages {
 
 /// Where the parts of a file stand.
 class JsonPlaces {
@@ -17,27 +19,26 @@ public:
     explicit JsonPlaces(std::string file) : file_(std::move(file)) {}
 
     /// A part is named by the keys and indices on the way to it, each behind a slash: "/settings/12/key".
-    void add(const std::string& part, int line) { lines_[part] = line; }
-    /// "FILE:LINE"; "FILE" for a part that isn't there.
-    std::string of(const std::string& part) const;
+    void add(const std::string& part, int line, int column) { places_[part] = {file_, line, column}; }
+    /// The file alone for a part that isn't there.
+    Place of(const std::string& part) const;
 
 private:
     std::string file_;
-    std::map<std::string, int> lines_;
+    std::map<std::string, Place> places_;
 };
 
-/// Reads a file whose top level is an object. Throws BadInput with the file and the reason, and the line of a syntax
-/// error; a field given twice is an error too. The places, if wanted, learn where each part stands.
+/// Reads a file whose top level is an object. Throws BadInput with the reason and the place of a syntax error; a field given twice is an error too. The places, if wanted, learn where each part stands.
 nlohmann::json load_json_object(const std::filesystem::path& path, JsonPlaces* places = nullptr);
-/// The same from a text; its errors begin with the place.
-nlohmann::json parse_json_object(const std::string& text, const std::string& place, JsonPlaces* places = nullptr);
+/// The same from a text, in errors named as the file is.
+nlohmann::json parse_json_object(const std::string& text, const std::string& file, JsonPlaces* places = nullptr);
 
-/// Reads the fields of one object. Each complaint is a BadInput that begins with the place, such as
-/// "settings.json: setting 'Zoom'".
+/// Reads the fields of one object. Each complaint is a BadInput of that place, whose words begin with the subject, such
+/// as "setting 'Zoom'".
 class FieldReader {
 public:
     /// The object must outlive the reader. Throws when it is no object.
-    FieldReader(const nlohmann::json& object, std::string place);
+    FieldReader(const nlohmann::json& object, Place place, std::string subject = "");
 
     bool has(const std::string& name) const { return object_.contains(name); }
     const nlohmann::json& field(const std::string& name);
@@ -52,8 +53,9 @@ public:
 
 private:
     const nlohmann::json& object_;
-    std::string place_;
+    Place place_;
+    std::string subject_;
     std::set<std::string> known_;
 };
 
-} // namespace sim
+} // namespace pages

@@ -1,29 +1,29 @@
-#include "simulator/core/text_file.h"
+#include "pages/data/text_file.h"
 
 #include <cerrno>
 #include <fstream>
 #include <iterator>
 #include <system_error>
 
-#include "simulator/core/errors.h"
+#include "pages/data/errors.h"
 
-namespace sim {
+namespace pages {
 
 std::string read_text_file(const std::filesystem::path& path)
 {
     std::error_code ignored; // what can't be looked at can't be opened either
     if (std::filesystem::is_directory(path, ignored)) {
-        throw BadInput(path.string() + ": is a folder, expected a file");
+        throw BadInput(Place{path.string()}, "is a folder, expected a file");
     }
     std::ifstream file(path, std::ios::binary);
     if (!file) {
-        throw BadInput(path.string() + ": can't be read: " + std::generic_category().message(errno));
+        throw BadInput(Place{path.string()}, std::string("can't be read: ") + std::generic_category().message(errno));
     }
     try {
         return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
     } catch (const std::ios_base::failure& error) { // the only way in which this iterator tells of a bad disk
-        throw BadInput(path.string() + ": can't be read: " + error.what());
+        throw BadInput(Place{path.string()}, std::string("can't be read: ") + error.what());
     }
 }
 
-} // namespace sim
+} // namespace pages

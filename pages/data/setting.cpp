@@ -1,4 +1,4 @@
-#include "simulator/core/setting.h"
+#include "pages/data/setting.h"
 
 #include <algorithm>
 #include <charconv>
@@ -7,7 +7,7 @@
 
 #include "osd_types.h"
 
-namespace sim {
+namespace pages {
 namespace {
 
 bool parse_whole(const std::string& text, int base, std::int32_t& number)
@@ -83,4 +83,4 @@ std::string text_of(const Setting& setting, std::int32_t number)
     return digits;
 }
 
-} // namespace sim
+} // namespace pages

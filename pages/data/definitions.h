@@ -4,10 +4,11 @@
 #include <filesystem>
 #include <map>
 #include <string>
+#include <vector>
 
-#include "simulator/core/setting.h"
+#include "pages/data/setting.h"
 
-namespace sim {
+namespace pages {
 
 struct Definitions {
     std::map<SettingId, Setting> settings;
@@ -19,10 +20,19 @@ struct Definitions {
 /// The one setting whose value chooses the language of the menu.
 inline const SettingId language_setting{"", "Language"};
 
+/// The setting behind the parts of the tally light's color.
+constexpr const char* custom_color = "LedCustomColor";
+
+/// The name under which the facts answer an event of the library's get-callback; empty for an unknown event.
+const char* fact_of_event(int event);
+
 /// The option key of a language given by its name or by the key itself. Throws BadInput, which lists the names.
 std::string option_of_language(const Definitions& definitions, const std::string& wanted);
 
-/// Reads and checks the file. Throws BadInput: file, setting, what was expected.
+/// Reads and checks the file; what can't be used is left out, with a mistake for each. Throws BadInput when nothing can
+/// be used.
+Definitions read_definitions(const std::filesystem::path& path, std::vector<BadInput>& mistakes);
+/// The same, throws the first mistake.
 Definitions load_definitions(const std::filesystem::path& path);
 
-} // namespace sim
+} // namespace pages

@@ -1,4 +1,4 @@
-#include "simulator/core/json_file.h"
+#include "pages/data/json_file.h"
 
 #include <algorithm>
 #include <cstring>
@@ -9,21 +9,37 @@
 #include <utility>
 #include <vector>
 
-#include "simulator/core/errors.h"
-#include "simulator/core/text_file.h"
+#include "pages/data/errors.h"
+#include "pages/data/text_file.h"
 
-namespace sim {
+namespace pages {
 namespace {
 
 using nlohmann::json;
+
+/// Where the token begins that ends before a place: the opening quotation mark of a text; all else is one character.
+std::size_t token_begin(const std::string& text, std::size_t end)
+{
+    std::size_t begin = end == 0 ? 0 : end - 1;
+    if (end == 0 || text[begin] != '"') {
+        return begin;
+    }
+    do {
+        begin = begin == 0 ? text.npos : text.rfind('"', begin - 1);
+        if (begin == text.npos) {
+            return end - 1;
+        }
+    } while (begin > 0 && text[begin - 1] == '\\');
+    return begin;
+}
 
 /// Follows the parser: learns where parts stand, and notices fields that stand twice in one object; the parser itself
 /// would keep the last one and say nothing.
 class Follower {
 public:
     /// places: null where nobody wants them; they take many times the memory of the text.
-    Follower(const std::string& text, std::istream& stream, const std::string& place, JsonPlaces* places)
-        : text_(text), stream_(stream), place_(place), places_(places)
+    Follower(const std::string& text, std::istream& stream, const std::string& file, JsonPlaces* places)
+        : text_(text), stream_(stream), file_(file), places_(places)
     {
     }
 
@@ -58,7 +74,7 @@ private:
         Level& level = open_.back();
         name_part(level, key);
         if (!level.keys.insert(key).second) {
-            throw BadInput(place_ + ":" + std::to_string(line()) + ": '" + key + "' stands twice in one object");
+            throw BadInput(token_place(), "'" + key + "' stands twice in one object");
         }
     }
 
@@ -73,26 +89,33 @@ private:
     {
         if (places_ != nullptr) {
             level.part = level.name + "/" + key;
-            places_->add(level.part, line());
+            const Place place = token_place();
+            places_->add(level.part, place.line, place.column);
         }
     }
 
-    /// The line up to which the parser has read: that of what it tells of.
-    int line()
+    /// Where the token begins behind which the parser has come to stand.
+    Place token_place()
     {
         const auto read = static_cast<std::size_t>(stream_.rdbuf()->pubseekoff(0, std::ios::cur, std::ios::in));
-        for (; counted_ < std::min(read, text_.size()); ++counted_) {
-            line_ += text_[counted_] == '\n' ? 1 : 0;
+        const std::size_t end = std::min(read, text_.size());
+        for (; counted_ < end; ++counted_) {
+            if (text_[counted_] == '\n') {
+                ++line_;
+                line_begin_ = counted_ + 1;
+            }
         }
-        return line_;
+        const std::size_t begin = std::max(token_begin(text_, end), line_begin_);
+        return {file_, line_, static_cast<int>(begin - line_begin_) + 1};
     }
 
     const std::string& text_;
     std::istream& stream_; ///< of the text
-    const std::string& place_;
+    const std::string& file_;
     JsonPlaces* places_;
     std::vector<Level> open_;
     std::size_t counted_ = 0;
+    std::size_t line_begin_ = 0;
     int line_ = 1;
 };
 
@@ -104,19 +127,22 @@ std::string words_behind(const char* mark, const json::exception& error)
     return place == std::string::npos ? words : words.substr(place + std::strlen(mark));
 }
 
-/// ":LINE" of a syntax error.
-std::string line_of(const json::parse_error& error, const std::string& text)
+/// Where the parser met a syntax error; it counts the byte in question as read.
+Place place_of(const json::parse_error& error, const std::string& text, const std::string& file)
 {
-    const auto end = text.begin() + static_cast<std::ptrdiff_t>(std::min(error.byte, text.size()));
-    return ":" + std::to_string(1 + std::count(text.begin(), end, '\n'));
+    const std::size_t at = std::min(error.byte == 0 ? 0 : error.byte - 1, text.size());
+    const auto end = text.begin() + static_cast<std::ptrdiff_t>(at);
+    const std::size_t line_end = at == 0 ? text.npos : text.rfind('\n', at - 1);
+    return {file, static_cast<int>(1 + std::count(text.begin(), end, '\n')),
+            static_cast<int>(line_end == text.npos ? at : at - line_end - 1) + 1};
 }
 
 } // namespace
 
-std::string JsonPlaces::of(const std::string& part) const
+Place JsonPlaces::of(const std::string& part) const
 {
-    const auto found = lines_.find(part);
-    return found == lines_.end() ? file_ : file_ + ":" + std::to_string(found->second);
+    const auto found = places_.find(part);
+    return found == places_.end() ? Place{file_} : found->second;
 }
 
 json load_json_object(const std::filesystem::path& path, JsonPlaces* places)
@@ -124,25 +150,26 @@ json load_json_object(const std::filesystem::path& path, JsonPlaces* places)
     return parse_json_object(read_text_file(path), path.string(), places);
 }
 
-json parse_json_object(const std::string& text, const std::string& place, JsonPlaces* places)
+json parse_json_object(const std::string& text, const std::string& file, JsonPlaces* places)
 {
     json root;
     try {
         std::istringstream stream(text);
-        Follower follower(text, stream, place, places);
+        Follower follower(text, stream, file, places);
         root = json::parse(stream, std::ref(follower)); // by reference: the parser copies its callback
     } catch (const json::parse_error& error) {
-        throw BadInput(place + line_of(error, text) + ": " + words_behind(": ", error));
+        throw BadInput(place_of(error, text, file), words_behind(": ", error));
     } catch (const json::exception& error) { // well formed, but no value of this machine: 1e999
-        throw BadInput(place + ": " + words_behind("] ", error));
+        throw BadInput(Place{file}, words_behind("] ", error));
     }
     if (!root.is_object()) {
-        throw BadInput(place + ": expected one object, { ... }");
+        throw BadInput(Place{file}, "expected one object, { ... }");
     }
     return root;
 }
 
-FieldReader::FieldReader(const json& object, std::string place) : object_(object), place_(std::move(place))
+FieldReader::FieldReader(const json& object, Place place, std::string subject)
+    : object_(object), place_(std::move(place)), subject_(std::move(subject))
 {
     if (!object_.is_object()) {
         complain("must be an object, { ... }");
@@ -194,6 +221,9 @@ void FieldReader::refuse_other_fields() const
     }
 }
 
-void FieldReader::complain(const std::string& what) const { throw BadInput(place_ + ": " + what); }
+void FieldReader::complain(const std::string& what) const
+{
+    throw BadInput(place_, (subject_.empty() ? "" : subject_ + ": ") + what);
+}
 
-} // namespace sim
+} // namespace pages

@@ -1,14 +1,15 @@
-#include "simulator/core/definitions.h"
+#include "pages/data/definitions.h"
 
 #include <algorithm>
+#include <iterator>
 #include <set>
 #include <string_view>
 
 #include "osd_types.h"
-#include "simulator/core/errors.h"
-#include "simulator/core/json_file.h"
+#include "pages/data/errors.h"
+#include "pages/data/json_file.h"
 
-namespace sim {
+namespace pages {
 namespace {
 
 using nlohmann::json;
@@ -31,12 +32,23 @@ constexpr const char* fact_names[] = {"FwVersion",   "IspVersion",     "AfVersio
                                       "VideoFormat", "DeviceName",     "SN",        "Mac",
                                       "NdiVersion",  "FullNdiVersion", "NdiStatus", "DeviceType"};
 
-std::map<std::string, std::string> read_text_map(const json& object, const std::string& place)
+/// Runs the body, whose mistake is one of several.
+template <typename Body>
+void collect(std::vector<BadInput>& mistakes, Body body)
 {
-    FieldReader reader(object, place);
+    try {
+        body();
+    } catch (const BadInput& mistake) {
+        mistakes.push_back(mistake);
+    }
+}
+
+std::map<std::string, std::string> read_text_map(const json& object, const Place& place, const std::string& name)
+{
+    FieldReader reader(object, place, "'" + name + "'");
     std::map<std::string, std::string> texts;
-    for (const auto& [name, value] : object.items()) {
-        texts[name] = reader.text(name, 0, max_text_bytes);
+    for (const auto& [key, value] : object.items()) {
+        texts[key] = reader.text(key, 0, max_text_bytes);
     }
     return texts;
 }
@@ -122,12 +134,13 @@ void read_kind_fields(FieldReader& reader, Setting& setting)
     }
 }
 
-Setting read_setting(const json& object, const std::string& place)
+Setting read_setting(const json& object, const Place& place)
 {
     Setting setting;
-    FieldReader first(object, place + ": a setting");
+    setting.place = place;
+    FieldReader first(object, place, "a setting");
     setting.id.key = first.text("key", 1, max_text_bytes);
-    FieldReader reader(object, place + ": setting '" + setting.id.key + "'");
+    FieldReader reader(object, place, "setting '" + setting.id.key + "'");
     (void)reader.field("key");
     if (reader.has("parent")) {
         setting.id.parent = reader.text("parent", 0, max_text_bytes);
@@ -144,24 +157,34 @@ Setting read_setting(const json& object, const std::string& place)
     return setting;
 }
 
-void read_settings(const json& list, const JsonPlaces& places, Definitions& definitions)
+void add_setting(const json& object, const Place& place, Definitions& definitions)
 {
-    if (!list.is_array()) {
-        throw BadInput(places.of("/settings") + ": 'settings' must be a list, [ ... ]");
-    }
-    for (std::size_t i = 0; i < list.size(); ++i) {
-        const std::string place = places.of("/settings/" + std::to_string(i));
-        Setting setting = read_setting(list[i], place);
-        const SettingId id = setting.id;
-        if (!definitions.settings.emplace(id, std::move(setting)).second) {
-            throw BadInput(place + ": setting " + to_string(id) + " is defined twice");
-        }
+    Setting setting = read_setting(object, place);
+    const SettingId id = setting.id;
+    if (!definitions.settings.emplace(id, std::move(setting)).second) {
+        throw BadInput(place, "setting " + to_string(id) + " is defined twice");
     }
 }
 
-std::map<std::string, std::string> read_facts(const json& object, const std::string& place)
+void read_settings(const json& list, const JsonPlaces& places, Definitions& definitions,
+                   std::vector<BadInput>& mistakes)
 {
-    FieldReader reader(object, place + ": 'facts'");
+    if (!list.is_array()) {
+        throw BadInput(places.of("/settings"), "'settings' must be a list, [ ... ]");
+    }
+    for (std::size_t i = 0; i < list.size(); ++i) {
+        collect(mistakes, [&] { add_setting(list[i], places.of("/settings/" + std::to_string(i)), definitions); });
+    }
+}
+
+/// By event number.
+constexpr const char* event_facts[] = {"AfVersion",   "IspVersion",     "AiVersion", "FwVersion",
+                                       "VideoFormat", "DeviceName",     "SN",        "Mac",
+                                       "NdiVersion",  "FullNdiVersion", "NdiStatus", custom_color};
+
+std::map<std::string, std::string> read_facts(const json& object, const Place& place)
+{
+    FieldReader reader(object, place, "'facts'");
     std::map<std::string, std::string> facts;
     for (const char* name : fact_names) {
         facts[name] = reader.text(name, 0, max_text_bytes);
@@ -170,26 +193,28 @@ std::map<std::string, std::string> read_facts(const json& object, const std::str
     return facts;
 }
 
-void check_languages(const Definitions& definitions, const std::string& file)
+void check_languages(const Definitions& definitions, const JsonPlaces& places, std::vector<BadInput>& mistakes)
 {
     const auto found = definitions.settings.find(language_setting);
     if (found == definitions.settings.end() || found->second.kind != SettingKind::Option) {
-        throw BadInput(file + ": there must be a setting 'Language' of kind option, without parent");
+        throw BadInput(places.of(""), "there must be a setting 'Language' of kind option, without parent");
     }
-    const std::vector<std::string>& options = found->second.options;
-    for (const std::string& option : options) {
+    const Setting& setting = found->second;
+    for (const std::string& option : setting.options) {
         if (definitions.languages.count(option) == 0) {
-            throw BadInput(file + ": setting 'Language': option '" + option + "' is missing in 'languages'");
+            mistakes.emplace_back(setting.place,
+                                  "setting 'Language': option '" + option + "' is missing in 'languages'");
         }
     }
     for (const auto& [key, name] : definitions.languages) {
-        if (std::count(options.begin(), options.end(), key) == 0) {
-            throw BadInput(file + ": 'languages': '" + key + "' is no option of the setting 'Language'");
+        if (std::count(setting.options.begin(), setting.options.end(), key) == 0) {
+            mistakes.emplace_back(places.of("/languages/" + key),
+                                  "'languages': '" + key + "' is no option of the setting 'Language'");
         }
     }
 }
 
-void check_zones(const Definitions& definitions, const std::string& file)
+void check_zones(const Definitions& definitions, const JsonPlaces& places, std::vector<BadInput>& mistakes)
 {
     std::set<std::string> parents;
     for (const auto& [id, setting] : definitions.settings) {
@@ -197,12 +222,19 @@ void check_zones(const Definitions& definitions, const std::string& file)
     }
     for (const auto& [zone, parent] : definitions.zones) {
         if (parents.count(parent) == 0) {
-            throw BadInput(file + ": zone '" + zone + "': no setting has the parent '" + parent + "'");
+            mistakes.emplace_back(places.of("/zones/" + zone),
+                                  "zone '" + zone + "': no setting has the parent '" + parent + "'");
         }
     }
 }
 
 } // namespace
+
+const char* fact_of_event(int event)
+{
+    const auto index = static_cast<std::size_t>(event);
+    return event >= 0 && index < std::size(event_facts) ? event_facts[index] : "";
+}
 
 std::string option_of_language(const Definitions& definitions, const std::string& wanted)
 {
@@ -216,21 +248,32 @@ std::string option_of_language(const Definitions& definitions, const std::string
     throw BadInput("unknown language '" + wanted + "', expected one of " + known);
 }
 
-Definitions load_definitions(const std::filesystem::path& path)
+Definitions read_definitions(const std::filesystem::path& path, std::vector<BadInput>& mistakes)
 {
-    const std::string file = path.string();
-    JsonPlaces places(file);
+    JsonPlaces places(path.string());
     const json root = load_json_object(path, &places);
-    FieldReader reader(root, file);
+    FieldReader reader(root, places.of(""));
     Definitions definitions;
-    definitions.languages = read_text_map(reader.field("languages"), places.of("/languages") + ": 'languages'");
-    definitions.facts = read_facts(reader.field("facts"), places.of("/facts"));
-    definitions.zones = read_text_map(reader.field("zones"), places.of("/zones") + ": 'zones'");
-    read_settings(reader.field("settings"), places, definitions);
-    reader.refuse_other_fields();
-    check_languages(definitions, file);
-    check_zones(definitions, file);
+    collect(mistakes, [&] {
+        definitions.languages = read_text_map(reader.field("languages"), places.of("/languages"), "languages");
+    });
+    collect(mistakes, [&] { definitions.facts = read_facts(reader.field("facts"), places.of("/facts")); });
+    collect(mistakes, [&] { definitions.zones = read_text_map(reader.field("zones"), places.of("/zones"), "zones"); });
+    collect(mistakes, [&] { read_settings(reader.field("settings"), places, definitions, mistakes); });
+    collect(mistakes, [&] { reader.refuse_other_fields(); });
+    collect(mistakes, [&] { check_languages(definitions, places, mistakes); });
+    collect(mistakes, [&] { check_zones(definitions, places, mistakes); });
     return definitions;
 }
 
-} // namespace sim
+Definitions load_definitions(const std::filesystem::path& path)
+{
+    std::vector<BadInput> mistakes;
+    Definitions definitions = read_definitions(path, mistakes);
+    if (!mistakes.empty()) {
+        throw BadInput(mistakes.front());
+    }
+    return definitions;
+}
+
+} // namespace pages

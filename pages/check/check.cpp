@@ -1,0 +1,54 @@
+#include "pages/check/check.h"
+
+#include <algorithm>
+#include <tuple>
+
+#include "pages/menu/menu.h"
+
+namespace pages {
+namespace {
+
+auto order(const Finding& finding)
+{
+    return std::tie(finding.place.file, finding.place.line, finding.place.column, finding.rule, finding.what);
+}
+
+class Check {
+public:
+    explicit Check(const ResourceFolder& folder) : folder_(folder) {}
+
+    void run_rules()
+    {
+        for (const Rule& rule : all_rules()) {
+            if (rule.check != nullptr) {
+                rule.check(folder_, [&](const Place& place, const std::string& what, const std::string& expected) {
+                    findings_.push_back({place, rule.severity, rule.name, what, expected});
+                });
+            }
+        }
+    }
+
+    std::vector<Finding> take()
+    {
+        std::sort(findings_.begin(), findings_.end(),
+                  [](const Finding& a, const Finding& b) { return order(a) < order(b); });
+        const auto same = [](const Finding& a, const Finding& b) { return order(a) == order(b); };
+        findings_.erase(std::unique(findings_.begin(), findings_.end(), same), findings_.end());
+        return std::move(findings_);
+    }
+
+private:
+    const ResourceFolder& folder_;
+    std::vector<Finding> findings_;
+};
+
+} // namespace
+
+std::vector<Finding> check(const ResourceFolder& folder, const CheckOptions& /*options*/)
+{
+    Check checking(folder);
+    checking.run_rules();
+    return checking.take();
+}
+
+} // namespace pages

@@ -1,0 +1,33 @@
+// What is wrong with a folder of resources, in words that its author can act on.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "pages/data/errors.h"
+
+namespace pages {
+
+enum class Severity { Error, Warning };
+
+struct Finding {
+    Place place; ///< the file below the folder
+    Severity severity = Severity::Error;
+    std::string rule; ///< its name, by which a finding can be muted
+    std::string what;
+    std::string expected; ///< may be empty
+};
+
+/// "what, expected ...": the words without place and rule.
+std::string words_of(const Finding& finding);
+
+/// "FOLDER/FILE:LINE:COLUMN: error: what, expected ... [rule]"
+std::string line_of(const Finding& finding, const std::string& folder);
+
+/// {"findings": [{"file", "line", "column", "severity", "rule", "what", "expected"}]}, indented.
+std::string to_json(const std::vector<Finding>& findings);
+
+/// "'Lable', expected 'Label'" hints: the known word that is nearest to a misspelt one, or none of them, empty then.
+std::string nearest_word(const std::string& word, const std::vector<std::string>& known);
+
+} // namespace pages

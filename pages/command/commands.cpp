@@ -1,0 +1,45 @@
+#include "pages/command/commands.h"
+
+#include <CLI/CLI.hpp>
+#include <iostream>
+
+#include "pages/check/check.h"
+
+namespace pages {
+namespace {
+
+struct Options {
+    std::string folder;
+    std::string fonts;
+    bool json = false;
+    bool quick = false;
+};
+
+int run_check(const Options& options)
+{
+    const ResourceFolder folder = read_resource_folder(options.folder, options.fonts);
+    const std::vector<Finding> findings = check(folder, {!options.quick, {}});
+    if (options.json) {
+        std::cout << to_json(findings) << '\n';
+    } else {
+        for (const Finding& finding : findings) {
+            std::cout << line_of(finding, options.folder) << '\n';
+        }
+    }
+    return findings.empty() ? all_well : findings_told;
+}
+
+} // namespace
+
+void add_commands(CLI::App& app, int& status)
+{
+    auto options = std::make_shared<Options>();
+    CLI::App* check = app.add_subcommand("check", "Tell everything that is wrong with a folder of resources");
+    check->add_option("FOLDER", options->folder, "folder with pages/, lang/, pic/ and settings.json")->required();
+    check->add_option("--fonts", options->fonts, "folder with font.ttf, bold_font.ttf and tcfont.ttf");
+    check->add_flag("--json", options->json, "as JSON");
+    check->add_flag("--quick", options->quick, "don't draw and measure");
+    check->callback([options, &status] { status = run_check(*options); });
+}
+
+} // namespace pages

@@ -1,0 +1,174 @@
+#include "pages/data/page_file.h"
+
+#include <algorithm>
+#include <expat.h>
+#include <system_error>
+#include <utility>
+
+namespace pages {
+namespace {
+
+constexpr std::string_view ending = "_page.xml";
+constexpr std::string_view white_space = " \t\r\n";
+
+/// Follows the parser and builds the elements.
+class Builder {
+public:
+    explicit Builder(PageFile& page) : page_(page), parser_(XML_ParserCreate(nullptr), XML_ParserFree)
+    {
+        XML_SetUserData(parser_.get(), this);
+        XML_SetElementHandler(parser_.get(), start, end);
+        XML_SetCharacterDataHandler(parser_.get(), text);
+        XML_SetCommentHandler(parser_.get(), comment);
+    }
+
+    /// Throws BadInput for a text that is not well formed.
+    void build()
+    {
+        const std::string& words = page_.text;
+        if (XML_Parse(parser_.get(), words.data(), static_cast<int>(words.size()), XML_TRUE) != XML_STATUS_OK) {
+            const std::string open =
+                open_ == nullptr ? "" : " (<" + open_->name + "> is open since " + place_words() + ")";
+            throw BadInput(here(), std::string(XML_ErrorString(XML_GetErrorCode(parser_.get()))) + open);
+        }
+    }
+
+private:
+    static Builder& of(void* data) { return *static_cast<Builder*>(data); }
+    static void start(void* data, const char* name, const char** attributes) { of(data).open(name, attributes); }
+    static void end(void* data, const char* /*name*/) { of(data).close(); }
+    static void text(void* data, const char* letters, int count)
+    {
+        of(data).add_text({letters, static_cast<std::size_t>(count)});
+    }
+    static void comment(void* data, const char* words)
+    {
+        Builder& builder = of(data);
+        builder.page_.comments.push_back({words, builder.here()});
+    }
+
+    Place here() const
+    {
+        return {page_.file, static_cast<int>(XML_GetCurrentLineNumber(parser_.get())),
+                static_cast<int>(XML_GetCurrentColumnNumber(parser_.get())) + 1};
+    }
+
+    std::string place_words() const { return "line " + std::to_string(open_->place.line); }
+
+    void open(const char* name, const char** attributes)
+    {
+        auto element = std::make_unique<Element>();
+        element->name = name;
+        element->place = here();
+        element->parent = open_;
+        for (; *attributes != nullptr; attributes += 2) {
+            element->attributes.push_back({attributes[0], attributes[1], {}});
+        }
+        find_places(*element);
+        Element* opened = element.get();
+        (open_ == nullptr ? page_.root : open_->children.emplace_back()) = std::move(element);
+        open_ = opened;
+    }
+
+    void close()
+    {
+        open_->last_line = here().line;
+        open_ = const_cast<Element*>(open_->parent);
+    }
+
+    /// A text may come in pieces; its first letter tells where it is.
+    void add_text(std::string_view letters)
+    {
+        if (letters.find_first_not_of(white_space) != letters.npos) {
+            open_->texts.push_back(here());
+        }
+    }
+
+    /// The parser tells the place of a start tag, not of its attributes: they stand there in the same order.
+    void find_places(Element& element) const
+    {
+        const std::string& words = page_.text;
+        auto at = static_cast<std::size_t>(XML_GetCurrentByteIndex(parser_.get())) + 1 + element.name.size();
+        for (Attribute& attribute : element.attributes) {
+            at = std::min(words.find_first_not_of(white_space, at), words.size());
+            attribute.place = place_at(at, element.place);
+            const std::size_t quote = words.find_first_of("\"'", at);
+            const std::size_t close = quote == words.npos ? quote : words.find(words[quote], quote + 1);
+            at = close == words.npos ? words.size() : close + 1;
+        }
+    }
+
+    Place place_at(std::size_t at, const Place& tag) const
+    {
+        const std::string& words = page_.text;
+        const auto begin = static_cast<std::size_t>(XML_GetCurrentByteIndex(parser_.get()));
+        const auto lines = std::count(words.begin() + static_cast<std::ptrdiff_t>(begin),
+                                      words.begin() + static_cast<std::ptrdiff_t>(at), '\n');
+        const int column =
+            lines == 0 ? tag.column + static_cast<int>(at - begin) : static_cast<int>(at - words.rfind('\n', at - 1));
+        return {tag.file, tag.line + static_cast<int>(lines), column};
+    }
+
+    PageFile& page_;
+    std::unique_ptr<XML_ParserStruct, decltype(&XML_ParserFree)> parser_;
+    Element* open_ = nullptr;
+};
+
+} // namespace
+
+const Attribute* Element::find(std::string_view attribute) const
+{
+    const auto found = std::find_if(attributes.begin(), attributes.end(),
+                                    [attribute](const Attribute& one) { return one.name == attribute; });
+    return found == attributes.end() ? nullptr : &*found;
+}
+
+std::string Element::value(std::string_view attribute) const
+{
+    const Attribute* found = find(attribute);
+    return found == nullptr ? "" : found->value;
+}
+
+const Place& Element::place_of(std::string_view attribute) const
+{
+    const Attribute* found = find(attribute);
+    return found == nullptr ? place : found->place;
+}
+
+std::filesystem::path page_folder(const std::filesystem::path& resources)
+{
+    const std::filesystem::path written = resources / "pages";
+    std::error_code ignored; // what can't be looked at isn't there
+    return std::filesystem::is_directory(written, ignored) ? written : resources / "menu";
+}
+
+bool is_page_file(const std::filesystem::path& path)
+{
+    const std::string name = path.filename().string();
+    if (name.empty()) {
+        return false;
+    }
+    const bool of_an_editor = name.front() == '.' || name.front() == '#'; // a copy or a lock
+    return !of_an_editor && name.size() > ending.size() &&
+           name.compare(name.size() - ending.size(), ending.size(), ending) == 0;
+}
+
+std::string page_name(const std::filesystem::path& path)
+{
+    const std::string file = path.filename().string();
+    return file.substr(0, file.size() - (is_page_file(path) ? ending.size() : 0));
+}
+
+PageFile read_page(const std::filesystem::path& path, const std::string& text, std::vector<BadInput>& mistakes)
+{
+    PageFile page{page_name(path), path.string(), text, nullptr, {}};
+    try {
+        Builder(page).build();
+    } catch (const BadInput& mistake) {
+        mistakes.push_back(mistake);
+        page.root.reset();
+    }
+    return page;
+}
+
+} // namespace pages

@@ -1,0 +1,73 @@
+#include "pages/data/texts.h"
+
+#include <algorithm>
+
+#include "osd_types.h"
+#include "pages/data/json_file.h"
+
+namespace pages {
+namespace {
+
+constexpr std::size_t max_bytes = OSD_TEXT_LEN - 1;
+
+/// What can't be shown of a text, or no words.
+std::string problem_with_text(const std::string& text)
+{
+    if (text.size() > max_bytes) {
+        return words_of_length(text) + ", at most " + std::to_string(max_bytes) + " bytes fit";
+    }
+    return text.find('\0') == text.npos ? "" : "'" + without_zeros(text) + "' holds a zero byte";
+}
+
+void add_text(const std::string& key, const nlohmann::json& value, const Place& place, Texts& texts)
+{
+    const std::string key_problem = problem_with_text(key);
+    if (!key_problem.empty()) {
+        throw BadInput(place, "key " + key_problem);
+    }
+    if (!value.is_string()) {
+        throw BadInput(place, "'" + key + "' must be a text, expected \"...\" behind the colon");
+    }
+    const auto text = value.get<std::string>();
+    const std::string problem = problem_with_text(text);
+    if (!problem.empty()) {
+        throw BadInput(place, "'" + key + "': " + problem);
+    }
+    texts[key] = {text, place};
+}
+
+} // namespace
+
+Texts read_texts(const std::filesystem::path& path, std::vector<BadInput>& mistakes)
+{
+    JsonPlaces places(path.string());
+    const nlohmann::json root = load_json_object(path, &places);
+    Texts texts;
+    for (const auto& [key, value] : root.items()) {
+        try {
+            add_text(key, value, places.of("/" + key), texts);
+        } catch (const BadInput& mistake) {
+            mistakes.push_back(mistake);
+        }
+    }
+    return texts;
+}
+
+Texts load_texts(const std::filesystem::path& path)
+{
+    std::vector<BadInput> mistakes;
+    Texts texts = read_texts(path, mistakes);
+    if (!mistakes.empty()) {
+        throw BadInput(mistakes.front());
+    }
+    return texts;
+}
+
+std::string words_of_length(const std::string& text)
+{
+    const auto is_first = [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; };
+    const auto letters = std::count_if(text.begin(), text.end(), is_first);
+    return "'" + text + "' has " + std::to_string(text.size()) + " bytes (" + std::to_string(letters) + " letters)";
+}
+
+} // namespace pages
