@@ -44,11 +44,11 @@ private:
 
 } // namespace
 
-std::vector<Finding> check(const ResourceFolder& folder, const CheckOptions& /*options*/)
+CheckResult check(const ResourceFolder& folder, const CheckOptions& /*options*/)
 {
     Check checking(folder);
     checking.run_rules();
-    return checking.take();
+    return {checking.take(), {}};
 }
 
 } // namespace pages

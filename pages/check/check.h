@@ -14,9 +14,13 @@ struct CheckOptions {
     std::set<std::string> measured_pages; ///< only these; empty for all
 };
 
-/// All findings, by place; muted ones are left out. Reads nothing but what the folder holds. Any thread, one at a time:
-/// others wait.
-std::vector<Finding> check(const ResourceFolder& folder, const CheckOptions& options);
+struct CheckResult {
+    std::vector<Finding> findings; ///< by place; muted ones are left out
+    std::set<std::string> refused; ///< pages that the menu can't show as a whole in some language
+};
+
+/// Everything that can be known of a folder. Any thread, one at a time: others wait.
+CheckResult check(const ResourceFolder& folder, const CheckOptions& options);
 
 /// All rules, for the documents.
 const std::vector<Rule>& all_rules();

@@ -18,7 +18,7 @@ struct Options {
 int run_check(const Options& options)
 {
     const ResourceFolder folder = read_resource_folder(options.folder, options.fonts);
-    const std::vector<Finding> findings = check(folder, {!options.quick, {}});
+    const std::vector<Finding> findings = check(folder, {!options.quick, {}}).findings;
     if (options.json) {
         std::cout << to_json(findings) << '\n';
     } else {
