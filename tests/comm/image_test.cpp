@@ -17,28 +17,22 @@ TEST_F(ImageTest, LoadsScalesConverts)
     ASSERT_EQ(load("bar", {7, 9, 300, 50}), 0);
     EXPECT_THAT(calls().lines, ElementsAre("access " PIC "bar.bmp", "load " PIC "bar.bmp", "zoom loaded bar 0 3 0.5 1",
                                            "convert scaled bar 0x15321002", "free loaded bar", "free scaled bar"));
-    EXPECT_EQ(image->w, 300);
-    EXPECT_EQ(image->h, 50);
+    EXPECT_EQ(calls().surfaces[image], "bar 300x50");
     EXPECT_EQ(pixelAt(image, 150, 25), 0xFF0000FFu);
     SDL_FreeSurface(image);
 }
 
 TEST_F(ImageTest, FailuresReleaseInOrder)
 {
-    const struct {
-        const char *call, *printed;
-        std::vector<std::string> freed;
-    } cases[] = {
-        {"access", "F L failed, acFilePath = " PIC "bar.bmp\n", {}},
-        {"IMG_Load", "F L failed\n", {}},
-        {"rotozoomSurfaceXY", "F L failed\n", {"free loaded bar"}},
-        {"SDL_ConvertSurfaceFormat", "F L failed\n", {"free scaled bar", "free loaded bar"}},
-    };
-    for (const auto& c : cases) {
+    for (const auto& [call, output, freed] :
+         {std::tuple("access", "F L failed, acFilePath = " PIC "bar.bmp\n", ""),
+          {"IMG_Load", "F L failed\n", ""},
+          {"rotozoomSurfaceXY", "F L failed\n", "free loaded bar"},
+          {"SDL_ConvertSurfaceFormat", "F L failed\n", "free scaled bar, free loaded bar"}}) {
         calls().lines.clear();
-        failCall(c.call);
-        EXPECT_EQ(printed([&] { EXPECT_EQ(load("bar", {0, 0, 9, 9}), -1); }), c.printed);
-        EXPECT_EQ(linesOf({"free "}), c.freed);
+        failCall(call);
+        EXPECT_EQ(printed([&] { EXPECT_EQ(load("bar", {0, 0, 9, 9}), -1); }), output);
+        EXPECT_EQ(joined(linesOf({"free "}), ", "), freed);
     }
     calls().pictureSize = 0;
     EXPECT_EQ(printed([&] { EXPECT_EQ(load("bar", {0, 0, 9, 9}), -1); }), "F L failed\n") << "nothing to scale";

@@ -10,23 +10,19 @@ TEST_F(TextSurfaceTest, ColourFollowsFunctionAndSelection)
     TTF_Font* font = gstMenuMgr.pstFont;
     char text[] = "Gain";
     SDL_Surface* surface = nullptr;
-    const struct {
-        int (*function)(TTF_Font*, char*, int, OSD_BOOL, SDL_Surface**);
-        uint32_t colours[3]; // not selected, selected, another value
-    } cases[] = {{OSD_COMM_GetTxtSurface, {0xFFBFBFBF, 0xFFFFFFFF, 0xFFBFBFBF}},
-                 {OSD_COMM_GetTxtSurfaceWithCursor, {0xFFBFBFBF, 0xFFFFFFFF, 0xFFBFBFBF}},
-                 {OSD_COMM_GetTolvaneTxtSurface, {0xFFFFCD25, 0xFFFFCD25, 0xFFFFCD25}}};
-    for (const auto& c : cases) {
-        for (OSD_BOOL selected : {0, 1, 2}) {
-            ASSERT_EQ(c.function(font, text, 17, selected, &surface), 0);
-            EXPECT_EQ(pixelAt(surface, 79, 29), c.colours[selected]);
+    for (const auto& function :
+         {OSD_COMM_GetTxtSurface, OSD_COMM_GetTxtSurfaceWithCursor, OSD_COMM_GetTolvaneTxtSurface}) {
+        for (OSD_BOOL selected : {0, 1, 2}) { // only 1 is selected
+            ASSERT_EQ(function(font, text, 17, selected, &surface), 0);
+            const uint32_t colour = selected == 1 ? 0xFFFFFFFF : 0xFFBFBFBF;
+            EXPECT_EQ(pixelAt(surface, 79, 29), function == OSD_COMM_GetTolvaneTxtSurface ? 0xFFFFCD25 : colour);
             EXPECT_EQ(calls().fonts[font].size, 17) << "the size stays on the font";
             SDL_FreeSurface(std::exchange(surface, nullptr));
         }
         failCall("TTF_SetFontSize");
-        EXPECT_EQ(printed([&] { EXPECT_EQ(c.function(font, text, 20, 1, &surface), -1); }), "F L\n");
+        EXPECT_EQ(printed([&] { EXPECT_EQ(function(font, text, 20, 1, &surface), -1); }), "F L\n");
         failCall("TTF_RenderUTF8_Blended");
-        EXPECT_EQ(printed([&] { EXPECT_EQ(c.function(font, text, 20, 1, &surface), -1); }), "");
+        EXPECT_EQ(printed([&] { EXPECT_EQ(function(font, text, 20, 1, &surface), -1); }), "");
         EXPECT_EQ(surface, nullptr);
     }
 }

@@ -20,19 +20,19 @@ TEST_F(RecordsTest, FlattenedListShowsTheOptionInForce)
     tagITEM_NODE_S* tree = openTree();
     const std::tuple<tagITEM_ATTR_E, int, int, const char*, bool> cases[] = {
         // options 3, 40 and -1 don't exist
-        {SUBITEM, 0, 1, "Mode Last", false},  {SUBITEM, 1, 2, "Mode b1 deep b2 Last", true},
-        {SUBITEM, 3, 1, "Mode Last", false},  {MSG_WITH_SUBITEM, 2, 1, "Mode b1 deep b2 Last", true},
-        {SUBITEM, -1, 1, "Mode Last", false}, {MSG_WITH_SUBITEM, 0, 1, "Mode Last", false},
-        {COMMON, 1, 1, "Mode Last", false},   {MSG_WITH_SUBITEM, 1, 40, "Mode Last", true}};
+        {SUBITEM, 0, 1, "Mode Last ", false},  {SUBITEM, 1, 2, "Mode b1 deep b2 Last ", true},
+        {SUBITEM, 3, 1, "Mode Last ", false},  {MSG_WITH_SUBITEM, 2, 1, "Mode b1 deep b2 Last ", true},
+        {SUBITEM, -1, 1, "Mode Last ", false}, {MSG_WITH_SUBITEM, 0, 1, "Mode Last ", false},
+        {COMMON, 1, 1, "Mode Last ", false},   {MSG_WITH_SUBITEM, 1, 40, "Mode Last ", true}};
     for (const auto& [attr, current, saved, keys, has] : cases) {
         tree->enAttr = attr;
         tree->s32CurIdx = current;
         tree->s32SavedIdx = saved;
-        std::vector<std::string> found;
+        std::string found;
         for (const tagITEM_NODE_S* item : itemsOf(gstPageMgr.astPage[0])) {
-            found.emplace_back(item->acItemIndex);
+            found += std::string(item->acItemIndex) + " ";
         }
-        EXPECT_EQ(joined(found, " "), keys) << attr << " " << current << " " << saved;
+        EXPECT_EQ(found, keys) << attr << " " << current << " " << saved;
         EXPECT_EQ(osdMenuHasSubItem(tree), has ? 1 : 0) << attr << " " << current << " " << saved;
     }
 }

@@ -7,7 +7,7 @@
 using namespace fake;
 
 // What a start with a canvas of 1000 by 1000 calls.
-static const std::string START = "log 6 bSupport4K:0,stMenuRect info(0, 0, 1000, 1000)\n; create resource; "
+static const std::string START = "log 6 bSupport4K:0,stMenuRect info(0, 0, 1000, 1000)\n; create resource 1000x1000; "
                                  "open font.ttf 32; open bold_font.ttf 32; alloc menu_mem 4000000 0; "
                                  "alloc menu_scale 4000000 0; "
                                  "canvas 1000x1000 32 bits, pitch 4000, format 0x16362004; set callback; ";
@@ -17,27 +17,18 @@ protected:
     static std::string text(const SDL_Rect& r) { return format("%d %d %d %d; ", r.x, r.y, r.w, r.h); }
 
     // The calls since the last look.
-    static std::string called()
-    {
-        std::string all;
-        for (const std::string& line : calls().lines) {
-            all += line + "; ";
-        }
-        calls().lines.clear();
-        return all;
-    }
+    static std::string called() { return joined(std::exchange(calls().lines, {}), "; ") + "; "; }
 };
 
 TEST_F(StartTest, LibrariesStartInOrderAndGoBackOnFailure)
 {
-    const std::vector<std::string> cases[] = {
-        {"SDL_Init", "SDL Init Fail, s32Ret = -1\n", "SDL_Init 0xd001; "},
-        {"IMG_Init", "IMG Init Fail.\n", "SDL_Init 0xd001; IMG_Init 3; SDL_Quit; "},
-        {"TTF_Init", "TTF Init Fail.\n", "SDL_Init 0xd001; IMG_Init 3; TTF_Init; IMG_Quit; SDL_Quit; "}};
-    for (const std::vector<std::string>& c : cases) { // failing call, what is printed, what is called
-        failCall(c[0]);
-        EXPECT_EQ(printed([&] { EXPECT_EQ(OSD_MENU_InitOpensourceRes(), -1); }), c[1]);
-        EXPECT_EQ(called(), c[2]);
+    for (const auto& [failing, said, all] :
+         {std::tuple("SDL_Init", "SDL Init Fail, s32Ret = -1\n", "SDL_Init 0xd001; "),
+          {"IMG_Init", "IMG Init Fail.\n", "SDL_Init 0xd001; IMG_Init 3; SDL_Quit; "},
+          {"TTF_Init", "TTF Init Fail.\n", "SDL_Init 0xd001; IMG_Init 3; TTF_Init; IMG_Quit; SDL_Quit; "}}) {
+        failCall(failing);
+        EXPECT_EQ(printed([] { EXPECT_EQ(OSD_MENU_InitOpensourceRes(), -1); }), said);
+        EXPECT_EQ(called(), all);
     }
 }
 
@@ -45,7 +36,7 @@ TEST_F(StartTest, BuildsManagerCanvasAndSurface)
 {
     ASSERT_EQ(init({2, 2, 0, {0.0f, 0.0f, 0.5208f, 0.9259f}, true}), 0);
     EXPECT_EQ(called(), START);
-    EXPECT_THAT(platform().log.at(0).tag, testing::MatchesRegex("OSD_MENU_InitSdkRes\\[[0-9]+\\] "));
+    EXPECT_THAT(platform().log.at(0), testing::MatchesRegex("OSD_MENU_InitSdkRes\\[[0-9]+\\] "));
     EXPECT_EQ(enMenuStyle, 2u);
     EXPECT_EQ(gstMenuMgr.pfnBusinessFunc, business);
     EXPECT_EQ(gstMenuMgr.pfnGetDataZoneParent, dataZoneParent);
@@ -66,7 +57,7 @@ TEST_F(StartTest, CanvasFollowsTheConfiguration)
         ASSERT_EQ(init({0, pixels, big, {0.05f, 0.005f, 0.3409f, 0.7f}, false}), 0);
         EXPECT_EQ(linesOf({"canvas"}).back(), std::string("canvas ") + surface);
         EXPECT_EQ(gstMenuMgr.f32Scale, big == 1 ? 1.5f : 1.0f);
-        const tagOSD_MENU_CANVAS_S& seen = platform().canvasAtCreate;
+        const tagOSD_MENU_CANVAS_S& seen = gstMenuMgr.stCanvas;
         EXPECT_EQ(text(seen.stMenuRect) + text(gstMenuMgr.stPopRect) + text(gstMenuMgr.stPopMsgRect), rects);
         EXPECT_EQ(text(seen.stBaseRect), big == 1 ? "0 0 3840 2160; " : "0 0 1920 1080; ");
         EXPECT_EQ(seen.enPixFmt, pixels);
@@ -105,7 +96,7 @@ TEST_F(StartTest, SenselessConfigurationDoesNoHarm)
                                                         {{1e30f, 1e30f, 0.5f, 0.5f}, 0}};
     for (const auto& [place, result] : cases) {
         EXPECT_EQ(init({0, 2, 0, place, false}), result) << place.f32X << " " << place.f32W;
-        open("p", "<P Layout='vertical_align'><I ItemIndex='Gain' Ctx='NAME' Attr='CONST_TXT'/></P>");
+        openPage("<I ItemIndex='Gain' Attr='CONST_TXT'/>");
         EXPECT_EQ(OSD_MENU_RenderCanvas(), result) << place.f32X << " " << place.f32W;
         EXPECT_EQ(osdMenuReleaseSinglePage(), 0);
     }

@@ -16,13 +16,9 @@ using fake::calls;
 using fake::format;
 using fake::record;
 
-#define REAL(Name) \
-    [] { \
-        static const auto real = reinterpret_cast<decltype(&Name)>(dlsym(RTLD_NEXT, #Name)); \
-        return real; \
-    }()
+#define REAL(Name) reinterpret_cast<decltype(&Name)>(dlsym(RTLD_NEXT, #Name))
 #define INTERCEPT(Name, line, ...) intercept(#Name, line, -1, [&] { return REAL(Name)(__VA_ARGS__); })
-#define CREATE(Name, line, description, ...) create(#Name, line, description, [&] { return REAL(Name)(__VA_ARGS__); })
+#define CREATE(Name, line, surface, ...) create(#Name, line, surface, [&] { return REAL(Name)(__VA_ARGS__); })
 
 namespace {
 
@@ -49,13 +45,12 @@ Result intercept(const char* name, const std::string& line, Result failure, Real
     return result;
 }
 
-// The same for a new surface.
+// The same for a new surface, which gets a description.
 template <typename Real>
 SDL_Surface* create(const char* name, const std::string& line, const std::string& description, Real real)
 {
-    const bool named = seen();
     SDL_Surface* surface = intercept<SDL_Surface*>(name, line, nullptr, real);
-    if (named && surface != nullptr) {
+    if (seen() && surface != nullptr) {
         calls().surfaces[surface] = description;
     }
     return surface;
@@ -79,10 +74,8 @@ std::string nameOf(const TTF_Font* font)
 
 std::string nameOf(SDL_Color c)
 {
-    static const std::map<std::string, std::string> names = {
-        {"ffffffff", "white"}, {"ffbfbfbf", "grey"}, {"ffffcd25", "amber"}};
     const std::string hex = format("%02x%02x%02x%02x", c.a, c.r, c.g, c.b);
-    return names.count(hex) != 0 ? names.at(hex) : hex;
+    return hex == "ffffffff" ? "white" : hex == "ffbfbfbf" ? "grey" : hex == "ffffcd25" ? "amber" : hex;
 }
 
 SDL_Surface* filled(int w, int h, SDL_Color c)
@@ -140,10 +133,7 @@ int SDL_Init(Uint32 flags)
 void SDL_Quit() { record("SDL_Quit"); }
 int IMG_Init(int flags) { return INTERCEPT(IMG_Init, format("IMG_Init %d", flags), flags); }
 void IMG_Quit() { record("IMG_Quit"); }
-int TTF_Init()
-{
-    return intercept("TTF_Init", "TTF_Init", -1, [] { return REAL(TTF_Init)(); });
-}
+int TTF_Init() { return intercept("TTF_Init", "TTF_Init", -1, REAL(TTF_Init)); }
 
 TTF_Font* TTF_OpenFontRW(SDL_RWops* source, int freeSource, int size)
 {

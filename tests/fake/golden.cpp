@@ -21,8 +21,7 @@ int distance(uint32_t one, uint32_t other)
 {
     int farthest = 0;
     for (const int shift : {0, 8, 16, 24}) {
-        const auto channel = [shift](uint32_t pixel) { return static_cast<int>(pixel >> shift & 0xFF); };
-        farthest = std::max(farthest, std::abs(channel(one) - channel(other)));
+        farthest = std::max(farthest, std::abs(int(one >> shift & 0xFF) - int(other >> shift & 0xFF)));
     }
     return farthest;
 }
@@ -35,12 +34,10 @@ std::string difference(SDL_Surface* actual, SDL_Surface* expected)
         return format("%dx%d instead of %dx%d", actual->w, actual->h, expected->w, expected->h);
     }
     for (int at = 0; at < actual->w * actual->h; at++) {
-        const int x = at % actual->w;
-        const int y = at / actual->w;
-        const uint32_t pixel = pixelAt(actual, x, y);
-        const uint32_t wanted = pixelAt(expected, x, y);
+        const uint32_t pixel = pixelAt(actual, at % actual->w, at / actual->w);
+        const uint32_t wanted = pixelAt(expected, at % actual->w, at / actual->w);
         if (distance(pixel, wanted) > allowed) {
-            return format("pixel %d,%d is %08x instead of %08x", x, y, pixel, wanted);
+            return format("pixel %d,%d is %08x instead of %08x", at % actual->w, at / actual->w, pixel, wanted);
         }
     }
     return "";

@@ -51,9 +51,7 @@ int fetchText(const std::string& key, tagCFG_VALUE_TXT_S* out)
 {
     tagCFG_VALUE_TXT_S garbage;
     memset(&garbage, 'x', sizeof garbage);
-    for (size_t at = 1; at < 200; at += 2) {
-        garbage.acList[at] = ':'; // more pieces than an item has options, then one that never ends
-    }
+    std::fill_n(garbage.acList, 100, ':'); // more pieces than an item has options
     return fetch("text", platform().texts, key, garbage, out);
 }
 
@@ -99,7 +97,6 @@ void setNumber(const std::string& key, int min, int max, int step, int cur)
 
 int business(tagITEM_NODE_S* item)
 {
-    record(std::string("business ") + item->acItemIndex);
     if (platform().host) {
         platform().host(item);
     }
@@ -108,6 +105,7 @@ int business(tagITEM_NODE_S* item)
 
 const char* dataZoneParent(const char* zone)
 {
+    record(std::string("zone ") + zone);
     const auto it = platform().parents.find(zone);
     return it == platform().parents.end() ? nullptr : it->second.c_str();
 }
@@ -183,7 +181,7 @@ void UTIL_LOG_Print(int level, char* tag, const char* pattern, ...)
     va_start(arguments, pattern);
     (void)vsnprintf(text, sizeof text, pattern, arguments);
     va_end(arguments);
-    platform().log.push_back({tag, text});
+    platform().log.emplace_back(tag);
     record(format("log %d %s", level, text));
 }
 
@@ -218,8 +216,7 @@ int MPP_FreeMem(void* out)
 
 int MPP_MENU_CreateSdkResource(tagOSD_MENU_CANVAS_S* canvas)
 {
-    record("create resource");
-    platform().canvasAtCreate = *canvas;
+    record(format("create resource %dx%d", canvas->stMenuRect.w, canvas->stMenuRect.h));
     return fails("create") ? -1 : 0;
 }
 

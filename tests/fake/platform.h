@@ -19,11 +19,6 @@ struct Push {
     std::vector<unsigned char> pixels;
 };
 
-struct Log {
-    std::string tag;
-    std::string text;
-};
-
 struct Settings {
     std::map<std::string, tagCFG_VALUE_TXT_S> texts;   // by "key" or "parent/key"
     std::map<std::string, tagCFG_VALUE_INT_S> numbers; // the same
@@ -42,12 +37,11 @@ struct Platform : Settings {
     std::function<void(OSD_BOOL)> pushed;                  // runs inside each push to all channels
     bool garbage = false;                                  // unterminated texts and wild numbers everywhere
     int (*update)(OSD_BOOL, OSD_ATTACH_INFO_S*) = nullptr; // what MPP_MENU_SetMenuCb got
-    tagOSD_MENU_CANVAS_S canvasAtCreate = {};
     std::map<void*, std::pair<std::string, std::vector<unsigned char>>> blocks; // media memory by address: name, bytes
     std::vector<Push> pushes;
-    std::vector<Log> log;
-    int documents = 0; // alive
-    int damaged = 0;   // blocks written past their end, and releases of none
+    std::vector<std::string> log; // its tags
+    int documents = 0;            // alive
+    int damaged = 0;              // blocks written past their end, and releases of none
 };
 
 Platform& platform();

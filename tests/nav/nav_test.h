@@ -112,13 +112,9 @@ protected:
         while (gstPageMgr.s32PageCnt > 0) {
             (void)osdMenuReleaseSinglePage();
         }
-        (void)printed([&] {
-            for (size_t at = 0, end = 0; path != "closed" && at < path.size(); at = end + 3) {
-                end = std::min(path.find(" / ", at), path.size());
-                std::string name = path.substr(at, end - at);
-                EXPECT_EQ(OSD_MENU_ParseXml(name.data(), &gstPageMgr.astPage[gstPageMgr.s32PageCnt++]), 0) << name;
-            }
-        });
+        std::istringstream in(path == "closed" ? "" : replaced(path, " / ", " "));
+        (void)printed(
+            [&] { std::for_each(std::istream_iterator<std::string>(in), {}, [](auto& name) { open(name); }); });
     }
 
     // Presses keys, and tells the calls of the last one.

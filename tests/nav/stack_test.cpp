@@ -12,7 +12,6 @@ TEST_F(StackTest, MenuKeysByDepth)
         menu     | reads main     | main: > More; Gain Auto
         open     | reads main     | main: > More; Gain Auto
         advanced | reads advanced | advanced: > Gain Auto
-        close    | hides the menu |
         main
         open               | no redraw      | > More
         menu               | hides the menu | closed
@@ -21,7 +20,6 @@ TEST_F(StackTest, MenuKeysByDepth)
         then return        | > More; Gain Low
         third
         home menu        | hides the menu | closed
-        home up advanced | reads advanced | advanced: > Gain Auto
         main / third
         home up           | > Ip [2]92.168.001.005, was 192.168.1.5
         then right menu   | > Ip 192.168.1.5
