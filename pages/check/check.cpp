@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <tuple>
 
+#include "pages/measure/measure.h"
 #include "pages/menu/menu.h"
 
 namespace pages {
@@ -28,6 +29,14 @@ public:
         }
     }
 
+    void run_measure(const CheckOptions& options)
+    {
+        if (options.measure) {
+            const std::vector<Finding> found = measure(folder_, {options.measured_pages, {}}).findings;
+            findings_.insert(findings_.end(), found.begin(), found.end());
+        }
+    }
+
     std::vector<Finding> take()
     {
         std::sort(findings_.begin(), findings_.end(),
@@ -44,10 +53,11 @@ private:
 
 } // namespace
 
-CheckResult check(const ResourceFolder& folder, const CheckOptions& /*options*/)
+CheckResult check(const ResourceFolder& folder, const CheckOptions& options)
 {
     Check checking(folder);
     checking.run_rules();
+    checking.run_measure(options);
     return {checking.take(), {}};
 }
 
