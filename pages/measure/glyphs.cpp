@@ -7,6 +7,8 @@
 #include <map>
 #include <memory>
 
+#include "pages/measure/letters.h"
+
 namespace pages {
 namespace {
 
@@ -22,29 +24,21 @@ struct Font {
 struct Use {
     const Text* first; ///< text that has the character
     std::string letter;
-    int texts = 0;
+    int times = 0;
 };
 
 using Uses = std::map<char32_t, Use>;
 
-/// The characters of the texts. What isn't UTF-8 was refused when the file was read.
 Uses uses_of(const Texts& texts)
 {
     Uses uses;
     for (const auto& [key, text] : texts) {
-        const std::string& bytes = text.text;
-        for (std::size_t i = 0; i < bytes.size();) {
-            const auto lead = static_cast<unsigned char>(bytes[i]);
-            const std::size_t length = lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
-            char32_t code = length == 1 ? lead : lead & (0xFFU >> (length + 1));
-            for (std::size_t j = 1; j < length && i + j < bytes.size(); ++j) {
-                code = code << 6 | (static_cast<unsigned char>(bytes[i + j]) & 0x3FU);
-            }
-            Use& use = uses.try_emplace(code, Use{&text, bytes.substr(i, length)}).first->second;
-            use.first = use.first->place.line > text.place.line ? &text : use.first;
-            ++use.texts;
-            i += length;
-        }
+        const Text& here = text;
+        for_each_letter(text.text, [&](char32_t code, std::string_view bytes) {
+            Use& use = uses.try_emplace(code, Use{&here, std::string(bytes)}).first->second;
+            use.first = use.first->place.line > here.place.line ? &here : use.first;
+            ++use.times;
+        });
     }
     return uses;
 }
@@ -68,7 +62,7 @@ std::vector<Finding> missing_glyphs(const ResourceFolder& folder)
             if (!lacking.empty()) {
                 std::array<char, 16> number{};
                 (void)std::snprintf(number.data(), number.size(), "U+%04X", static_cast<unsigned>(code));
-                const std::string times = use.texts == 1 ? "" : ", which is used " + std::to_string(use.texts) + " times";
+                const std::string times = use.times == 1 ? "" : ", which is used " + std::to_string(use.times) + " times";
                 findings.push_back({{"lang/" + language + ".json", use.first->place.line, use.first->place.column},
                                     Severity::Error, "missing-glyph",
                                     lacking + ": no picture of '" + use.letter + "' (" + number.data() + ")" + times,

@@ -24,6 +24,11 @@ std::string list_of(const std::set<std::string>& some, std::size_t all)
     return words;
 }
 
+bool is_below(const ShownText& text, const Shown& shown)
+{
+    return text.node != nullptr && bottom_of(shown.marks[text.mark].rect) > shown.foot;
+}
+
 } // namespace
 
 const char* name_of(Role role)
@@ -73,10 +78,10 @@ void Judge::take_foot(const PageFile& page, const View& view, const Shown& shown
     const ShownText* first = nullptr;
     int lowest = 0;
     for (const ShownText& text : shown.texts) {
-        if (text.node != nullptr && bottom_of(text.core) > shown.foot) {
+        if (is_below(text, shown)) {
             rows.insert(text.node);
             first = first == nullptr ? &text : first;
-            lowest = std::max(lowest, bottom_of(text.core));
+            lowest = std::max(lowest, bottom_of(shown.marks[text.mark].rect));
         }
     }
     if (first != nullptr) {
@@ -93,7 +98,7 @@ void Judge::take_foot(const PageFile& page, const View& view, const Shown& shown
 void Judge::take_overlaps(const PageFile& page, const View& view, const Shown& shown)
 {
     for (const ShownText& text : shown.texts) {
-        if (text.node != nullptr && bottom_of(text.core) > shown.foot) {
+        if (is_below(text, shown)) {
             continue; // it has been told of
         }
         for (std::size_t i = 0; i < shown.marks.size(); ++i) {
@@ -104,7 +109,7 @@ void Judge::take_overlaps(const PageFile& page, const View& view, const Shown& s
         }
         for (const ShownText* other = &text + 1; other != shown.texts.data() + shown.texts.size(); ++other) {
             if ((other->node != text.node || text.node == nullptr) && overlap(text.core, other->core) &&
-                bottom_of(other->core) <= shown.foot) {
+                !is_below(*other, shown)) {
                 take_overlap(page, view, shown, text, other->mark);
             }
         }

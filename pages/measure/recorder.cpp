@@ -1,8 +1,9 @@
 #include "pages/measure/recorder.h"
 
+#include <algorithm>
 #include <stdexcept>
 
-#include "osd_menu.h"
+#include "pages/measure/letters.h"
 #include "pages/measure/real_calls.h"
 #include "pages/menu/camera.h"
 
@@ -30,11 +31,27 @@ TextSizes::Size TextSizes::of(const std::string& file, int font_size, const char
             throw std::runtime_error(file + " in size " + std::to_string(font_size) + ": " + TTF_GetError());
         }
     }
-    const auto [entry, added] = sizes_.try_emplace({font.get(), text}, Size{0, 0});
+    const auto [entry, added] = sizes_.try_emplace({font.get(), text}, Size{0, 0, 0, 0});
     if (added) {
-        (void)real::TTF_SizeUTF8(font.get(), text, &entry->second.w, &entry->second.h); // 0 where it can't be measured
+        entry->second = measure(font.get(), text);
     }
     return entry->second;
+}
+
+TextSizes::Size TextSizes::measure(TTF_Font* font, const char* text)
+{
+    Size size{0, 0, 0, 0};
+    (void)real::TTF_SizeUTF8(font, text, &size.w, &size.h); // 0 where it can't be measured
+    size.top = size.h;
+    for_each_letter(text, [&](char32_t letter, std::string_view) {
+        int lowest = 0;
+        int highest = 0;
+        if (TTF_GlyphMetrics32(font, letter, nullptr, nullptr, &lowest, &highest, nullptr) == 0 && highest > lowest) {
+            size.top = std::min(size.top, TTF_FontAscent(font) - highest);
+            size.bottom = std::max(size.bottom, TTF_FontAscent(font) - lowest);
+        }
+    });
+    return size;
 }
 
 Recorder::Recorder() = default;
@@ -58,10 +75,15 @@ SDL_Surface* Recorder::blank(int w, int h, std::uint32_t format)
     return SDL_CreateRGBSurfaceWithFormatFrom(&no_pixels, w, h, SDL_BITSPERPIXEL(format), w * 4, format);
 }
 
+TextSizes::Size Recorder::size(TTF_Font* font, const char* words)
+{
+    const real::FontUse& use = real::use_of(font);
+    return sizes_.of(use.file, use.size, words);
+}
+
 int Recorder::size(TTF_Font* font, const char* words, int* w, int* h)
 {
-    const real::FontUse use = real::use_of(font);
-    const TextSizes::Size size = sizes_.of(use.file, use.size, words);
+    const TextSizes::Size size = this->size(font, words);
     if (w != nullptr) {
         *w = size.w;
     }
@@ -73,13 +95,14 @@ int Recorder::size(TTF_Font* font, const char* words, int* w, int* h)
 
 SDL_Surface* Recorder::text(TTF_Font* font, const char* words)
 {
-    SDL_Rect rect{};
-    (void)size(font, words, &rect.w, &rect.h);
-    if (rect.w == 0) {
+    const TextSizes::Size size = this->size(font, words);
+    if (size.w == 0) {
         return nullptr; // as the real one does
     }
+    const SDL_Rect rect{0, 0, size.w, size.h};
+    const SDL_Rect ink{0, size.top, size.w, std::max(0, size.bottom - size.top)};
     SDL_Surface* surface = blank(rect.w, rect.h, SDL_PIXELFORMAT_ARGB8888);
-    sheets_[surface] = {{MarkKind::Text, words, words, rect, rect}};
+    sheets_[surface] = {{MarkKind::Text, words, words, rect, ink, rect}};
     return surface;
 }
 
@@ -87,7 +110,7 @@ SDL_Surface* Recorder::picture(const SDL_Surface* source, int w, int h)
 {
     SDL_Surface* surface = blank(w, h, SDL_PIXELFORMAT_ARGB8888);
     const SDL_Rect rect{0, 0, w, h};
-    sheets_[surface] = {{MarkKind::Picture, static_cast<const char*>(source->userdata), nullptr, rect, rect}};
+    sheets_[surface] = {{MarkKind::Picture, static_cast<const char*>(source->userdata), nullptr, rect, rect, rect}};
     return surface;
 }
 
@@ -106,6 +129,7 @@ void Recorder::blit(const SDL_Surface* source, const SDL_Surface* target, SDL_Re
     const bool is_widget = marks.size() > 1;
     for (Mark mark : marks) {
         mark.rect = moved(mark.rect, whole);
+        mark.ink = moved(mark.ink, whole);
         mark.seen = cut(moved(mark.seen, whole), bounds);
         mark.frame = is_widget ? whole : mark.frame;
         sheets_[target].push_back(mark);
@@ -116,7 +140,7 @@ void Recorder::blit(const SDL_Surface* source, const SDL_Surface* target, SDL_Re
 void Recorder::fill(const SDL_Surface* target, const SDL_Rect& place)
 {
     const SDL_Rect bounds{0, 0, target->w, target->h};
-    sheets_[target].push_back({MarkKind::Fill, "", nullptr, place, cut(place, bounds)});
+    sheets_[target].push_back({MarkKind::Fill, "", nullptr, place, place, cut(place, bounds)});
 }
 
 } // namespace pages

@@ -20,6 +20,7 @@ struct Mark {
     std::string name;         ///< the text, or the picture's name
     const char* source;       ///< where the text stood in memory, which tells whose it is
     SDL_Rect rect;            ///< on the menu, whole
+    SDL_Rect ink;             ///< what letters fill of it; the whole of anything else
     SDL_Rect seen;            ///< what is left of it where it was cut on the way; no width for nothing
     SDL_Rect frame{0, 0, 0, 0}; ///< of the widget that it is part of; no width without one
 };
@@ -34,10 +35,14 @@ public:
     struct Size {
         int w;
         int h;
+        int top; ///< where the highest letter begins
+        int bottom; ///< and the lowest ends
     };
     Size of(const std::string& file, int font_size, const char* text);
 
 private:
+    static Size measure(TTF_Font* font, const char* text);
+
     struct Close {
         void operator()(TTF_Font* font) const;
     };
@@ -58,6 +63,7 @@ public:
 
     /// The library's calls while it draws.
     SDL_Surface* text(TTF_Font* font, const char* words);
+    TextSizes::Size size(TTF_Font* font, const char* words);
     int size(TTF_Font* font, const char* words, int* w, int* h);
     SDL_Surface* blank(int w, int h, std::uint32_t format);
     SDL_Surface* picture(const SDL_Surface* source, int w, int h);

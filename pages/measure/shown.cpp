@@ -173,7 +173,7 @@ private:
 
     SDL_Rect core_of(const ShownText& text) const
     {
-        SDL_Rect core = mark_of(text).rect;
+        SDL_Rect core = mark_of(text).ink;
         const int over = core.w - text.room;
         const bool centred = text.role == Role::Caption || is_popup(page_) ||
                              (text.node != nullptr && text.node->item->enItemPos == ITEM_POS_CENTER);

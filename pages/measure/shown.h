@@ -17,7 +17,7 @@ struct ShownText {
     std::string key;
     const Element* element;
     int room;      ///< pixels that it may be wide
-    SDL_Rect core; ///< its place, cut to that room
+    SDL_Rect core; ///< what its letters fill, cut to that room
 };
 
 struct Shown {
