@@ -23,7 +23,7 @@ SEES = {  # folder: what it includes beside itself
     "simulator": ["include", "platform", "pages/data", "pages/check", "pages"],
     "tools": ["pages/data"],
     "tests": ["include", "platform", "pages/data", "pages/menu", "pages/check", "pages/measure", "pages", "simulator"],
-    "bench": ["include", "platform"],
+    "bench": ["include", "platform", "pages/data", "pages/check"],
 }
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.M)
 

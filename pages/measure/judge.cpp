@@ -174,22 +174,47 @@ std::vector<TextRoom> Judge::rooms() const
     return rooms;
 }
 
+std::map<std::string, Judge::Room> Judge::cuts() const
+{
+    std::map<std::string, Room> cuts;
+    for (const auto& [place, room] : rooms_) {
+        const TextRoom& worst = room.worst;
+        if (worst.left() >= 0) {
+            continue;
+        }
+        const std::string text = worst.key.empty() ? worst.text : worst.view.language + '\n' + worst.key;
+        const auto [entry, added] = cuts.try_emplace(worst.page + '\n' + name_of(worst.role) + '\n' + text, room);
+        Room& known = entry->second;
+        known.too_narrow.insert(room.too_narrow.begin(), room.too_narrow.end());
+        const auto order = [](const TextRoom& one) {
+            return std::make_tuple(one.left(), one.element->place.line, one.element->place.column);
+        };
+        if (order(worst) < order(known.worst)) {
+            known.worst = worst;
+        }
+    }
+    return cuts;
+}
+
 std::vector<Finding> Judge::findings() const
 {
     std::vector<Finding> findings;
-    for (const auto& [place, room] : rooms_) {
-        const TextRoom& worst = room.worst;
-        if (worst.left() < 0) {
-            findings.push_back({worst.element->place, Severity::Error, cut_rule,
-                                "the " + std::string(name_of(worst.role)) + " " + quoted(worst.text) + " is " +
-                                    pixels(-worst.left()) + " too wide" + words_of(room.too_narrow),
-                                "at most " + std::to_string(worst.room) + " at " + (worst.view.uhd ? "4k" : "1080p")});
-        }
+    for (const auto& [cause, cut] : cuts()) {
+        const TextRoom& worst = cut.worst;
+        findings.push_back({worst.element->place, Severity::Error, cut_rule,
+                            "the " + std::string(name_of(worst.role)) + " " + quoted(worst.text) + " is " +
+                                pixels(-worst.left()) + " too wide" + words_of(cut.too_narrow),
+                            "at most " + std::to_string(worst.room) + " at " + (worst.view.uhd ? "4k" : "1080p")});
     }
     for (const auto& [cause, fault] : faults_) {
         findings.push_back({fault.element->place, Severity::Error, fault.rule,
                             fault.what + ", by " + pixels(fault.pixels) + words_of(fault.looks), ""});
     }
+    const auto order = [](const Finding& finding) {
+        return std::tie(finding.place.file, finding.place.line, finding.place.column, finding.what);
+    };
+    std::sort(findings.begin(), findings.end(),
+              [&](const Finding& a, const Finding& b) { return order(a) < order(b); });
     return findings;
 }
 

@@ -45,6 +45,8 @@ private:
     void take_overlaps(const PageFile& page, const View& view, const Shown& shown);
     void take_overlap(const PageFile& page, const View& view, const Shown& shown, const ShownText& text,
                       std::size_t other);
+    /// Texts that are too wide, by cause: a text that stands below several options is one.
+    std::map<std::string, Room> cuts() const;
     void add(const std::string& cause, const View& view, Fault fault);
     std::string words_of(const Looks& looks) const;
 

@@ -16,6 +16,22 @@ SDL_Rect cut(const SDL_Rect& rect, const SDL_Rect& bounds)
     return SDL_IntersectRect(&rect, &bounds, &left) == SDL_TRUE ? left : SDL_Rect{rect.x, rect.y, 0, 0};
 }
 
+/// Sends the library's calls to a recorder for as long as it lives.
+struct Listening {
+    explicit Listening(Recorder* recorder)
+    {
+        real::set_recorder(recorder);
+        camera().set_blank_pictures(true);
+    }
+    ~Listening()
+    {
+        camera().set_blank_pictures(false);
+        real::set_recorder(nullptr);
+    }
+    Listening(const Listening&) = delete;
+    Listening& operator=(const Listening&) = delete;
+};
+
 SDL_Rect moved(const SDL_Rect& rect, const SDL_Rect& by) { return {rect.x + by.x, rect.y + by.y, rect.w, rect.h}; }
 
 } // namespace
@@ -61,11 +77,8 @@ Recorder::~Recorder() { real::close_kept_fonts(); }
 std::vector<Mark> Recorder::draw(Menu& menu)
 {
     sheets_.clear();
-    real::set_recorder(this);
-    camera().set_blank_pictures(true);
+    const Listening listening(this);
     const SDL_Surface* surface = menu.draw();
-    camera().set_blank_pictures(false);
-    real::set_recorder(nullptr);
     return std::move(sheets_[surface]);
 }
 
