@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <iostream>
+#include <memory>
 
 #include "pages/command/commands.h"
 #include "pages/measure/report.h"
@@ -10,7 +11,7 @@
 namespace pages {
 namespace {
 
-struct Options {
+struct MeasureCommand {
     std::string folder;
     std::string fonts;
     MeasureOptions measure;
@@ -33,7 +34,7 @@ void refuse_unknown(const std::set<std::string>& wanted, const Map& known, const
     }
 }
 
-int run(const Options& options)
+int run_measure(const MeasureCommand& options)
 {
     const ResourceFolder folder = read_resource_folder(options.folder, options.fonts);
     refuse_unknown(options.measure.pages, folder.pages, "page");
@@ -54,14 +55,14 @@ int run(const Options& options)
 
 void add_measure_command(CLI::App& app, int& status)
 {
-    auto options = std::make_shared<Options>();
+    auto options = std::make_shared<MeasureCommand>();
     CLI::App* command = app.add_subcommand("measure", "Tell what doesn't fit, and how many pixels each text has left");
     command->add_option("FOLDER", options->folder, "folder with pages/, lang/, pic/ and settings.json")->required();
     command->add_option("--fonts", options->fonts, "folder with font.ttf, bold_font.ttf and tcfont.ttf");
     command->add_option("--page", options->measure.pages, "only this page; may be given again");
     command->add_option("--language", options->measure.languages, "only this language; may be given again");
     command->add_flag("--json", options->json, "as JSON");
-    command->callback([options, &status] { status = run(*options); });
+    command->callback([options, &status] { status = run_measure(*options); });
 }
 
 } // namespace pages

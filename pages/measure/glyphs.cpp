@@ -62,9 +62,11 @@ std::vector<Finding> missing_glyphs(const ResourceFolder& folder)
             if (!lacking.empty()) {
                 std::array<char, 16> number{};
                 (void)std::snprintf(number.data(), number.size(), "U+%04X", static_cast<unsigned>(code));
-                const std::string times = use.times == 1 ? "" : ", which is used " + std::to_string(use.times) + " times";
+                const std::string times =
+                    use.times == 1 ? "" : ", which is used " + std::to_string(use.times) + " times";
                 findings.push_back({{"lang/" + language + ".json", use.first->place.line, use.first->place.column},
-                                    Severity::Error, "missing-glyph",
+                                    Severity::Error,
+                                    "missing-glyph",
                                     lacking + ": no picture of '" + use.letter + "' (" + number.data() + ")" + times,
                                     "another character"});
             }

@@ -61,7 +61,8 @@ void Judge::take_rooms(const PageFile& page, const View& view, const Shown& show
     for (const ShownText& text : shown.texts) {
         const Mark& mark = shown.marks[text.mark];
         const TextRoom room{text.key, mark.name, page.name, text.element, text.role, view, mark.rect.w, text.room};
-        const auto [entry, added] = rooms_.try_emplace({text.element, text.role, text.key, view.language}, Room{room, {}});
+        const auto [entry, added] =
+            rooms_.try_emplace({text.element, text.role, text.key, view.language}, Room{room, {}});
         Room& known = entry->second;
         if (!added && room.left() < known.worst.left()) {
             known.worst = room;
@@ -88,10 +89,12 @@ void Judge::take_foot(const PageFile& page, const View& view, const Shown& shown
         const bool covered = shown.foot < bottom_of(shown.area);
         const std::string where = covered ? "into the hints or the message line" : "below the edge";
         add(page.name, view,
-            {foot_rule, first->element,
+            {foot_rule,
+             first->element,
              std::to_string(rows.size()) + (rows.size() == 1 ? " row reaches " : " rows reach ") + where + ", from " +
                  quoted(shown.marks[first->mark].name) + " on",
-             lowest - shown.foot, {}});
+             lowest - shown.foot,
+             {}});
     }
 }
 
@@ -123,11 +126,13 @@ void Judge::take_overlap(const PageFile& page, const View& view, const Shown& sh
     const SDL_Rect& rect = mark.rect;
     const int deep = std::min(bottom_of(text.core), bottom_of(rect)) - std::max(text.core.y, rect.y);
     const std::string name = std::string(name_of(text.role)) + " " + quoted(shown.marks[text.mark].name);
-    const std::string what = mark.kind == MarkKind::Fill      ? "a line strikes through the " + name
-                             : mark.kind == MarkKind::Picture ? "the " + name + " lies over the picture " + quoted(mark.name)
-                                                              : "the " + name + " lies over " + quoted(mark.name);
+    const std::string what = mark.kind == MarkKind::Fill ? "a line strikes through the " + name
+                             : mark.kind == MarkKind::Picture
+                                 ? "the " + name + " lies over the picture " + quoted(mark.name)
+                                 : "the " + name + " lies over " + quoted(mark.name);
     const std::string against = mark.kind == MarkKind::Text ? "" : mark.name;
-    add(page.name + '\n' + to_string(text.element->place) + '\n' + std::to_string(static_cast<int>(mark.kind)) + against,
+    add(page.name + '\n' + to_string(text.element->place) + '\n' + std::to_string(static_cast<int>(mark.kind)) +
+            against,
         view, {overlap_rule, text.element, what, deep, {}});
 }
 

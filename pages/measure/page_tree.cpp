@@ -16,8 +16,8 @@ Nodes nodes_of(list_head& items, const Element& above, Node* parent, int option)
             break;
         }
         auto node = std::make_unique<Node>(Node{item, element->get(), parent, option, {}, {}, item->acValue[0]});
-        const auto lists = std::min<std::size_t>(static_cast<std::size_t>(osdItemListCnt(item)),
-                                                 node->element->children.size());
+        const auto lists =
+            std::min<std::size_t>(static_cast<std::size_t>(osdItemListCnt(item)), node->element->children.size());
         for (std::size_t i = 0; i < lists; ++i) {
             node->options.push_back(
                 nodes_of(item->astSubList[i], *node->element->children[i], node.get(), static_cast<int>(i)));

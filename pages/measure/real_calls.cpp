@@ -127,7 +127,8 @@ void __wrap_SDL_FreeSurface(SDL_Surface* surface)
 
 SDL_Surface* __wrap_SDL_ConvertSurfaceFormat(SDL_Surface* source, Uint32 format, Uint32 flags)
 {
-    return recorder != nullptr ? recorder->copy(source, format) : __real_SDL_ConvertSurfaceFormat(source, format, flags);
+    return recorder != nullptr ? recorder->copy(source, format)
+                               : __real_SDL_ConvertSurfaceFormat(source, format, flags);
 }
 
 SDL_Surface* __wrap_SDL_CreateRGBSurfaceWithFormat(Uint32 flags, int w, int h, int depth, Uint32 format)
@@ -138,9 +139,9 @@ SDL_Surface* __wrap_SDL_CreateRGBSurfaceWithFormat(Uint32 flags, int w, int h, i
 
 SDL_Surface* __wrap_rotozoomSurfaceXY(SDL_Surface* source, double angle, double zoom_x, double zoom_y, int smooth)
 {
-    return recorder != nullptr ? recorder->picture(source, static_cast<int>(source->w * zoom_x),
-                                                   static_cast<int>(source->h * zoom_y))
-                               : __real_rotozoomSurfaceXY(source, angle, zoom_x, zoom_y, smooth);
+    return recorder != nullptr
+               ? recorder->picture(source, static_cast<int>(source->w * zoom_x), static_cast<int>(source->h * zoom_y))
+               : __real_rotozoomSurfaceXY(source, angle, zoom_x, zoom_y, smooth);
 }
 
 // NOLINTEND(bugprone-reserved-identifier)

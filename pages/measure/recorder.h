@@ -17,11 +17,11 @@ enum class MarkKind { Text, Picture, Fill };
 
 struct Mark {
     MarkKind kind;
-    std::string name;         ///< the text, or the picture's name
-    const char* source;       ///< where the text stood in memory, which tells whose it is
-    SDL_Rect rect;            ///< on the menu, whole
-    SDL_Rect ink;             ///< what letters fill of it; the whole of anything else
-    SDL_Rect seen;            ///< what is left of it where it was cut on the way; no width for nothing
+    std::string name;           ///< the text, or the picture's name
+    const char* source;         ///< where the text stood in memory, which tells whose it is
+    SDL_Rect rect;              ///< on the menu, whole
+    SDL_Rect ink;               ///< what letters fill of it; the whole of anything else
+    SDL_Rect seen;              ///< what is left of it where it was cut on the way; no width for nothing
     SDL_Rect frame{0, 0, 0, 0}; ///< of the widget that it is part of; no width without one
 };
 
@@ -35,7 +35,7 @@ public:
     struct Size {
         int w;
         int h;
-        int top; ///< where the highest letter begins
+        int top;    ///< where the highest letter begins
         int bottom; ///< and the lowest ends
     };
     Size of(const std::string& file, int font_size, const char* text);

@@ -122,11 +122,15 @@ private:
             return text.node == nullptr ? shown_.area.w : shown_.area.w / std::max(1, text.node->item->s32ItemCnt);
         }
         switch (text.role) {
-        case Role::Caption: return room_of_caption(*text.node);
-        case Role::Value: return room_of_value(text);
-        case Role::Label: return room_of_label(text);
+        case Role::Caption:
+            return room_of_caption(*text.node);
+        case Role::Value:
+            return room_of_value(text);
+        case Role::Label:
+            return room_of_label(text);
         case Role::Title:
-        case Role::Message: break;
+        case Role::Message:
+            break;
         }
         return right_of(shown_.area) - rect.x;
     }

@@ -21,11 +21,11 @@ struct ShownText {
 };
 
 struct Shown {
-    std::vector<Mark> marks;          ///< without background and frame
-    std::vector<const Node*> owners;  ///< of each mark; null for what belongs to no item alone
+    std::vector<Mark> marks;         ///< without background and frame
+    std::vector<const Node*> owners; ///< of each mark; null for what belongs to no item alone
     std::vector<ShownText> texts;
-    SDL_Rect area;                    ///< the menu, or the inside of a popup
-    int foot;                         ///< no row may reach below: there are hints, a message, or the menu ends
+    SDL_Rect area; ///< the menu, or the inside of a popup
+    int foot;      ///< no row may reach below: there are hints, a message, or the menu ends
 };
 
 Shown explain(const tagPAGE_NODE_S& page, const Nodes& nodes, const Element& root, std::vector<Mark> marks);
