@@ -48,20 +48,6 @@ TEST(Definitions, AreRefusedInWords)
     }
 }
 
-TEST(Store, KeepsWhatFits)
-{
-    const SettingId gain{"Image", "Gain"};
-    const std::map<SettingId, Setting> definitions = {{gain, {gain, SettingKind::Integer, {}, 0, 10, 1, "", "5"}}};
-    const TempFolder folder;
-    SettingsStore store(folder.path("settings.db"));
-    Settings settings(definitions, store);
-    settings.set(gain, "7");
-    settings.set_for_this_run(gain, "9");
-    EXPECT_EQ(settings.value(gain) + store.load_all().at(gain), "97");
-    store.write(gain, "99"); // as an older definition allowed it
-    EXPECT_EQ(Settings(definitions, store).number(gain), 5);
-}
-
 TEST(Store, LeavesForeignFilesAlone)
 {
     const std::pair<const char*, const char*> foreign[] = {
