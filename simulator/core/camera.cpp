@@ -50,8 +50,9 @@ std::map<std::string, pages::Texts> read_languages(const std::filesystem::path& 
 {
     std::map<std::string, pages::Texts> texts;
     std::vector<BadInput> mistakes;
+    std::vector<pages::Allowance> allowances;
     for (const auto& [option, language] : languages) {
-        texts[language] = pages::read_texts(folder / (language + ".json"), mistakes);
+        texts[language] = pages::read_texts(folder / (language + ".json"), mistakes, allowances);
     }
     return texts;
 }

@@ -55,7 +55,7 @@ json problems_json(const LiveReload& reload)
         problems.push_back({{"file", finding.place.file},
                             {"line", finding.place.line},
                             {"column", finding.place.column},
-                            {"severity", finding.severity == pages::Severity::Error ? "error" : "warning"},
+                            {"severity", name_of(finding.severity)},
                             {"rule", finding.rule},
                             {"reason", words_of(finding)}});
     }
