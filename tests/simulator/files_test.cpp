@@ -3,7 +3,6 @@
 #include <sqlite3.h>
 
 #include "simulator/core/settings.h"
-#include "simulator/core/translations.h"
 #include "tests/simulator/temp_folder.h"
 
 using namespace sim;
@@ -41,7 +40,9 @@ TEST(Definitions, AreRefusedInWords)
         folder.write("English.json", R"({"Title": "Bildeinstellungen: Helligkeit 1"})"); // 31 bytes
         folder.write(file, text);
         const auto load = [&] {
-            Translations(folder.path(), load_definitions(folder.path("settings.json")).languages);
+            for (const auto& [option, name] : load_definitions(folder.path("settings.json")).languages) {
+                (void)pages::load_texts(folder.path(name + ".json"));
+            }
         };
         EXPECT_THAT(load, ThrowsMessage<BadInput>(AllOf(HasSubstr(".json:"), HasSubstr(words)))) << text;
     }

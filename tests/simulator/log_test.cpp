@@ -11,7 +11,7 @@
 using namespace sim;
 using namespace testing;
 
-TEST(Log, TellsListenersAllButWhatATrapTakes)
+TEST(Log, TellsListeners)
 {
     internal::CaptureStdout();
     internal::CaptureStderr();
@@ -26,9 +26,6 @@ TEST(Log, TellsListenersAllButWhatATrapTakes)
         std::printf("[osdPageParse:144] \n\nsecond ");
         std::printf("line\nno end");
         capture.print("the one line\n");
-        const LogTrap trap;
-        log_line(LogLevel::Error, "trapped", "once");
-        EXPECT_EQ(trap.entries().front().text, "once");
     }
     log_line(LogLevel::Error, "late", "unheard");
     std::puts("behind");
@@ -38,5 +35,5 @@ TEST(Log, TellsListenersAllButWhatATrapTakes)
     EXPECT_EQ(internal::GetCapturedStdout(), "the one line\nbehind\n");
     EXPECT_THAT(internal::GetCapturedStderr(),
                 AllOf(MatchesRegex("[^ ]+ WARN other two lines\n[^ ]+ INFO listener heard it\n(.*\n)*"),
-                      EndsWith(" ERROR late unheard\n"), Not(HasSubstr("trapped"))));
+                      EndsWith(" ERROR late unheard\n")));
 }

@@ -6,7 +6,7 @@
 
 #include "osd_page.h"
 #include "simulator/core/folder_watch.h"
-#include "simulator/core/resource_check.h"
+#include "simulator/core/resources.h"
 #include "simulator/host/key_script.h"
 #include "simulator/host/live_reload.h"
 #include "simulator/host/page_stack.h"
@@ -61,9 +61,9 @@ TEST(FolderWatch, TellsWhatChanged)
 struct Reload : testing::Test {
     CameraConfig config() const
     {
-        fs::copy(OSD_RESOURCE_DIR "/menu", folder.path("pages"));
-        fs::copy(OSD_RESOURCE_DIR "/lang", folder.path("lang"));
-        fs::copy(OSD_RESOURCE_DIR "/settings.json", folder.path("settings.json"));
+        for (const char* part : {"pages", "lang", "pic", "settings.json"}) {
+            fs::copy(default_resources() / part, folder.path(part));
+        }
         return {folder.path(), folder.path("data"), false, false, true, "English", {}};
     }
     void press_keys(const std::string& keys) { KeyPlayer(parse_keys(keys), host).press_all_now(); }
@@ -71,18 +71,18 @@ struct Reload : testing::Test {
     std::string change(const std::string& file, const std::string& text)
     {
         folder.write(file, text);
-        live.reload({folder.path(file)});
-        return problem_lines();
+        return look();
     }
     std::string change(const std::string& file, const std::string& from, const std::string& to)
     {
         return change(file, replaced(folder.read(file), from, to));
     }
-    std::string problem_lines() const
+    std::string look()
     {
+        live.take(judge(folder.path()));
         std::string lines;
-        for (const Problem& problem : live.problems()) {
-            lines += problem.file + ":" + std::to_string(problem.line) + ": " + problem.reason + "\n";
+        for (const Finding& problem : live.problems()) {
+            lines += line_of(problem, "") + "\n";
         }
         return lines;
     }
@@ -100,7 +100,7 @@ struct Reload : testing::Test {
     LiveReload live{camera, pictures};
 };
 
-TEST_F(Reload, KeepsTheLastGoodFileAndNamesTheMistake)
+TEST_F(Reload, KeepsTheLastGoodFileAndTellsAllMistakes)
 {
     press_keys("menu home down down");
     const std::string cursor = selected();
@@ -108,38 +108,35 @@ TEST_F(Reload, KeepsTheLastGoodFileAndNamesTheMistake)
     const std::string page = "pages/image_page.xml";
     const std::string texts = "lang/English.json";
     const auto with_item = [](const std::string& attributes) {
-        return "<Page Layout=\"vertical_align\">\n\n<Item " + attributes + "/></Page>";
+        return "<Page Layout=\"vertical_align\">\n\n<Item " + attributes + "/>\n<Item/></Page>";
     };
-    const std::tuple<std::string, std::string, const char*> broken[] = {
-        {page, "<Page>\n<Item>\n</Page>", "2: no well formed XML: what begins here isn't closed"},
-        {page, "", "0: no well formed XML: empty document"},
-        {page, "<Page Layout=\"heap\"/>", "1: the menu refuses the page: its Layout"},
-        {page, with_item(R"(ItemIndex="Mirror" Ctx="VAL" Attr="COMMON")"),
-         "3: the menu refuses <Item ItemIndex=\"Mirror\">"},
-        {page, with_item(R"(ItemIndex="Nix" Ctx="NAME" Attr="CONST_TXT")"), "3: no text for 'Nix' in English"},
-        {page, with_item("ItemIndex=\"" + std::string(32, 'x') + "\""), "3: ItemIndex holds 32 bytes, at most 31 fit"},
-        {page,
-         "<Page Layout=\"vertical_align\">\n<Item ItemIndex=\"Mirror\" Ctx=\"NAME_VAL\" Attr=\"SUBITEM\">\n<Mode "
-         "ModeIndex=\"On\">\n<Sub/></Mode></Item></Page>",
-         "4: the menu refuses <Sub>: an attribute"},
-        {texts, "{\n\"On\": \n}", "3: syntax error"},
-        {texts, replaced(folder.read(texts), "\"Brightness\":", "\"Xrightness\":"),
-         "0: the text 'Brightness' is missing, page 'image' needs it"},
-        {"settings.json", "{\n\n\n", "4: syntax"},
+    const std::tuple<std::string, std::string, std::vector<std::string>> broken[] = {
+        {page, "<Page>\n<Item>\n</Page>", {page + ":3:3: error"}},
+        {page, with_item(R"(ItemIndex="Nix" Ctx="NAME" Attr="CONST_TXT")"), {page + ":3:.*Nix", page + ":4:.*Ctx"}},
+        {texts, "{\n\"On\": \n}", {texts + ":3:1: error: syntax error"}},
+        {texts, replaced(folder.read(texts), "\"Brightness\":", "\"Xrightness\":"), {"error: .*'Brightness'"}},
+        {"settings.json", "{\n\n\n", {"settings.json:4:1: error: syntax error"}},
+        {"settings.json",
+         replaced(folder.read("settings.json"), "\"max\": 100", "\"max\": -1"),
+         {"settings.json:.*'min' below 'max'"}},
     };
-    for (const auto& [file, text, words] : broken) {
+    for (const auto& [file, text, expected] : broken) {
         const std::string good = folder.read(file);
-        EXPECT_THAT(change(file, text), StartsWith(file + ":" + words));
+        const std::string told = change(file, text);
+        for (const std::string& words : expected) {
+            EXPECT_THAT(told, ContainsRegex(words));
+        }
         EXPECT_EQ(screen(), shown) << text;
         press_keys("return home down down"); // read again, it is still the last good one
         EXPECT_EQ(screen(), shown) << text;
-        EXPECT_EQ(LiveReload(camera, pictures).problems().empty(), file != page); // the start looks at pages
         EXPECT_EQ(change(file, good), "");
         EXPECT_EQ(selected(), cursor);
     }
     fs::remove(folder.path(page));
-    live.reload({folder.path("pages")});
-    EXPECT_THAT(problem_lines(), StartsWith(page + ":0: "));
+    EXPECT_THAT(look(), HasSubstr("'image'"));
+    fs::remove_all(folder.path("pages"));
+    EXPECT_THAT(look(), HasSubstr("pages/ is missing"));
+    EXPECT_EQ(screen(), shown);
 }
 
 TEST_F(Reload, ShowsEachGoodChangeOnceWithAllCursors)
@@ -176,17 +173,40 @@ TEST_F(Reload, ShowsEachGoodChangeOnceWithAllCursors)
     EXPECT_EQ(gstPageMgr.astPage[0].s32SelIdx, 1);
 }
 
-TEST_F(Reload, TellsWhatTheBuildWouldRefuseInFilesThatCanBeUsed)
+TEST_F(Reload, ShowsWhatCanBeUsedAndTellsItsMistakes)
 {
-    (void)change("settings.json", "\"Saturation\"", "\"Colour\"");
-    (void)change("lang/German.json", "\"On\": \"", "\"On\": \"\xF0\x9F\x98\x80");
-    live.set_findings(check_resources(folder.path(), false).value());
-    EXPECT_THAT(problem_lines(), ContainsRegex("pages/image_page.xml:[0-9]+: item 'Saturation': no setting"));
-    EXPECT_THAT(problem_lines(), ContainsRegex("German.json:0: key 'On': .*has no glyph"));
-    live.set_findings({});
-    EXPECT_EQ(problem_lines(), "");
-    (void)change("settings.json", R"({"settings": [1]})");
-    EXPECT_FALSE(check_resources(folder.path(), false)); // which says nothing of other files
+    press_keys("menu home");
+    const auto before = screen();
+    EXPECT_THAT(change("pages/image_page.xml", "<Item", "letters <Item"),
+                ContainsRegex("image_page.xml:.*: warning: "));
+    EXPECT_EQ(screen(), before);
+    EXPECT_THAT(change("pages/image_page.xml", "\"Brightness\"", "\"Contrast\""), ContainsRegex("'Contrast'"));
+    EXPECT_NE(screen(), before);
+    EXPECT_THAT(look(), HasSubstr("warning: "));
+}
+
+TEST_F(Reload, TellsWhatADrawnPageShows)
+{
+    std::mutex mutex;
+    std::condition_variable came;
+    std::vector<Finding> found;
+    Checker checker(folder.path(), [&](Verdict verdict) {
+        const std::lock_guard<std::mutex> lock(mutex);
+        found = std::move(verdict.findings);
+        came.notify_all();
+    });
+    const auto wait_for = [&](const char* file) { // empty for no finding at all
+        std::unique_lock<std::mutex> lock(mutex);
+        checker.look_again();
+        return came.wait_for(lock, std::chrono::seconds(30),
+                             [&] { return found.empty() ? *file == '\0' : found[0].place.file == file; });
+    };
+    EXPECT_TRUE(wait_for(""));
+    const std::string good = folder.read("lang/English.json");
+    folder.write("lang/English.json", "{");
+    EXPECT_TRUE(wait_for("lang/English.json"));
+    folder.write("lang/English.json", good);
+    EXPECT_TRUE(wait_for(""));
 }
 
 static Color color_of(const std::string& picture)
@@ -203,13 +223,12 @@ TEST_F(Reload, DrawsPicturesForThisCameraAloneAndKeepsTheOldOne)
     const Color staged = color_of("bar");
     EXPECT_EQ(change("pic/bar.svg", svg("#ff0000")), "");
     EXPECT_EQ(color_of("bar"), 0xFFFF0000U);
-    EXPECT_THAT(change("pic/bar.svg", "<svg>\n<"), StartsWith("pic/bar.svg:2: XML parse error"));
+    EXPECT_THAT(change("pic/bar.svg", "<svg>\n<"), StartsWith("pic/bar.svg:2:"));
     EXPECT_EQ(color_of("bar"), 0xFFFF0000U);
     folder.write("pic/late.svg", svg("#0000ff")); // while no camera looked
     const LiveReload next_start(camera, pictures);
     EXPECT_EQ(color_of("late"), 0xFF0000FFU);
-    fs::remove(folder.path("pic/bar.svg")); // and its problem with it
-    live.reload({folder.path("pic")});
-    EXPECT_EQ(problem_lines(), "");
+    fs::remove(folder.path("pic/bar.svg"));
+    EXPECT_THAT(look(), Not(HasSubstr("pic/bar.svg")));
     EXPECT_EQ(color_of("bar"), staged);
 }
