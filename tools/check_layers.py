@@ -18,10 +18,13 @@ SEES = {  # folder: what it includes beside itself
     "pages/data": ["include"],
     "pages/menu": LIBRARY + ["pages/data"],
     "pages/check": LIBRARY + ["pages/data", "pages/menu"],
-    "pages": ["pages/data", "pages/menu", "pages/check"],
+    "pages/schema": LIBRARY + ["pages/data", "pages/check"],
+    "pages/texts": LIBRARY + ["pages/data", "pages/check"],
+    "pages": ["pages/data", "pages/menu", "pages/check", "pages/schema", "pages/texts"],
     "simulator": ["include", "platform", "pages/data", "pages/check", "pages"],
     "tools": ["pages/data"],
-    "tests": ["include", "platform", "pages/data", "pages/menu", "pages/check", "pages", "simulator"],
+    "tests": ["include", "platform", "pages/data", "pages/menu", "pages/check", "pages/schema", "pages/texts", "pages",
+              "simulator"],
     "bench": ["include", "platform"],
 }
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.M)
