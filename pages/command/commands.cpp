@@ -5,6 +5,7 @@
 
 #include "pages/check/check.h"
 #include "pages/command/measure_command.h"
+#include "pages/command/other_commands.h"
 
 namespace pages {
 namespace {
@@ -58,6 +59,8 @@ void add_commands(CLI::App& app, int& status)
     check->add_flag("--rules", options->rules, "list the rules and end");
     check->callback([options, &status] { status = run_check(*options); });
     add_measure_command(app, status);
+    add_schema_command(app);
+    add_text_commands(app, status);
 }
 
 } // namespace pages

@@ -33,7 +33,7 @@ PATHS = ["channels/0/stream.mjpg", "channels/1/stream.mjpg", "channels/2/stream.
 REQUESTS = (
     lambda: ("POST", "keys", {"keys": random.choices(KEYS, k=random.choice([1, 3, 6]))}),
     lambda: ("POST", "keys", {random.choice(["press", "renew", "release"]): random.choice(KEYS)}),
-    lambda: ("POST", "language", {"language": random.choice(["English", "German", "TraditionalChinese"])}),
+    lambda: ("POST", "language", {"language": random.choice(["English", "French", "German", "TraditionalChinese"])}),
     lambda: ("POST", "menu", {"page": random.choice(PAGES).stem.removesuffix("_page")}),
     lambda: ("POST", "menu", {"style": random.randrange(3), "size": random.choice(["1080p", "1080p", "4k"])}),
     lambda: ("PUT", "settings/" + random.choice(["Brightness", "Contrast"]), {"value": random.randrange(101)}),
