@@ -89,7 +89,7 @@ std::string text_of_width(int size, int width)
 TEST(Recorder, MarksWhatIsDrawn)
 {
     const ResourceFolder folder = shipped();
-    Menu menu(folder, {"German", 1, false});
+    Menu menu(folder, View{"German", 1, false});
     Recorder recorder;
     for (const char* name : {"main", "network", "tally", "rotate", "confirm_pip", "confirm_network", "system3"}) {
         SCOPED_TRACE(name);
