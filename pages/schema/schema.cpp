@@ -45,7 +45,10 @@ private:
     std::size_t depth_ = 0;
 };
 
-std::string quoted(const char* attribute, const std::string& value) { return std::string(attribute) + "=\"" + value + "\""; }
+std::string quoted(const char* attribute, const std::string& value)
+{
+    return std::string(attribute) + "=\"" + value + "\"";
+}
 
 void write_text_type(Writer& out, const char* name, const char* least, const char* sentence)
 {

@@ -63,8 +63,8 @@ std::string with_schema_tables(const std::string& document, const std::string& f
     const std::size_t begin = document.find(begin_mark);
     const std::size_t end = document.find(end_mark, begin == document.npos ? 0 : begin);
     if (begin == document.npos || end == document.npos) {
-        throw BadInput(Place{file}, std::string("the tables have no place, expected lines ") + begin_mark + " and " +
-                                        end_mark);
+        throw BadInput(Place{file},
+                       std::string("the tables have no place, expected lines ") + begin_mark + " and " + end_mark);
     }
     return document.substr(0, begin) + begin_mark + "\n" + schema_tables() + document.substr(end);
 }

@@ -34,8 +34,8 @@ std::vector<std::string> left_to_do(const ResourceFolder& folder, const std::str
     std::string option = option_for(folder, language);
     if (option.empty()) {
         option = language.substr(0, OSD_CFG_VALUE_LEN - 1);
-        steps.push_back("in settings.json add \"" + option + "\": \"" + language + "\" to \"languages\", and \"" + option +
-                        "\" to the options of the setting \"Language\"");
+        steps.push_back("in settings.json add \"" + option + "\": \"" + language + "\" to \"languages\", and \"" +
+                        option + "\" to the options of the setting \"Language\"");
     }
     const std::string files = languages_without(folder, option);
     if (!files.empty()) {

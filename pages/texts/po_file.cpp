@@ -35,12 +35,27 @@ using File = std::unique_ptr<struct po_file, Close>;
 constexpr const char* language_field = "X-Menu-Language";
 
 /// Codes by which translators' programs know the languages.
-constexpr std::pair<const char*, const char*> codes[] = {
-    {"Arabic", "ar"},     {"Czech", "cs"},      {"Danish", "da"},     {"Dutch", "nl"},   {"Finnish", "fi"},
-    {"French", "fr"},     {"German", "de"},     {"Greek", "el"},      {"Italian", "it"}, {"Japanese", "ja"},
-    {"Korean", "ko"},     {"Norwegian", "nb"},  {"Polish", "pl"},     {"Portuguese", "pt"},
-    {"Russian", "ru"},    {"Spanish", "es"},    {"Swedish", "sv"},    {"Turkish", "tr"}, {"Ukrainian", "uk"},
-    {"SimplifiedChinese", "zh_CN"}, {"TraditionalChinese", "zh_TW"}};
+constexpr std::pair<const char*, const char*> codes[] = {{"Arabic", "ar"},
+                                                         {"Czech", "cs"},
+                                                         {"Danish", "da"},
+                                                         {"Dutch", "nl"},
+                                                         {"Finnish", "fi"},
+                                                         {"French", "fr"},
+                                                         {"German", "de"},
+                                                         {"Greek", "el"},
+                                                         {"Italian", "it"},
+                                                         {"Japanese", "ja"},
+                                                         {"Korean", "ko"},
+                                                         {"Norwegian", "nb"},
+                                                         {"Polish", "pl"},
+                                                         {"Portuguese", "pt"},
+                                                         {"Russian", "ru"},
+                                                         {"Spanish", "es"},
+                                                         {"Swedish", "sv"},
+                                                         {"Turkish", "tr"},
+                                                         {"Ukrainian", "uk"},
+                                                         {"SimplifiedChinese", "zh_CN"},
+                                                         {"TraditionalChinese", "zh_TW"}};
 
 std::string code_of(const std::string& language)
 {
@@ -157,8 +172,8 @@ bool take_header(po_message_t message, const std::string& path, PoFile& content,
     content.language = field_of(header, language_field);
     const std::string type = field_of(header, "Content-Type");
     if (type.find("charset=UTF-8") == type.npos && type.find("charset=utf-8") == type.npos) {
-        mistakes.emplace_back(Place{path}, "the header has the Content-Type '" + type +
-                                               "', expected text/plain; charset=UTF-8");
+        mistakes.emplace_back(Place{path},
+                              "the header has the Content-Type '" + type + "', expected text/plain; charset=UTF-8");
     }
     return true;
 }

@@ -12,11 +12,11 @@ namespace pages {
 struct PoEntry {
     std::string key;
     std::string english;
-    std::string translation;         ///< empty where there is none yet
-    std::string comment;             ///< for the translator, lines that end
-    std::vector<Place> uses;         ///< where the text stands in the pages
-    bool fuzzy = false;              ///< the translation may be wrong
-    Place place;                     ///< in the PO file, when it was read
+    std::string translation; ///< empty where there is none yet
+    std::string comment;     ///< for the translator, lines that end
+    std::vector<Place> uses; ///< where the text stands in the pages
+    bool fuzzy = false;      ///< the translation may be wrong
+    Place place;             ///< in the PO file, when it was read
 };
 
 struct PoFile {

@@ -133,7 +133,8 @@ void check_usable(const ResourceFolder& folder, const fs::path& copy)
 void copy_files(const ResourceFolder& folder, const fs::path& copy)
 {
     fs::create_directories(copy);
-    for (const fs::path& part : {page_folder(folder.root).filename(), fs::path("lang"), fs::path("pic"), fs::path("ttf")}) {
+    for (const fs::path& part :
+         {page_folder(folder.root).filename(), fs::path("lang"), fs::path("pic"), fs::path("ttf")}) {
         if (fs::exists(folder.root / part)) {
             fs::copy(folder.root / part, copy / part, fs::copy_options::recursive);
         }

@@ -15,9 +15,9 @@ struct Part {
 };
 
 constexpr Part parts[] = {
-    {On::Page, ATTR_TITLE, "title of page "},       {On::Page, ATTR_MSG, "message of page "},
-    {On::Item, ATTR_ITEM_INDEX, "label on page "},  {On::Item, ATTR_VALUE, "button on page "},
-    {On::Item, ATTR_MSG, "message on page "},       {On::Option, ATTR_MODE_INDEX, "option on page "},
+    {On::Page, ATTR_TITLE, "title of page "},      {On::Page, ATTR_MSG, "message of page "},
+    {On::Item, ATTR_ITEM_INDEX, "label on page "}, {On::Item, ATTR_VALUE, "button on page "},
+    {On::Item, ATTR_MSG, "message on page "},      {On::Option, ATTR_MODE_INDEX, "option on page "},
 };
 
 using Uses = std::map<std::string, std::vector<TextUse>>;

@@ -124,7 +124,8 @@ private:
             return "is no text of English.json, expected msgctxt with the key of one";
         }
         if (english->second != entry.english) {
-            return "translates '" + entry.english + "', but English.json has '" + english->second + "' now: export anew";
+            return "translates '" + entry.english + "', but English.json has '" + english->second +
+                   "' now: export anew";
         }
         if (entry.fuzzy) {
             return "is marked fuzzy, expected a look at the translation, and no mark";
@@ -135,9 +136,9 @@ private:
         if (std::any_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < ' '; })) {
             return "holds a line break or another control character, expected one line";
         }
-        return text.size() <= max_bytes ? ""
-                                        : "is too long: " + words_of_length(text) + ", at most " +
-                                              std::to_string(max_bytes) + " bytes fit";
+        return text.size() <= max_bytes
+                   ? ""
+                   : "is too long: " + words_of_length(text) + ", at most " + std::to_string(max_bytes) + " bytes fit";
     }
 
     std::vector<SourceText> source_;

@@ -30,7 +30,7 @@ KEYS = ("menu home up down left right up-left up-right down-left down-right adva
         "apply zoom+ zoom- prompt rec").split()
 FAULTS = ["settings-slow", "settings-refusing", "settings-out-of-range", "language-refusing", "memory-exhausted",
           "fonts-missing", "pictures-missing"]
-LANGUAGES = ["English", "German", "SimplifiedChinese", "TraditionalChinese"]
+LANGUAGES = ["English", "French", "German", "SimplifiedChinese", "TraditionalChinese"]
 REQUESTS = (
     lambda dice: ("POST", "language", {"language": dice.choice(LANGUAGES)}),
     lambda dice: ("POST", "menu", {"page": dice.choice(PAGES).stem.removesuffix("_page")}),

@@ -11,7 +11,9 @@ const address = new URL(location);
 address.searchParams.delete("token");
 history.replaceState(null, "", address);
 
-const codes = { English: "en", German: "de", SimplifiedChinese: "zh-Hans", TraditionalChinese: "zh-Hant" };
+const codes = {
+  English: "en", French: "fr", German: "de", SimplifiedChinese: "zh-Hans", TraditionalChinese: "zh-Hant",
+};
 let state = null;
 let link = null;
 let connected = null; // not known before the first answer
