@@ -65,7 +65,7 @@ std::vector<Word> picture_types()
                                        "Enter and change.", "Set."}});
 }
 
-std::vector<Word> yes() { return {{"Yes", "Values wait for a question."}}; }
+std::vector<Word> yes_or_no() { return {{"Yes", "Values wait for a question."}, {"No", "As without it."}}; }
 
 } // namespace
 
@@ -100,7 +100,7 @@ const std::vector<AttributeUse>& attribute_uses()
          "",
          "The page before the first row, which must name this one as NextPage; with CurPagesNum.",
          {}},
-        {ATTR_CONFIRM_BTN, On::Page, Holds::Word, "", "Whether values wait for a question, in lists.", yes()},
+        {ATTR_CONFIRM_BTN, On::Page, Holds::Word, "", "Whether values wait for a question, in lists.", yes_or_no()},
         {ATTR_RD_ONLY, On::Page, Holds::Number, "", "1 is kept for the host and changes nothing on screen.", {}},
         {ATTR_ITEM_INDEX, On::Item, Holds::Key, "every item", "The key of the label's text and of the setting.", {}},
         {ATTR_CTX, On::Item, Holds::Word, "every item", "What the item shows.", contexts()},

@@ -9,8 +9,6 @@
 namespace pages {
 namespace {
 
-const char* name_of(Severity severity) { return severity == Severity::Error ? "error" : "warning"; }
-
 /// The Levenshtein distance; letters that differ in case alone count half.
 double distance(const std::string& one, const std::string& other)
 {
@@ -33,6 +31,8 @@ double distance(const std::string& one, const std::string& other)
 }
 
 } // namespace
+
+const char* name_of(Severity severity) { return severity == Severity::Error ? "error" : "warning"; }
 
 std::string words_of(const Finding& finding)
 {

@@ -3,7 +3,6 @@
 #include <sqlite3.h>
 
 #include "simulator/core/settings.h"
-#include "simulator/core/translations.h"
 #include "tests/simulator/temp_folder.h"
 
 using namespace sim;
@@ -41,24 +40,12 @@ TEST(Definitions, AreRefusedInWords)
         folder.write("English.json", R"({"Title": "Bildeinstellungen: Helligkeit 1"})"); // 31 bytes
         folder.write(file, text);
         const auto load = [&] {
-            Translations(folder.path(), load_definitions(folder.path("settings.json")).languages);
+            for (const auto& [option, name] : load_definitions(folder.path("settings.json")).languages) {
+                (void)pages::load_texts(folder.path(name + ".json"));
+            }
         };
         EXPECT_THAT(load, ThrowsMessage<BadInput>(AllOf(HasSubstr(".json:"), HasSubstr(words)))) << text;
     }
-}
-
-TEST(Store, KeepsWhatFits)
-{
-    const SettingId gain{"Image", "Gain"};
-    const std::map<SettingId, Setting> definitions = {{gain, {gain, SettingKind::Integer, {}, 0, 10, 1, "", "5"}}};
-    const TempFolder folder;
-    SettingsStore store(folder.path("settings.db"));
-    Settings settings(definitions, store);
-    settings.set(gain, "7");
-    settings.set_for_this_run(gain, "9");
-    EXPECT_EQ(settings.value(gain) + store.load_all().at(gain), "97");
-    store.write(gain, "99"); // as an older definition allowed it
-    EXPECT_EQ(Settings(definitions, store).number(gain), 5);
 }
 
 TEST(Store, LeavesForeignFilesAlone)
