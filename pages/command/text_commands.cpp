@@ -14,6 +14,7 @@ struct TextOptions {
     std::string folder;
     std::string language;
     std::string file; ///< or folder that is written
+    std::string fonts;
     bool replace = false;
 };
 
@@ -26,7 +27,7 @@ void tell_steps(const ResourceFolder& folder, const std::string& language)
 
 int run_export(const TextOptions& options)
 {
-    const ResourceFolder folder = read_resource_folder(options.folder);
+    ResourceFolder folder = read_resource_folder(options.folder, options.fonts);
     const Exported exported = export_texts(folder, options.language, options.file, options.replace);
     std::cout << options.file << ": " << exported.texts << " texts, " << exported.translated << " translated\n";
     tell_steps(folder, options.language);
@@ -35,7 +36,7 @@ int run_export(const TextOptions& options)
 
 int run_import(const TextOptions& options)
 {
-    ResourceFolder folder = read_resource_folder(options.folder);
+    ResourceFolder folder = read_resource_folder(options.folder, options.fonts);
     const Imported imported = import_texts(folder, options.language, options.file);
     for (const BadInput& refusal : imported.refusals) {
         std::cout << refusal.what() << '\n';
@@ -62,6 +63,7 @@ void add_command(CLI::App& app, int& status, const char* name, const char* words
     command->add_option("FOLDER", options->folder, "folder with pages/, lang/, pic/ and settings.json")->required();
     command->add_option("LANGUAGE", options->language, "its name: lang/LANGUAGE.json")->required();
     command->add_option("FILE", options->file, "PO file")->required();
+    command->add_option("--fonts", options->fonts, "folder with font.ttf, bold_font.ttf and tcfont.ttf");
     if (run == run_export) {
         command->add_flag("--replace", options->replace, "write over an older file");
     }

@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <nlohmann/json.hpp>
 
+#include "pages/data/allowance.h"
+#include "pages/data/json_file.h"
+
 namespace pages {
 namespace {
 
@@ -43,15 +46,21 @@ std::vector<SourceText> source_texts(const ResourceFolder& folder)
     return source;
 }
 
-std::string language_file(const std::vector<SourceText>& source, const std::map<std::string, std::string>& texts)
+std::string language_file(const std::vector<SourceText>& source, const std::map<std::string, std::string>& texts,
+                          const std::filesystem::path& older)
 {
-    const auto quoted = [](const std::string& text) { return nlohmann::json(text).dump(); };
-    std::string content;
-    for (const SourceText& text : source) {
-        content += content.empty() ? "{\n" : text.first_of_group ? ",\n\n" : ",\n";
-        content += "    " + quoted(text.key) + ": " + quoted(texts.at(text.key));
+    const auto quoted = [](const nlohmann::json& value) { return value.dump(); };
+    const nlohmann::json old = std::filesystem::exists(older) ? load_json_object(older) : nlohmann::json();
+    std::string content = "{\n";
+    if (old.contains(allowance_member)) {
+        content += "    " + quoted(allowance_member) + ": " + quoted(old.at(allowance_member)) + ",\n\n";
     }
-    return content + (content.empty() ? "{}\n" : "\n}\n");
+    for (const SourceText& text : source) {
+        const bool is_last = &text == &source.back();
+        content += (text.first_of_group ? "\n    " : "    ") + quoted(text.key) + ": " + quoted(texts.at(text.key));
+        content += is_last ? "\n" : ",\n";
+    }
+    return content + "}\n";
 }
 
 std::map<std::string, std::string> texts_of(const ResourceFolder& folder, const std::string& language)

@@ -1,6 +1,7 @@
 // Files of texts in the order and the groups in which the English one has them.
 #pragma once
 
+#include <filesystem>
 #include <map>
 #include <string>
 #include <vector>
@@ -21,8 +22,9 @@ struct SourceText {
 /// The English texts in the order of their file. Throws BadInput when the file can't be used as a whole.
 std::vector<SourceText> source_texts(const ResourceFolder& folder);
 
-/// The content of a file with a text for each of the source, by key.
-std::string language_file(const std::vector<SourceText>& source, const std::map<std::string, std::string>& texts);
+/// The content of a file with a text for each of the source, by key, and what an older file of it allows the check.
+std::string language_file(const std::vector<SourceText>& source, const std::map<std::string, std::string>& texts,
+                          const std::filesystem::path& older = {});
 
 /// The texts of a language without their places; empty for a language that there isn't. Throws BadInput when its file
 /// can't be used as a whole, as nothing of it may be lost.

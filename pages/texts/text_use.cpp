@@ -36,12 +36,10 @@ void add_uses(const PageFile& page, const Element& element, On on, Uses& uses)
     }
 }
 
-void add_options(const Setting& setting, const std::filesystem::path& root, Uses& uses)
+void add_options(const Setting& setting, Uses& uses)
 {
-    Place place = setting.place;
-    place.file = std::filesystem::path(place.file).lexically_relative(root).string();
     for (const std::string& option : setting.options) {
-        uses[option].push_back({place, "option of setting " + setting.id.key});
+        uses[option].push_back({setting.place, "option of setting " + setting.id.key});
     }
 }
 
@@ -56,7 +54,7 @@ Uses text_uses(const ResourceFolder& folder)
         }
     }
     for (const auto& [id, setting] : folder.definitions.settings) {
-        add_options(setting, folder.root, uses);
+        add_options(setting, uses);
     }
     const auto place = [](const TextUse& use) { return std::tie(use.place.file, use.place.line); };
     for (auto& [key, places] : uses) {

@@ -7,6 +7,7 @@
 #include "pages/data/text_file.h"
 #include "pages/texts/language_file.h"
 #include "pages/texts/po_file.h"
+#include "pages/texts/room.h"
 #include "pages/texts/text_use.h"
 
 namespace pages {
@@ -30,7 +31,8 @@ void check_name(const std::string& language)
     }
 }
 
-std::string comment_for(const std::vector<TextUse>& uses)
+/// room: null for a text that no page shows.
+std::string comment_for(const std::vector<TextUse>& uses, const TextRoom* room)
 {
     std::vector<std::string> words;
     for (const TextUse& use : uses) {
@@ -45,19 +47,24 @@ std::string comment_for(const std::vector<TextUse>& uses)
     if (words.size() > told_uses) {
         comment += " and " + std::to_string(words.size() - told_uses) + " more";
     }
-    return (comment.empty() ? "on no page: shown by the menu itself" : comment) + "\nat most " +
-           std::to_string(max_bytes) + " bytes\n";
+    comment = (comment.empty() ? "on no page: shown by the menu itself" : comment) + "\nat most " +
+              std::to_string(max_bytes) + " bytes";
+    if (room != nullptr) {
+        comment += ", and " + std::to_string(room->room) + " pixels on page " + room->page +
+                   ", where the English has " + std::to_string(room->width);
+    }
+    return comment + "\n";
 }
 
 PoEntry entry_for(const SourceText& text, const std::map<std::string, std::string>& translations,
-                  const std::vector<TextUse>& uses)
+                  const std::vector<TextUse>& uses, const TextRoom* room)
 {
     PoEntry entry;
     entry.key = text.key;
     entry.english = text.english;
     const auto translation = translations.find(text.key);
     entry.translation = translation == translations.end() ? "" : translation->second;
-    entry.comment = comment_for(uses);
+    entry.comment = comment_for(uses, room);
     for (const TextUse& use : uses) {
         entry.uses.push_back(use.place);
     }
@@ -82,13 +89,15 @@ public:
         }
         for (const PoEntry& entry : content.entries) {
             const std::string problem = problem_with(entry);
-            if (!problem.empty()) {
+            places_[entry.key] = entry.place;
+            if (problem.empty()) {
+                texts[entry.key] = entry.translation;
+            } else {
                 refuse(entry.place, "'" + entry.key + "' " + problem);
             }
-            texts[entry.key] = entry.translation;
         }
         for (const SourceText& text : source_) {
-            if (texts.count(text.key) == 0) {
+            if (places_.count(text.key) == 0) {
                 refuse({file_}, "'" + text.key + "' is missing (" + text.english + "), expected an entry: export anew");
             }
         }
@@ -103,12 +112,28 @@ public:
         }
         for (const auto& [key, text] : old->second) {
             if (english_.count(key) == 0) {
-                refuse(text.place, "'" + key + "' is no text of English.json, expected it there or not at all");
+                const std::string path = file_of(folder, language_).string();
+                refuse({path, text.place.line, text.place.column},
+                       "'" + key + "' is no text of English.json, expected it there or not at all");
             }
         }
     }
 
-    std::string content() const { return language_file(source_, texts); }
+    /// Draws the translations; the English texts stand in for those that are refused.
+    void measure_texts(ResourceFolder& folder)
+    {
+        std::map<std::string, std::string> tried = texts;
+        tried.insert(english_.begin(), english_.end());
+        for (const auto& [key, room] : narrowest_rooms(folder, language_, tried)) {
+            if (texts.count(key) != 0 && room.left() < 0) {
+                refuse(places_[key], "'" + key + "' is " + std::to_string(-room.left()) + " pixels too wide: '" +
+                                         room.text + "' has " + std::to_string(room.width) + " on page " + room.page +
+                                         " (" + to_string(room.view) + "), " + std::to_string(room.room) + " fit");
+            }
+        }
+    }
+
+    std::string content(const std::filesystem::path& older) const { return language_file(source_, texts, older); }
 
     std::map<std::string, std::string> texts;
     std::vector<BadInput> refusals;
@@ -143,26 +168,31 @@ private:
 
     std::vector<SourceText> source_;
     std::map<std::string, std::string> english_;
+    std::map<std::string, Place> places_; ///< of the entries
     std::string file_;
     std::string language_;
 };
 
 } // namespace
 
-Exported export_texts(const ResourceFolder& folder, const std::string& language, const std::filesystem::path& file,
+Exported export_texts(ResourceFolder& folder, const std::string& language, const std::filesystem::path& file,
                       bool replace)
 {
     check_name(language);
     if (!replace && std::filesystem::exists(file)) {
-        throw BadInput(Place{file.string()}, "is there already and may hold translations, expected another name or "
-                                             "--replace");
+        throw BadInput(Place{file.string()},
+                       "is there already and may hold translations, expected another name or --replace");
     }
-    auto uses = text_uses(folder);
     const auto translations = texts_of(folder, language);
+    const auto source = source_texts(folder);
+    const auto rooms = narrowest_rooms(folder, language, texts_of(folder, source_language));
+    auto uses = text_uses(folder);
     PoFile content{language, {}};
     Exported exported{0, 0};
-    for (const SourceText& text : source_texts(folder)) {
-        content.entries.push_back(entry_for(text, translations, uses[text.key]));
+    for (const SourceText& text : source) {
+        const auto room = rooms.find(text.key);
+        content.entries.push_back(
+            entry_for(text, translations, uses[text.key], room == rooms.end() ? nullptr : &room->second));
         ++exported.texts;
         exported.translated += content.entries.back().translation.empty() ? 0 : 1;
     }
@@ -182,9 +212,11 @@ Imported import_texts(ResourceFolder& folder, const std::string& language, const
     Import import(folder, language, file.string());
     import.take(content);
     import.keep(folder);
+    import.measure_texts(folder);
     imported.refusals = import.refusals;
     if (imported.refusals.empty() && import.texts != old) {
-        write_text_file(file_of(folder, language), import.content());
+        const std::filesystem::path target = file_of(folder, language);
+        write_text_file(target, import.content(target));
         imported.changed = true;
     }
     return imported;

@@ -15,8 +15,8 @@ struct Exported {
 };
 
 /// Writes the texts of a language, with those that it lacks as yet. An older file is replaced on demand alone: it may
-/// hold work. Throws BadInput.
-Exported export_texts(const ResourceFolder& folder, const std::string& language, const std::filesystem::path& file,
+/// hold work. Throws BadInput. The folder is as before.
+Exported export_texts(ResourceFolder& folder, const std::string& language, const std::filesystem::path& file,
                       bool replace);
 
 struct Imported {
@@ -24,7 +24,7 @@ struct Imported {
     bool changed = false;           ///< whether the language's file was written
 };
 
-/// Writes the language's file from a PO file. The folder has the new texts then. Throws BadInput.
+/// Writes the language's file from a PO file. The folder is as before. Throws BadInput.
 Imported import_texts(ResourceFolder& folder, const std::string& language, const std::filesystem::path& file);
 
 /// What an author must still do by hand so that people can choose the language, a sentence each.
