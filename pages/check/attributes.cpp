@@ -69,6 +69,8 @@ std::vector<Word> yes_or_no() { return {{"Yes", "Values wait for a question."}, 
 
 } // namespace
 
+const char* AttributeUse::name() const { return osdAttrName(id); }
+
 std::vector<std::string> AttributeUse::word_list() const
 {
     std::vector<std::string> list;

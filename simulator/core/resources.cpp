@@ -29,11 +29,11 @@ std::vector<std::filesystem::path> resource_folders(const std::filesystem::path&
 void require_usable(const std::filesystem::path& resources)
 {
     const pages::ResourceFolder folder = pages::read_resource_folder(resources);
-    const auto is_needed = [&folder](const BadInput& mistake) {
-        const std::string& file = mistake.place().file;
-        return file == "settings.json" || (folder.broken.count(file) > 0 && file.compare(0, 5, "lang/") == 0);
-    };
-    if (std::none_of(folder.mistakes.begin(), folder.mistakes.end(), is_needed)) {
+    const auto is_of_settings = [](const BadInput& mistake) { return mistake.place().file == "settings.json"; };
+    const auto has_texts = [&folder](const auto& language) { return folder.languages.count(language.second) > 0; };
+    const auto& languages = folder.definitions.languages;
+    if (std::none_of(folder.mistakes.begin(), folder.mistakes.end(), is_of_settings) &&
+        std::all_of(languages.begin(), languages.end(), has_texts)) {
         return;
     }
     std::string words = "resources " + resources.string() + " can't be used:";

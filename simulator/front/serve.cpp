@@ -101,8 +101,7 @@ private:
 };
 
 /// Null when the system refuses to watch; the camera runs without it.
-std::unique_ptr<FolderWatch> watch_resources(const Camera& camera,
-                                             const std::function<void(const FolderWatch::Changed&)>& on_change)
+std::unique_ptr<FolderWatch> watch_resources(const Camera& camera, const std::function<void()>& on_change)
 {
     try {
         return std::make_unique<FolderWatch>(resource_folders(camera.resources()), on_change);
@@ -139,7 +138,7 @@ void serve_camera(Camera& camera, Pictures& pictures, const MenuConfig& menu, co
             loop.post([&] { reload.take(waiting.take()); });
         }
     });
-    const auto watch = watch_resources(camera, [&checker](const FolderWatch::Changed&) { checker.look_again(); });
+    const auto watch = watch_resources(camera, [&checker] { checker.look_again(); });
     checker.look_again(); // from behind the start of the watch, so that no change falls between
     const CameraParts parts{camera, session, reload, loop, hub};
     Api api(parts, OSD_WEB_DIR, options.token);

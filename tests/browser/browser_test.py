@@ -186,11 +186,22 @@ class PageTest(unittest.TestCase):
         eventually(lambda: "Contrast" not in text("#items"), "the item is gone")
         self.wait_focus("image", "Saturation")
         last = camera.snapshot()
-        file.write_text(good.replace("<Option", "<Opt ion", 1), "utf-8")
-        eventually(lambda: re.match(r".*image_page\.xml, line \d+\b.", text("#problems")), "an alert")
+        file.write_text(good.replace('"Contrast"', '"Kontrast"').replace("<Item", "letters <Item", 1), "utf-8")
+        eventually(lambda: text("#problems-count") == "2 mistakes, 1 warning in 1 file", "the findings are counted")
+        found = text("#problems-list").split("\n")
+        self.assertEqual(found[0], "pages/image_page.xml")
+        self.assertEqual(len([line for line in found if re.fullmatch(r"\d+:\d+", line)]), 3, found)
         self.assertEqual(camera.snapshot(), last)
+        self.assertGreaterEqual(run("return arguments[0].getBoundingClientRect().top", find("#problems")),
+                                run("return arguments[0].getBoundingClientRect().bottom", find(".frame")))
+        run("arguments[0].focus()", find("#problems-list"))
+        for keys, is_open in ((Keys.ESCAPE, False), (Keys.ENTER, True)):  # on the heading, which has the focus then
+            press(keys)
+            eventually(lambda: find("#problems").get_property("open") == is_open, f"the list is open: {is_open}")
+        self.assertEqual(camera.focus()[0], "image")  # so the camera has got neither key
         file.write_text(good, "utf-8")
-        eventually(lambda: not text("#problems") and "Contrast" in text("#items"), "the alert is gone")
+        eventually(lambda: not find("#problems").is_displayed(), "the findings are gone")
+        self.assertIn("Contrast", text("#items"))
 
     def test_hold_ends_with_the_focus(self):
         camera.put("settings/ImageParam.Brightness", {"value": 0})

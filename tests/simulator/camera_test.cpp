@@ -6,7 +6,6 @@
 #include "platform/config_call.h"
 #include "platform/media_service.h"
 #include "simulator/core/camera.h"
-#include "simulator/core/data.h"
 #include "simulator/core/services.h"
 #include "simulator/core/settings_json.h"
 #include "tests/simulator/temp_folder.h"

@@ -74,7 +74,7 @@ TEST_F(WebTest, RefusesInWords)
         {request("GET /channels/2/stream.mjpg?viewer=" + std::string(41, 'a')), 400, "at most 40 bytes"},
         {request("DELETE /settings"), 405, "takes GET, not DELETE"},
         {request("POST /keys", "Content-Type: text/plain\r\nContent-Length: 2\r\n") + "{}", 415, "application/json"},
-        {with_body("POST /keys", "menu"), 400, "body:1: syntax error"},
+        {with_body("POST /keys", "menu"), 400, "body:1:1: syntax error"},
         {with_body("POST /keys", R"({"keys": ["menu", "jump"]})"), 400, "unknown key 'jump', expected one of"},
         {with_body("POST /keys", R"({"keys": "menu"})"), 400, "must be a list"},
         {with_body("POST /keys", R"({"keys": )" + std::string(60000, '[')), 400, "nests deeper than 32 levels"},
