@@ -38,7 +38,8 @@ protected:
 
     std::string exported(const std::string& language) const
     {
-        (void)export_texts(folder(), language, po, true);
+        ResourceFolder from = folder();
+        (void)export_texts(from, language, po, true);
         return read_text_file(po);
     }
 
@@ -95,12 +96,13 @@ TEST_F(TextsTest, TellTranslatorsWhereTheyAreUsed)
 
 TEST_F(TextsTest, OfANewLanguageAreEmptyAndTheAuthorHearsWhatToDo)
 {
-    EXPECT_EQ(export_texts(folder(), "Spanish", po, false).translated, 0U);
+    ResourceFolder from = folder();
+    EXPECT_EQ(export_texts(from, "Spanish", po, false).translated, 0U);
     EXPECT_THAT(left_to_do(folder(), "Spanish"),
                 ElementsAre(HasSubstr("\"Spanish\": \"Spanish\""), HasSubstr("lang/English.json, lang/French.json")));
     EXPECT_THAT(left_to_do(folder(), "TraditionalChinese"), IsEmpty());
-    EXPECT_THROW((void)export_texts(folder(), "Spanish", po, false), BadInput) << "may hold work";
-    EXPECT_THROW((void)export_texts(folder(), "../Spanish", po, true), BadInput);
+    EXPECT_THROW((void)export_texts(from, "Spanish", po, false), BadInput) << "may hold work";
+    EXPECT_THROW((void)export_texts(from, "../Spanish", po, true), BadInput);
 }
 
 TEST_F(TextsTest, ThatDontFitAreRefused)
