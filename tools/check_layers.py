@@ -17,12 +17,16 @@ SEES = {  # folder: what it includes beside itself
     "prompt": ["include", "platform", "comm"],
     "pages/data": ["include"],
     "pages/menu": LIBRARY + ["pages/data"],
-    "pages/check": LIBRARY + ["pages/data", "pages/menu"],
-    "pages": ["pages/data", "pages/menu", "pages/check"],
+    "pages/measure": LIBRARY + ["pages/data", "pages/menu", "pages/check"],
+    "pages/check": LIBRARY + ["pages/data", "pages/menu", "pages/measure"],
+    "pages/schema": LIBRARY + ["pages/data", "pages/check"],
+    "pages/texts": LIBRARY + ["pages/data", "pages/check", "pages/measure"],
+    "pages": ["pages/data", "pages/menu", "pages/check", "pages/measure", "pages/schema", "pages/texts"],
     "simulator": ["include", "platform", "pages/data", "pages/check", "pages"],
     "tools": ["pages/data"],
-    "tests": ["include", "platform", "pages/data", "pages/menu", "pages/check", "pages", "simulator"],
-    "bench": ["include", "platform"],
+    "tests": ["include", "platform", "pages/data", "pages/menu", "pages/check", "pages/measure", "pages/schema",
+              "pages/texts", "pages", "simulator"],
+    "bench": ["include", "platform", "pages/data", "pages/check"],
 }
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.M)
 

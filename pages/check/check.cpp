@@ -5,6 +5,7 @@
 
 #include "pages/check/judge.h"
 #include "pages/check/mutes.h"
+#include "pages/measure/measure.h"
 
 namespace pages {
 namespace {
@@ -72,6 +73,9 @@ CheckResult check(const ResourceFolder& folder, const CheckOptions& options)
     Verdict verdict = judge_pages(folder, result.findings);
     add(verdict.findings);
     result.refused = std::move(verdict.refused);
+    if (options.measure) {
+        add(measure(folder, {options.measured_pages, {}}).findings);
+    }
     apply_mutes(folder, options.measure && options.measured_pages.empty(), result.findings);
     sort_findings(result.findings);
     return result;

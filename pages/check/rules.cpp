@@ -2,6 +2,7 @@
 #include "pages/check/rule_tables.h"
 
 #include "pages/check/check.h"
+#include "pages/measure/judge.h"
 
 namespace pages {
 
@@ -10,7 +11,7 @@ const std::vector<Rule>& all_rules()
     static const std::vector<Rule> rules = [] {
         std::vector<Rule> all;
         for (const auto* table : {&file_rules(), &element_rules(), &attribute_rules(), &text_rules(), &setting_rules(),
-                                  &way_rules(), &question_rules(), &layout_rules()}) {
+                                  &way_rules(), &question_rules(), &layout_rules(), &measure_rules()}) {
             all.insert(all.end(), table->begin(), table->end());
         }
         all.push_back({allowance_rule, Severity::Warning,

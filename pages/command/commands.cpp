@@ -4,6 +4,8 @@
 #include <iostream>
 
 #include "pages/check/check.h"
+#include "pages/command/measure_command.h"
+#include "pages/command/other_commands.h"
 
 namespace pages {
 namespace {
@@ -56,6 +58,9 @@ void add_commands(CLI::App& app, int& status)
     check->add_flag("--quick", options->quick, "don't draw and measure");
     check->add_flag("--rules", options->rules, "list the rules and end");
     check->callback([options, &status] { status = run_check(*options); });
+    add_measure_command(app, status);
+    add_schema_command(app);
+    add_text_commands(app, status);
 }
 
 } // namespace pages
