@@ -4,6 +4,7 @@
 #include <iostream>
 
 #include "pages/check/check.h"
+#include "pages/command/show_commands.h"
 
 namespace pages {
 namespace {
@@ -40,6 +41,7 @@ void add_commands(CLI::App& app, int& status)
     check->add_flag("--json", options->json, "as JSON");
     check->add_flag("--quick", options->quick, "don't draw and measure");
     check->callback([options, &status] { status = run_check(*options); });
+    add_show_commands(app, status);
 }
 
 } // namespace pages

@@ -25,5 +25,7 @@ Selection checked(const Selection& selection, const ResourceFolder& folder);
 bool takes_page(const Selection& selection, const std::string& page);
 /// The views that the selection, once checked, takes.
 std::vector<View> views_of(const Selection& selection, const ResourceFolder& folder);
+/// The one to take where one is wanted: of style 0, 1080p and the default language, unless the selection says otherwise.
+View first_view(const Selection& selection, const ResourceFolder& folder);
 
 } // namespace pages
