@@ -18,10 +18,13 @@ SEES = {  # folder: what it includes beside itself
     "pages/data": ["include"],
     "pages/menu": LIBRARY + ["pages/data"],
     "pages/check": LIBRARY + ["pages/data", "pages/menu"],
-    "pages": ["pages/data", "pages/menu", "pages/check"],
-    "simulator": ["include", "platform", "pages/data", "pages/check", "pages"],
+    "pages/preview": LIBRARY + ["pages/data", "pages/menu"],
+    "pages/map": LIBRARY + ["pages/data", "pages/menu", "pages/preview"],
+    "pages": ["pages/data", "pages/menu", "pages/check", "pages/preview", "pages/map"],
+    "simulator": ["include", "platform", "pages/data", "pages/check", "pages/preview", "pages"],
     "tools": ["pages/data"],
-    "tests": ["include", "platform", "pages/data", "pages/menu", "pages/check", "pages", "simulator"],
+    "tests": ["include", "platform", "pages/data", "pages/menu", "pages/check", "pages/preview", "pages/map", "pages",
+              "simulator"],
     "bench": ["include", "platform"],
 }
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.M)

@@ -4,6 +4,7 @@
 #include <iostream>
 
 #include "pages/check/check.h"
+#include "pages/command/show_commands.h"
 
 namespace pages {
 namespace {
@@ -56,6 +57,7 @@ void add_commands(CLI::App& app, int& status)
     check->add_flag("--quick", options->quick, "don't draw and measure");
     check->add_flag("--rules", options->rules, "list the rules and end");
     check->callback([options, &status] { status = run_check(*options); });
+    add_show_commands(app, status);
 }
 
 } // namespace pages
