@@ -126,6 +126,16 @@ void Menu::look(const View& view)
 
 const View& Menu::view() const { return camera().view(); }
 
+void Menu::store(const SettingId& setting, const std::string& value)
+{
+    const auto found = camera().folder().definitions.settings.find(setting);
+    if (found != camera().folder().definitions.settings.end() && problem_with(found->second, value).empty()) {
+        camera().store(found->second, value);
+    }
+}
+
+void Menu::forget_values() { camera().forget_values(); }
+
 std::vector<Fault> Menu::parse(const PageFile& page)
 {
     std::vector<Fault> faults;

@@ -59,6 +59,11 @@ public:
     void look(const View& view);
     const View& view() const;
 
+    /// Gives a setting a value that it can have; one that there isn't stays away.
+    void store(const SettingId& setting, const std::string& value);
+    /// Gives all settings their defaults again.
+    void forget_values();
+
     /// Parses a page and what it shows, and tells what the parser says of it.
     std::vector<Fault> parse(const PageFile& page);
 
