@@ -35,13 +35,11 @@ TEST_F(ParseTest, PageAttributes)
         Layout='vertical_tolvane_align' Title='T' TitlePos='Center' | vertical_tolvane_align Title=t.T (T) Center
         Layout='vertical_align_keth' NextPage='b' Title='T' TitlePos='Right' | vertical_align_keth Title=t.T (T) Right
         Layout='vertical_align_keth' CurPagesNum='1' PrevPage='a' | vertical_align_keth CurPagesNum=1 PrevPage=a
-        Layout='vertical_align_keth' CurPagesNum='1' NextPage='b' | vertical_align_keth CurPagesNum=1 NextPage=b
         Layout='horizontal_align_keth' Msg='Sure'                            | horizontal_align_keth Msg=t.Sure
         RdOnly='1'                                                           | fails
         Layout='icon' CountPerLine='many'                                    | fails
         Layout='vertical_align' Title='T'                                    | fails
         Layout='vertical_align' Title='Refused' TitlePos='Left'              | fails
-        Layout='vertical_align' Title='LONG' TitlePos='Left'                 | fails
         Layout='horizontal_align_keth' Msg='Refused'                         | fails
         Layout='vertical_align_keth' CurPagesNum='1' NextPage='LONG'         | fails
     )";
@@ -69,10 +67,8 @@ TEST_F(ParseTest, ItemAttributes)
     )",
                 rest);
     expectItems(R"(
-        Ctx='NAME' Attr='CONFIRM_POP_BTN' ConfirmPage='FITS'         | NAME CONFIRM_POP_BTN ConfirmPage=FITS
         Ctx='NAME' Attr='KEY_WITH_MSG' Msg='Refused'                 | NAME KEY_WITH_MSG Msg=Refused
         Attr='CONST_TXT'                                             | fails
-        Ctx='name' Attr='CONST_TXT'                                  | fails
         Ctx='NAME' Attr='TITLE_LINE'                                 | fails
         Ctx='NAME' Attr='KEY_WITH_MSG'                               | fails
         Ctx='NAME' Attr='MSG_WITH_SUBITEM'                           | fails

@@ -16,6 +16,8 @@ constexpr int BLEND_STEPS = 0;
 constexpr int BLEND_STEPS = 2;
 #endif
 
+bool g_update = false;
+
 // How far the farthest of four channels is away.
 int distance(uint32_t one, uint32_t other)
 {
@@ -45,17 +47,11 @@ std::string difference(SDL_Surface* actual, SDL_Surface* expected)
 
 } // namespace
 
-bool& updateGolden()
-{
-    static bool update = false;
-    return update;
-}
-
 testing::AssertionResult matchesGolden(SDL_Surface* actual, const std::string& name)
 {
     const bool recording = std::exchange(calls().recording, false);
     const std::string path = OSD_GOLDEN_DIR "/" + name + ".png";
-    if (updateGolden()) {
+    if (g_update) {
         EXPECT_EQ(IMG_SavePNG(actual, path.c_str()), 0) << path;
     }
     SDL_Surface* expected = IMG_Load(path.c_str());
@@ -70,3 +66,11 @@ testing::AssertionResult matchesGolden(SDL_Surface* actual, const std::string& n
 }
 
 } // namespace fake
+
+// Runs all tests. --update-golden writes the reference pictures anew before it compares with them.
+int main(int argc, char** argv)
+{
+    testing::InitGoogleMock(&argc, argv);
+    fake::g_update = argc == 2 && std::string(argv[1]) == "--update-golden";
+    return RUN_ALL_TESTS();
+}

@@ -1,7 +1,6 @@
 #include "tests/fake/platform.h"
 
 #include <algorithm>
-#include <climits>
 #include <cstdarg>
 #include <cstring>
 #include <memory>
@@ -36,28 +35,14 @@ void copyText(char* out, size_t size, const std::string& text)
 }
 
 template <typename Record>
-int fetch(const char* call, const std::map<std::string, Record>& all, const std::string& key, const Record& garbage,
-          Record* out)
+int fetch(const char* call, const std::map<std::string, Record>& all, const std::string& key, Record* out)
 {
     record(std::string(call) + " " + key);
     const auto it = all.find(key);
-    if (!fails(call) && (platform().garbage || it != all.end())) {
-        *out = platform().garbage ? garbage : it->second;
+    if (!fails(call) && it != all.end()) {
+        *out = it->second;
     }
     return -1; // not read by anybody
-}
-
-int fetchText(const std::string& key, tagCFG_VALUE_TXT_S* out)
-{
-    tagCFG_VALUE_TXT_S garbage;
-    memset(&garbage, 'x', sizeof garbage);
-    std::fill_n(garbage.acList, 100, ':'); // more pieces than an item has options
-    return fetch("text", platform().texts, key, garbage, out);
-}
-
-int fetchNumber(const std::string& key, tagCFG_VALUE_INT_S* out)
-{
-    return fetch("number", platform().numbers, key, {INT_MAX, INT_MIN, -1, -1, INT_MIN}, out);
 }
 
 int push(const char* call, OSD_BOOL show, const void* attach, const tagOSD_MENU_CANVAS_S* canvas)
@@ -120,15 +105,15 @@ void answer(void* user, tagOSD_MENU_GET_EVENT_E event, tagOSD_MENU_CONTROL_PARAM
 
 extern "C" {
 
-int CFG_COM_GetTxtParams(char* key, tagCFG_VALUE_TXT_S* out) { return fetchText(key, out); }
+int CFG_COM_GetTxtParams(char* key, tagCFG_VALUE_TXT_S* out) { return fetch("text", platform().texts, key, out); }
 int CFG_COM_GetTxtParamByParent(char* parent, char* key, tagCFG_VALUE_TXT_S* out)
 {
-    return fetchText(format("%s/%s", parent, key), out);
+    return fetch("text", platform().texts, format("%s/%s", parent, key), out);
 }
-int CFG_COM_GetIntParams(char* key, tagCFG_VALUE_INT_S* out) { return fetchNumber(key, out); }
+int CFG_COM_GetIntParams(char* key, tagCFG_VALUE_INT_S* out) { return fetch("number", platform().numbers, key, out); }
 int CFG_COM_GetIntParamByParent(char* parent, char* key, tagCFG_VALUE_INT_S* out)
 {
-    return fetchNumber(format("%s/%s", parent, key), out);
+    return fetch("number", platform().numbers, format("%s/%s", parent, key), out);
 }
 
 int CFG_COM_SetTxtParams(char* key, char* value, OSD_BOOL save)

@@ -32,11 +32,11 @@ struct Platform : Settings {
     std::string translated = "t.";
     std::map<std::string, std::string> words; // that are translated otherwise
     std::string deviceType;
-    std::map<std::string, std::string> parents;            // of data zones
-    std::function<void(tagITEM_NODE_S*)> host;             // runs inside the business function
-    std::function<void(OSD_BOOL)> pushed;                  // runs inside each push to all channels
-    bool garbage = false;                                  // unterminated texts and wild numbers everywhere
-    int (*update)(OSD_BOOL, OSD_ATTACH_INFO_S*) = nullptr; // what MPP_MENU_SetMenuCb got
+    std::map<std::string, std::string> parents;                                 // of data zones
+    std::function<void(tagITEM_NODE_S*)> host;                                  // runs inside the business function
+    std::function<void(OSD_BOOL)> pushed;                                       // runs inside each push to all channels
+    bool garbage = false;                                                       // unterminated texts everywhere
+    int (*update)(OSD_BOOL, OSD_ATTACH_INFO_S*) = nullptr;                      // what MPP_MENU_SetMenuCb got
     std::map<void*, std::pair<std::string, std::vector<unsigned char>>> blocks; // media memory by address: name, bytes
     std::vector<Push> pushes;
     std::vector<std::string> log; // its tags

@@ -8,8 +8,6 @@ TEST_F(AddressTest, FormsCursorAndDigits)
 {
     check(R"(
         third
-        > Ip    192.168.1.5
-          Gain  Auto
         home                       | > Ip [1]92.168.001.005, was 192.168.1.5
         then home                  | > Ip 192.168.1.5
         home right right right     | > Ip 192.[1]68.001.005, was 192.168.1.5

@@ -28,9 +28,6 @@ TEST_F(HomeTest, RulesInTheirOrder)
     )");
     check(R"(
         opens
-        > More
-          Pop         go
-          confirm
         home      | reads advanced                   | opens at More / advanced: > Gain Auto
         down home | shows Pop loading, reads confirm | opens at Pop loading / confirm: > Yes; No; Other
         up home   | shows confirm, reads confirm     | opens at confirm / confirm: > Yes; No; Other
@@ -123,14 +120,6 @@ TEST_F(HomeTest, AnswersForAPage)
     const std::string edit = "right down down home up home down down home right up home up up up up up right up home ";
     check(replaced(R"(
         network
-        > Zoom     9 of 0..10
-          IpMode     StaticIp
-            Ip       192.168.1.5
-            DnsMode  AutoMode
-              Dns    8.8.8.8
-            Gain     Auto
-          confirm
-          Last       X
         EDIT down home | Zoom 0 of 0..10, was 9; Ip 292.168.1.5, was 192.168.1.5;
             | Dns 18.8.8.8, was 8.8.8.8; > confirm; Last Y, was X
         EDIT home | sets Zoom to 0, was 9, sets IpMode to StaticIp, sets Ip to 292.168.1.5, sets DnsMode to AutoMode,

@@ -27,7 +27,7 @@ TEST_F(HostTest, EveryCallOfTheHostMayComeBack)
     setNumber("LedCustomColor", 0, 0xFFFFFF, 5, 0x123456);
     const std::string modes = R"(<I ItemIndex="Mode" Attr="SUBITEM"> <O ModeIndex="A"> <I ItemIndex="Gain"/>
         <I ItemIndex="Deep" Attr="SUBITEM"> <O ModeIndex="A"> <I ItemIndex="Ip" Attr="EDITABLE"/> </O> </I>
-        <I ItemIndex="Ip" Attr="EDITABLE"/> </O> <O ModeIndex="B"> <I ItemIndex="Zoom" ValType="NUMERICAL"/> </O> </I>)";
+        <I ItemIndex="Wait"/> </O> <O ModeIndex="B"> <I ItemIndex="Zoom" ValType="NUMERICAL"/> </O> </I>)";
     setPages(R"(
         advanced: <I ItemIndex="Wait" Attr="KEY_WITH_MSG"/> <I ItemIndex="More" Attr="SUBPAGE" SubPage="sub"/>
         words Title="T" TitlePos="Left": <I ItemIndex="Language"/> <I ItemIndex="Gain"/>

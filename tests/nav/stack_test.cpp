@@ -79,9 +79,6 @@ TEST_F(StackTest, PushesThatFail)
         main / main / main / full
         home | reads sub | main at More / main at More / main at More / full at More / sub: > More; Ip 192.168.1.5
         main / main / main / main / full
-        > More
-          Push    Go
-          Confirm
         home      | fails | > More
         down home | fails | > Push Go
         up home   | fails | > Confirm
@@ -106,15 +103,15 @@ TEST_F(StackTest, PushesThatFail)
 
 TEST_F(StackTest, FunctionsOfTheStack)
 {
-    char sub[] = "sub";
+    char missing[] = "missing";
     tagPAGE_NODE_S* pages = gstPageMgr.astPage;
-    EXPECT_EQ(printed([&] { EXPECT_EQ(osdMenuNextPage(sub) + osdMenuPrevPage(), -2); }), "");
+    EXPECT_EQ(osdMenuNextPage(missing) + osdMenuPrevPage(), -2);
     openAll("main / sub / third");
     EXPECT_EQ(osdMenuGetPrevPage(&pages[0]), nullptr);
     EXPECT_EQ(osdMenuGetPrevPage(&pages[2]), &pages[1]);
     EXPECT_EQ(osdMenuGetPrevPage(&pages[3]), nullptr);
-    platform().pages.clear();
-    EXPECT_EQ(printed([&] { EXPECT_EQ(osdMenuNextPage(sub), -1); }), "F L, pcPageName = sub\nF L, ParaseXml failed\n");
+    EXPECT_EQ(printed([&] { EXPECT_EQ(osdMenuNextPage(missing), -1); }),
+              "F L, pcPageName = missing\nF L, ParaseXml failed\n");
     EXPECT_EQ(osdMenuPrevPage(), 0);
     openAll("closed");
     gstPageMgr.s32PageCnt = -1;

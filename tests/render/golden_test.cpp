@@ -81,7 +81,6 @@ TEST_F(GoldenTest, NoOtherPictureMatches)
     EXPECT_FALSE(matchesGolden(canvas, "no_such_picture"));
     ASSERT_TRUE(matchesGolden(canvas, "tolvane_skin0_1080"));
     const SDL_Rect corner = {canvas->w - 1, canvas->h - 1, 1, 1};
-    const uint32_t threeSteps = pixelAt(canvas, corner.x, corner.y) - 0x03; // of blue
-    (void)SDL_FillRect(canvas, &corner, threeSteps);
+    (void)SDL_FillRect(canvas, &corner, pixelAt(canvas, corner.x, corner.y) - 0x03); // three steps of blue
     EXPECT_FALSE(matchesGolden(canvas, "tolvane_skin0_1080"));
 }

@@ -79,19 +79,17 @@ TEST_F(LayoutTest, TolvaneList)
     restart(large); // one size by height, no indent, a row lower than the arrow, hints that are cut below
     calls().lineHeight = 21;
     showAll("Layout='vertical_tolvane_align'");
+    makeAutomatic(itemOf("Sub")); // doesn't end this list
+    platform().language = "TraditionalChinese";
     expect(R"(
-        nav_arrow at 192,6 size 30x30 | IpMode at 50,10 plain 45 white | DhcpIp at 600,10
+        nav_arrow at 192,6 size 30x30 | IpMode at 50,10 tc 45 white | DhcpIp at 600,10
         Sub at 50,51 bold 45 grey
-        Zoom at 50,92 plain 45 grey | value at 600,92 size 350x21
+        Zoom at 50,92 tc 45 grey | value at 600,92 size 350x21
         ...
         amber line at 242,940 size 900x10
         nav_move at 242,970 size 150x50 | nav_enter at 442,970 size 150x30 | nav_change_value at 642,970 size 290x30
         Press at 50,859 bold 45 white
     )");
-    makeAutomatic(itemOf("Sub")); // doesn't end this list
-    platform().language = "TraditionalChinese";
-    expect("nav_arrow at 192,6 size 30x30 | IpMode at 50,10 tc 45 white | DhcpIp at 600,10\nSub at 50,51 bold 45 grey\n"
-           "Zoom at 50,92 tc 45 grey | value at 600,92 size 350x21\n...\nPress at 50,859 bold 45 white");
     EXPECT_THAT(linesOf({"measure"}), testing::Each(Not(HasSubstr(" tc "))));
     itemOf("IpMode").enCtx = NAME; // alone on the first level: amber as a title
     expect("nav_arrow at 192,6 size 30x30 | IpMode at 50,10 bold 45 amber\n...");
@@ -136,17 +134,17 @@ TEST_F(LayoutTest, PagedList)
            "Press at 70,850 plain 28 white");
     restart(large); // one size, no indent, no title
     showAll("Layout='vertical_align_keth'");
-    itemOf("Sub").bActive = 1;
     itemOf("Zoom").enItemPos = ITEM_POS_RIGHT;
     expect(R"(
-        IpMode at 45,140 plain 42 grey | value at 530,140 size 420x30
-        Sub at 45,180 plain 42 white
+        IpMode at 45,140 plain 42 white | value at 530,140 size 420x30
+        Sub at 45,180 plain 42 grey
         Zoom at 736,220 plain 42 grey | value at 530,220 size 420x30
         ...
-        Press at 45,850 plain 42 white
     )");
     itemOf("IpMode").bLine = 1; // on an empty cursor
-    expect("white line at 70,20 size 860x5\nIpMode at 45,35 plain 42 grey | value at 530,35 size 420x30\n...");
+    itemOf("Sub").bActive = 1;
+    expect("white line at 70,20 size 860x5\nIpMode at 45,35 plain 42 grey | value at 530,35 size 420x30\n"
+           "Sub at 45,75 plain 42 white\n...");
     restart();
     setText("Any", "v", "v");
     show(replaced("KEY_WITH_MSG COMMON MSG_WITH_SUBITEM CONFIRM CONFIRM_POP ", "(\\w+) ",
@@ -279,36 +277,40 @@ TEST_F(LayoutTest, IconGrid)
 
 TEST_F(LayoutTest, FailingCallLeavesTheRestOfTheList)
 {
-    const char* noTitle = "F L failed, pstItemNode->acItemIndex = \nF-L OSD_MENU_RenderTxt failed\n";
-    const char* noRow = "F L failed, pstItemNode->acItemIndex = IpMode\nF-L OSD_MENU_RenderTxt failed\nF L failed\n";
-    const std::string title = "T at 50,10 bold 30 amber\n";
-    const std::string rule = "white line at 70,60 size 860x10\n";
-    const std::tuple<std::string, const char*, int, const char*, std::string> cases[] = {
-        {tolvane, "language", 2, "F L failed\n", title + "Zoom at 60,60 tc 30 grey"},
-        {tolvane, "TTF_SetFontSize", 5, "F L\n", title + "Zoom at 60,60 tc 30 grey"},
-        {tolvane, "TTF_RenderUTF8_Blended", 2, "acItemIndex = IpMode\n",
-         title + "nav_arrow at 20,60 size 30x30 | Zoom at 60,60 tc 30 grey"},
-        {tolvane, "TTF_RenderUTF8_Blended", 3, "", "IpMode at 60,60 tc 30 white\nSub at 70,110 bold 30 grey\n"},
-        {tolvane, "access", 1, "nav_arrow.bmp\n", title + "IpMode at 60,60 tc 30 white"},
-        {tolvane, "access", 5, "nav_enter.bmp\nF L failed\n", "nav_move at 50,930 size 150x50\nPress at"},
-        {paged, "TTF_SetFontSize", 1, "F L\n", "arrow_all at 925,925 size 70x70\nIpMode at 70,140 plain 28 white"},
-        {paged, "TTF_RenderUTF8_Blended", 1, noTitle, "size 70x70\nIpMode at 70,140 plain 28 white"},
-        {paged, "TTF_SetFontSize", 3, "F L\nF L failed\n", rule + "Zoom at 70,80 plain 28 grey"},
-        {paged, "TTF_RenderUTF8_Blended", 2, noRow, rule + "Zoom at 70,80 plain 28 grey"},
-        {paged, "TTF_RenderUTF8_Blended", 3, "F L failed\n",
-         rule + "IpMode at 70,80 plain 28 white\nSub at 95,120 plain 28 grey"},
-        {paged, "TTF_RenderUTF8_Blended", 12, "F L failed\n",
-         "white line at 70,360 size 860x5\nrestart at 430,385 size 40x40\nPress at"},
-        {paged, "access", 7, "[F:L] Draw confirm fail\n",
-         "white line at 70,360 size 860x5\nRestart at 430,375 plain 28 grey"}};
-    for (const auto& [attributes, call, n, output, rows] : cases) {
+    const std::map<std::string, std::string> layouts = {
+        {"vertical", "Title='T' TitlePos='Left'"}, {"tolvane", tolvane}, {"paged", paged}};
+    // the call that fails, what is printed at last, a part of what is drawn
+    for (const auto& row : tableIn(R"(
+        vertical | TTF_SetFontSize 5         | F L  | grey; Zoom at 20,60 plain 28 grey
+        vertical | TTF_RenderUTF8_Blended 2  | acItemIndex = IpMode | grey; Zoom at 20,60 plain 28 grey
+        vertical | TTF_RenderUTF8_Blended 3  |      | IpMode at 20,60 plain 28 white; Sub at 30,110 bold 24 grey
+        tolvane  | language 2                | F L failed | amber; Zoom at 60,60 tc 30 grey
+        tolvane  | TTF_SetFontSize 5         | F L  | amber; Zoom at 60,60 tc 30 grey
+        tolvane  | TTF_RenderUTF8_Blended 2  | acItemIndex = IpMode | Zoom at 60,60 tc 30 grey
+        tolvane  | TTF_RenderUTF8_Blended 3  |      | IpMode at 60,60 tc 30 white; Sub at 70,110 bold 30 grey
+        tolvane  | access 1                  | nav_arrow.bmp | amber; IpMode at 60,60 tc 30 white
+        tolvane  | access 5                  | nav_enter.bmp; F L failed | nav_move at 50,930 size 150x50; Press at
+        paged    | TTF_SetFontSize 1         | F L  | size 70x70; IpMode at 70,140 plain 28 white
+        paged    | TTF_RenderUTF8_Blended 1  | acItemIndex = ; F-L OSD_MENU_RenderTxt failed
+            | size 70x70; IpMode at 70,140 plain 28 white
+        paged    | TTF_SetFontSize 3         | F L; F L failed | size 860x10; Zoom at 70,80 plain 28 grey
+        paged    | TTF_RenderUTF8_Blended 2  | acItemIndex = IpMode; F-L OSD_MENU_RenderTxt failed; F L failed
+            | size 860x10; Zoom at 70,80 plain 28 grey
+        paged    | TTF_RenderUTF8_Blended 3  | F L failed | IpMode at 70,80 plain 28 white; Sub at 95,120 plain 28 grey
+        paged    | TTF_RenderUTF8_Blended 12 | F L failed | restart at 430,385 size 40x40; Press at
+        paged    | access 7 | [F:L] Draw confirm fail | size 860x5; Restart at 430,375 plain 28 grey
+    )")) {
         restart();
-        showAll(attributes);
+        showAll(layouts.at(row[0]));
         platform().language = "TraditionalChinese"; // with a font to close
-        failCall(call, n);
-        EXPECT_THAT(printed([rows = rows] { EXPECT_THAT(redraw(), HasSubstr(rows)); }), EndsWith(output)) << call << n;
-        EXPECT_EQ(linesOf({"log 3 Load nav_arrow"}).size(), attributes == tolvane && n == 1 ? 1u : 0u) << call;
-        EXPECT_EQ(calls().fonts.size(), 2u) << call << n;
+        const std::vector<std::string> call = matched(row[1], "(.*) (.*)");
+        failCall(call[0], std::stoi(call[1]));
+        std::string drawn;
+        const std::string output = printed([&] { drawn = redraw(); });
+        EXPECT_THAT(replaced(drawn, "\n", "; "), HasSubstr(row[3])) << row[1];
+        EXPECT_THAT(replaced(output, "\n", "; "), EndsWith(row[2] + (row[2].empty() ? "" : "; "))) << row[1];
+        EXPECT_EQ(linesOf({"log 3 Load nav_arrow"}).size(), row[2].rfind("nav_arrow", 0) == 0 ? 1u : 0u) << row[1];
+        EXPECT_EQ(calls().fonts.size(), 2u) << row[1];
         platform().language = "English";
     }
 }

