@@ -109,11 +109,17 @@ std::string meant_by(const Element& element, const std::string& attribute)
     return is_unknown(attribute) ? nearest_word(attribute, names_on(role_of(element))) : "";
 }
 
+/// Tells an editor where the schema is.
+bool is_for_editors(const std::string& attribute)
+{
+    return attribute == "xmlns:xsi" || attribute == "xsi:noNamespaceSchemaLocation";
+}
+
 void find_unknown(const ResourceFolder& folder, const Complain& complain)
 {
     for_each_read(folder, [&](const Element& element) {
         for (const Attribute& attribute : element.attributes) {
-            if (is_unknown(attribute.name)) {
+            if (is_unknown(attribute.name) && !is_for_editors(attribute.name)) {
                 complain(attribute.place, "attribute '" + attribute.name + "' means nothing to the menu",
                          one_of(attribute.name, names_on(role_of(element))));
             }
@@ -158,7 +164,7 @@ void find_idle(const ResourceFolder& folder, const Complain& complain)
                          "one of " + joined(names_on(role)));
             } else if (use != nullptr && !is_read(element, *use)) {
                 complain(attribute.place, attribute.name + " does nothing here",
-                         std::string("it only ") + find_case(element, use->id)->words);
+                         std::string("it ") + find_case(element, use->id)->words);
             }
         }
     });
@@ -205,7 +211,8 @@ void find_long(const ResourceFolder& folder, const Complain& complain)
 {
     for_each_use(folder, [&](const Element&, const Attribute& attribute, const AttributeUse& use) {
         const bool is_other = use.holds == Holds::Word || use.holds == Holds::Number || use.holds == Holds::Flag;
-        if (!is_other && attribute.value.size() >= OSD_TEXT_LEN) {
+        const bool is_file = use.holds == Holds::Page && folder.pages.count(attribute.value) > 0; // which has a rule
+        if (!is_other && !is_file && attribute.value.size() >= OSD_TEXT_LEN) {
             complain(attribute.place, attribute.name + " " + words_of_length(attribute.value), "at most 31 bytes");
         }
     });

@@ -39,7 +39,7 @@ void unite_causes(std::vector<Finding>& findings)
     for (const auto& [what, cause] : seen) {
         if (cause.second > 0) {
             causes[cause.first].what +=
-                " (nor for " + std::to_string(cause.second) + " more place" + (cause.second > 1 ? "s" : "") + ")";
+                " (the same at " + std::to_string(cause.second) + " more place" + (cause.second > 1 ? "s" : "") + ")";
         }
     }
     findings = std::move(causes);

@@ -68,8 +68,8 @@ private:
         }
     }
 
-    /// Whether the cause is known: an error at the element or one of its attributes, anything at the very place, or a
-    /// text that is missing in all or in some languages.
+    /// Whether the cause is known: an error at the element or one of its attributes, anything at the very place, a text
+    /// that is missing in all or in some languages, or a page with a long name.
     bool is_told(const Fault& fault) const
     {
         const Element& element = *fault.element;
@@ -77,7 +77,8 @@ private:
         if (odd_.count(place) > 0 || wrong_.count(key_of_place(element.place)) > 0 || is_below_told(element)) {
             return true;
         }
-        return fault.kind == PAGE_FAULT_NO_TEXT ||
+        const bool long_page = fault.kind == PAGE_FAULT_TOO_LONG && folder_.pages.count(fault.value) > 0;
+        return long_page || fault.kind == PAGE_FAULT_NO_TEXT ||
                std::any_of(element.attributes.begin(), element.attributes.end(),
                            [&](const Attribute& attribute) { return wrong_.count(key_of_place(attribute.place)) > 0; });
     }

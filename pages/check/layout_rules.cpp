@@ -95,19 +95,27 @@ void find_odd_contexts(const ResourceFolder& folder, const Complain& complain)
 {
     for_each_item(folder, [&](const Element& item) {
         const auto kind = kind_of(item);
-        const Attribute* context = item.find(osdAttrName(ATTR_CTX));
-        if (!kind || !context_of(item) || !layout_of(item) || (kind == CONFIRM_POP && context_of(item) == NAME)) {
+        if (!kind || !context_of(item) || !layout_of(item) || layout_of(item) == PAGE_LAYOUT_ICON ||
+            (kind == CONFIRM_POP && context_of(item) == NAME)) {
             return; // other rules tell of these
         }
-        const bool icons = layout_of(item) == PAGE_LAYOUT_ICON;
-        const std::vector<std::string> words = icons ? std::vector<std::string>{"ICON_TXT"} : contexts_of(*kind);
-        const bool goes =
-            icons ? has_picture(context_of(item)) : std::count(words.begin(), words.end(), context->value) > 0;
-        if (!goes) {
-            complain(context->place,
-                     "Ctx '" + context->value + "' doesn't go with " +
-                         (icons ? "layout 'icon'" : "Attr '" + item.value(osdAttrName(ATTR_ATTR)) + "'"),
-                     one_of(context->value, words));
+        const Attribute& context = *item.find(osdAttrName(ATTR_CTX));
+        const std::vector<std::string> words = contexts_of(*kind);
+        if (std::count(words.begin(), words.end(), context.value) == 0) {
+            complain(context.place,
+                     "Ctx '" + context.value + "' doesn't go with Attr '" + item.value(osdAttrName(ATTR_ATTR)) + "'",
+                     one_of(context.value, words));
+        }
+    });
+}
+
+void find_no_icons(const ResourceFolder& folder, const Complain& complain)
+{
+    for_each_item(folder, [&](const Element& item) {
+        const bool top = item.parent == nullptr || role_of(*item.parent) == On::Page;
+        if (top && layout_of(item) == PAGE_LAYOUT_ICON && context_of(item) && !has_picture(context_of(item))) {
+            complain(item.place_of(osdAttrName(ATTR_CTX)), "an item without a picture isn't drawn in layout 'icon'",
+                     "Ctx=\"ICON_TXT\" with Pic and SelectPic");
         }
     });
 }
@@ -190,7 +198,8 @@ const std::vector<Rule>& layout_rules()
         {"no-picture", Severity::Error, "Pictures that a page names are there.", find_missing_pictures},
         {"menu-picture", Severity::Error, "Pictures that the menu draws by itself are there.",
          find_missing_own_pictures},
-        {"context", Severity::Warning, "What an item shows goes with its kind and the page.", find_odd_contexts},
+        {"context", Severity::Warning, "What an item shows goes with its kind.", find_odd_contexts},
+        {"icon", Severity::Error, "Items of layout 'icon' have pictures.", find_no_icons},
         {"value-type", Severity::Error, "The type of a value goes with what the item shows.", find_odd_types},
         {"twin", Severity::Error, "No item stands twice among those that show together.", find_twins},
         {"hidden-cursor", Severity::Error, "A page in layout 'vertical_align_keth' doesn't begin with STATUS.",

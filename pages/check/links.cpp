@@ -7,6 +7,8 @@ namespace pages {
 
 bool Link::is_back() const { return attribute->name == osdAttrName(ATTR_PREV_PAGE); }
 
+bool Link::is_next() const { return attribute->name == osdAttrName(ATTR_NEXT_PAGE); }
+
 bool Link::is_question() const { return attribute->name == osdAttrName(ATTR_CONFIRM_PAGE); }
 
 std::vector<Link> all_links(const ResourceFolder& folder)

@@ -14,6 +14,7 @@ struct Link {
     std::string target; ///< the name of a page that may be missing
 
     bool is_back() const; ///< closes the page and opens none
+    bool is_next() const;
     bool is_question() const;
 };
 

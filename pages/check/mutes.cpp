@@ -109,9 +109,9 @@ void tell(const Mute& mute, bool measured, std::vector<Finding>& findings)
         }
         warn("there is no rule '" + mute.rule + "'", nearest_or(mute.rule, names, "one of 'check --rules'"));
     } else if (mute.reason.empty()) {
-        warn("no reason is given to allow '" + mute.rule + "'", "one");
+        warn("no reason is given to allow '" + mute.rule + "'", "RULE: reason");
     } else if (!mute.is_used && (measured || rule->told != Told::Measured)) {
-        warn("there is nothing here that rule '" + mute.rule + "' complains of", "this to be removed");
+        warn("there is nothing here that rule '" + mute.rule + "' complains of", "");
     }
 }
 

@@ -59,11 +59,14 @@ bool has_answer(const Element& question, const std::string& key)
 void find_missing_answers(const ResourceFolder& folder, const Complain& complain)
 {
     for_each_question(folder, [&](const Link&, const Element& question) {
+        std::string missing;
         for (const char* key : {OSD_KEY_NO, OSD_KEY_YES}) {
-            if (is_question(layout_of(question)) && !has_answer(question, key)) {
-                complain(question.place, std::string("the question has no button '") + key + "'",
-                         "items 'No' and 'Yes'");
+            if (!has_answer(question, key)) {
+                missing += (missing.empty() ? "'" : "' and '") + std::string(key);
             }
+        }
+        if (is_question(layout_of(question)) && !question.children.empty() && !missing.empty()) {
+            complain(question.place, "the question has no button " + missing + "'", "items 'No' and 'Yes'");
         }
     });
 }
@@ -148,7 +151,7 @@ void find_lost_addresses(const ResourceFolder& folder, const Complain& complain)
             const bool edited = role_of(element) == On::Item && kind_of(element) == EDITABLE;
             if (edited && (page.name != OSD_PAGE_NETWORK || !is_below_option(element))) {
                 complain(element.place, "the address '" + key_of(element) + "' is edited and never stored",
-                         "it below an option of an item on page 'network'");
+                         "such an item below an option on page 'network'");
             }
         });
     });

@@ -5,6 +5,7 @@
 
 #include "menu/core/led_color.h"
 #include "menu/core/value_status.h"
+#include "osd_types.h"
 #include "pages/check/page_walk.h"
 
 namespace pages {
@@ -37,14 +38,15 @@ struct Wanted {
     SettingKind kind;
 };
 
-/// None for an item that shows no setting, or one in a zone that isn't there.
+/// None for an item that shows no setting, or of which another rule tells that it can't be found.
 std::optional<Wanted> wanted_by(const ResourceFolder& folder, const Element& item)
 {
     const auto zone = folder.definitions.zones.find(item.value(osdAttrName(ATTR_DATA_ZONE)));
     const bool led = osdLedByteFind(index_of(item).c_str()) != nullptr;
     const SettingId id{zone == folder.definitions.zones.end() ? "" : zone->second,
                        led ? OSD_KEY_LED_COLOR : index_of(item)};
-    if (zone == folder.definitions.zones.end() && item.find(osdAttrName(ATTR_DATA_ZONE)) != nullptr) {
+    const bool lost = zone == folder.definitions.zones.end() && item.find(osdAttrName(ATTR_DATA_ZONE)) != nullptr;
+    if (lost || item.find(osdAttrName(ATTR_ITEM_INDEX)) == nullptr) {
         return std::nullopt;
     }
     const auto kind = kind_of(item);
@@ -123,7 +125,8 @@ void find_wrong_kinds(const ResourceFolder& folder, const Complain& complain)
         const auto wanted = wanted_by(folder, item);
         const auto found = wanted ? folder.definitions.settings.find(wanted->id) : folder.definitions.settings.end();
         const bool told = context_of(item) == NAME_BAR_VAL && !is_numerical(item); // by the rule for value types
-        if (found != folder.definitions.settings.end() && found->second.kind != wanted->kind && !told) {
+        if (found != folder.definitions.settings.end() && found->second.kind != wanted->kind && !told &&
+            !is_setting_unusable(folder, wanted->id.key)) {
             complain(item.place_of(osdAttrName(ATTR_ITEM_INDEX)),
                      "setting " + to_string(wanted->id) + " is of kind " + name_of(found->second.kind),
                      std::string("kind ") + name_of(wanted->kind));
@@ -131,23 +134,34 @@ void find_wrong_kinds(const ResourceFolder& folder, const Complain& complain)
     });
 }
 
+/// What an item offers; none where another rule tells of its options.
+std::optional<std::vector<std::string>> offer_of(const Element& item)
+{
+    std::vector<std::string> offered;
+    for (const auto& option : item.children) {
+        if (option->find(osdAttrName(ATTR_MODE_INDEX)) == nullptr || offered.size() == OSD_OPTION_MAX) {
+            return std::nullopt;
+        }
+        offered.push_back(option->value(osdAttrName(ATTR_MODE_INDEX)));
+    }
+    return offered;
+}
+
 void find_other_options(const ResourceFolder& folder, const Complain& complain)
 {
     for_each_item(folder, [&](const Element& item) {
         const auto wanted = wanted_by(folder, item);
         const auto found = wanted ? folder.definitions.settings.find(wanted->id) : folder.definitions.settings.end();
-        if (!has_options(kind_of(item)) || found == folder.definitions.settings.end()) {
+        const auto offered = offer_of(item);
+        if (!has_options(kind_of(item)) || found == folder.definitions.settings.end() || !offered ||
+            is_setting_unusable(folder, wanted->id.key)) {
             return;
-        }
-        std::vector<std::string> offered;
-        for (const auto& option : item.children) {
-            offered.push_back(option->value(osdAttrName(ATTR_MODE_INDEX)));
         }
         const std::vector<std::string>& options = found->second.options;
         if (found->second.kind == SettingKind::Option &&
-            !std::is_permutation(offered.begin(), offered.end(), options.begin(), options.end())) {
+            !std::is_permutation(offered->begin(), offered->end(), options.begin(), options.end())) {
             complain(item.place,
-                     "item '" + index_of(item) + "' offers " + (offered.empty() ? "nothing" : joined(offered)),
+                     "item '" + index_of(item) + "' offers " + (offered->empty() ? "nothing" : joined(*offered)),
                      joined(options) + ", as the setting has them");
         }
     });
@@ -188,9 +202,10 @@ void find_missing_languages(const ResourceFolder& folder, const Complain& compla
 {
     for (const auto& [option, language] : folder.definitions.languages) {
         const std::string file = "lang/" + language + ".json";
-        if (folder.languages.count(language) == 0 && folder.broken.count(file) == 0) {
-            complain(place_in_settings(folder, "/languages/" + option), "there is no file " + file,
-                     nearest_or(language, keys_of(folder.languages), "it"));
+        if (folder.languages.count(language) == 0 && folder.broken.count(file) == 0 && !folder.languages.empty()) {
+            complain(
+                place_in_settings(folder, "/languages/" + option), "there is no file " + file,
+                nearest_or(language, keys_of(folder.languages), "one of lang/: " + joined(keys_of(folder.languages))));
         }
     }
 }
@@ -205,7 +220,7 @@ void find_unlisted_languages(const ResourceFolder& folder, const Complain& compl
         const auto is_named = [name = language](const auto& row) { return row.second == name; };
         if (std::none_of(listed.begin(), listed.end(), is_named)) {
             complain({"lang/" + language + ".json"}, "nobody can choose the language '" + language + "'",
-                     "it in 'languages' of settings.json");
+                     "a line for it in 'languages' of settings.json");
         }
     }
 }

@@ -93,22 +93,40 @@ void find_sixth_pages(const ResourceFolder& folder, const Complain& complain)
     }
 }
 
-/// Whether a link that leads nowhere may mean the page.
-bool is_missed(const ResourceFolder& folder, const std::string& page)
+/// Whether a link that leads nowhere may mean the page, or the page that turns to it says otherwise.
+bool is_missed(const ResourceFolder& folder, const std::vector<Link>& links, const std::string& page)
 {
-    const std::vector<Link> links = all_links(folder);
     return std::any_of(links.begin(), links.end(), [&](const Link& link) {
-        return folder.pages.count(link.target) == 0 && nearest_word(link.target, keys_of(folder.pages)) == page;
+        const bool turns = link.is_back() && link.page->name == page && folder.pages.count(link.target) > 0;
+        return turns ||
+               (folder.pages.count(link.target) == 0 && nearest_word(link.target, keys_of(folder.pages)) == page);
     });
+}
+
+/// Whether all is known that leads from a page: it can be read, no item is passed over, and each that opens a page says
+/// which one.
+bool is_plain(const PageFile& page)
+{
+    bool plain = page.root != nullptr;
+    if (plain) {
+        for_each_element(*page.root, [&](const Element& element) {
+            const bool opens = role_of(element) == On::Item && kind_of(element) == SUBPAGE;
+            const bool asking = role_of(element) == On::Item && asks(kind_of(element));
+            plain = plain && !is_misplaced(element) && (!is_blind(element) || element.children.empty()) &&
+                    (!opens || element.find(osdAttrName(ATTR_SUB_PAGE)) != nullptr) &&
+                    (!asking || element.find(osdAttrName(ATTR_CONFIRM_PAGE)) != nullptr);
+        });
+    }
+    return plain;
 }
 
 /// A page that is reached from another one that nobody reaches isn't told: one cause.
 void find_unreached(const ResourceFolder& folder, const Complain& complain)
 {
-    const bool all_known = std::all_of(folder.pages.begin(), folder.pages.end(),
-                                       [](const auto& page) { return page.second.root != nullptr; });
+    const bool all_known =
+        std::all_of(folder.pages.begin(), folder.pages.end(), [](const auto& page) { return is_plain(page.second); });
     if (!all_known || folder.pages.count(OSD_PAGE_MAIN) == 0) {
-        return; // they may be reached from one that can't be read
+        return; // another rule tells of what may lead to them
     }
     Walk walk(folder);
     const auto none = [](const Link&, const Walk::Stack&) {};
@@ -123,7 +141,7 @@ void find_unreached(const ResourceFolder& folder, const Complain& complain)
             });
             if (walk.reached().count(name) == 0 && (linked || !has_way)) {
                 walk.from(name, none);
-                if (!is_missed(folder, name)) {
+                if (!is_missed(folder, links, name)) {
                     complain(page.root->place, "no key leads to page '" + name + "'",
                              "an item that opens it on a page that 'main' or 'advanced' leads to");
                 }
@@ -132,23 +150,32 @@ void find_unreached(const ResourceFolder& folder, const Complain& complain)
     }
 }
 
+/// Whether a page says itself where it turns to, or another one says that it turns to this one: the fault is told there.
+bool is_told_forwards(const std::vector<Link>& links, const Link& back)
+{
+    return std::any_of(links.begin(), links.end(), [&](const Link& link) {
+        return link.is_next() && (link.page->name == back.target || link.target == back.page->name);
+    });
+}
+
 void find_wrong_turns(const ResourceFolder& folder, const Complain& complain)
 {
-    for (const Link& link : all_links(folder)) {
-        const bool back = link.is_back();
-        const std::string other = osdAttrName(back ? ATTR_NEXT_PAGE : ATTR_PREV_PAGE);
-        const auto target = folder.pages.find(link.target);
-        if (!back && link.attribute->name != osdAttrName(ATTR_NEXT_PAGE)) {
+    const std::vector<Link> links = all_links(folder);
+    for (const Link& link : links) {
+        if (!link.is_back() && !link.is_next()) {
             continue;
         }
+        const std::string other = osdAttrName(link.is_back() ? ATTR_NEXT_PAGE : ATTR_PREV_PAGE);
+        const auto target = folder.pages.find(link.target);
+        const Element* root = target == folder.pages.end() ? nullptr : target->second.root.get();
         if (link.page->root->find(osdAttrName(ATTR_CUR_PAGES_NUM)) == nullptr) {
             complain(link.attribute->place, link.attribute->name + " does nothing without CurPagesNum",
                      "CurPagesNum=\"...\"");
-        } else if (target != folder.pages.end() && target->second.root != nullptr &&
-                   target->second.root->value(other) != link.page->name) {
+        } else if (root != nullptr && root->value(other) != link.page->name &&
+                   !(link.is_back() && is_told_forwards(links, link))) {
             complain(link.attribute->place,
                      "page '" + link.target + "' doesn't turn to this one: its " + other + " is '" +
-                         target->second.root->value(other) + "'",
+                         root->value(other) + "'",
                      other + "=\"" + link.page->name + "\" there");
         }
     }
