@@ -51,7 +51,7 @@ std::string comment_for(const std::vector<TextUse>& uses, const TextRoom* room)
               std::to_string(max_bytes) + " bytes";
     if (room != nullptr) {
         comment += ", and " + std::to_string(room->room) + " pixels on page " + room->page +
-                   ", where the English has " + std::to_string(room->width);
+                   (room->view.uhd ? " at 4k" : " at 1080p") + ", where the English has " + std::to_string(room->width);
     }
     return comment + "\n";
 }
