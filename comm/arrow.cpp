@@ -5,6 +5,7 @@
 #include "comm/arith.h"
 #include "comm/image.h"
 #include "comm/log.h"
+#include "comm/picture_names.h"
 #include "osd_comm.h"
 
 // Fractions of the menu's width and height, unless said otherwise.
@@ -50,7 +51,7 @@ SDL_Rect osdArrowBeside(const SDL_Rect& stMenuRect, const SDL_Rect& stItemRect)
 
 bool osdArrowMark(SDL_Surface* pstDst, const SDL_Rect& stMenuRect, const SDL_Rect& stItemRect)
 {
-    return osdArrowDraw(pstDst, "nav_arrow", true, osdArrowBeside(stMenuRect, stItemRect),
+    return osdArrowDraw(pstDst, OSD_PIC_NAV_ARROW, true, osdArrowBeside(stMenuRect, stItemRect),
                         OSD_NAME(OSD_COMM_DrawArrows));
 }
 
@@ -71,7 +72,8 @@ bool osdArrowEnter(SDL_Surface* pstDst, const SDL_Rect& stMenuRect, const SDL_Re
     const int s32H = osdTrunc(osdF32(stMenuRect.h) * c_f32ArrowSize);
     const int s32X = osdTrunc(osdF32(stItemRect.x) * c_f32EnterStretch + osdF32(stItemRect.w));
     const int s32Y = osdTrunc(osdF32(stItemRect.h) * c_f32EnterDrop + osdF32(stItemRect.y));
-    return osdArrowDraw(pstDst, "nav_arrow", bBright, {s32X, s32Y, s32W, s32H}, OSD_NAME(OSD_COMM_DrawSubPageEnter));
+    return osdArrowDraw(pstDst, OSD_PIC_NAV_ARROW, bBright, {s32X, s32Y, s32W, s32H},
+                        OSD_NAME(OSD_COMM_DrawSubPageEnter));
 }
 
 bool osdArrowButton(SDL_Surface* pstDst, SDL_Rect* pstPos, const SDL_Rect& stMenuRect, bool bBright,

@@ -3,6 +3,7 @@
 #include "comm/arith.h"
 #include "comm/image.h"
 #include "comm/log.h"
+#include "comm/picture_names.h"
 #include "comm/text_surface.h"
 
 static constexpr float c_f32BarWidth = 0.7f;       // of the widget's width
@@ -35,12 +36,12 @@ static bool osdSliderDraw(SDL_Surface* pstOn, const SDL_Rect& stRect, const tagB
                           tagSLIDER_S* pstSlider)
 {
     const int s32BarW = osdTrunc(osdF32(stRect.w) * c_f32BarWidth);
-    pstSlider->pstBar = osdImageGet("bar", s32BarW, stRect.h / 2);
+    pstSlider->pstBar = osdImageGet(OSD_PIC_BAR, s32BarW, stRect.h / 2);
     if (pstSlider->pstBar == nullptr) {
         return false;
     }
     osdImagePut(pstSlider->pstBar.get(), pstOn, 0, stRect.h / 4);
-    pstSlider->pstBlock = osdImageGet("block", s32BarW / c_s32BlockPart, stRect.h);
+    pstSlider->pstBlock = osdImageGet(OSD_PIC_BLOCK, s32BarW / c_s32BlockPart, stRect.h);
     if (pstSlider->pstBlock == nullptr) {
         return false;
     }
@@ -112,7 +113,7 @@ OSD_SURFACE_PTR osdArrowedSurface(const tagWIDGET_TEXT_S& stText, const SDL_Rect
         OSD_TRACE_FAILED(OSD_COMM_GetTxtSurfaceAroundArrows);
         return nullptr;
     }
-    const OSD_SURFACE_PTR pstLeft = osdArrowedArrow("arrow_left", stArrow, stText.bBright);
+    const OSD_SURFACE_PTR pstLeft = osdArrowedArrow(OSD_PIC_ARROW_LEFT, stArrow, stText.bBright);
     if (pstLeft == nullptr) {
         return nullptr;
     }
@@ -123,7 +124,7 @@ OSD_SURFACE_PTR osdArrowedSurface(const tagWIDGET_TEXT_S& stText, const SDL_Rect
         return nullptr;
     }
     osdImagePut(pstTxt.get(), pstWidget.get(), osdTrunc(f32W * c_f32ArrowTxtX), 0);
-    const OSD_SURFACE_PTR pstRight = osdArrowedArrow("arrow_right", stArrow, stText.bBright);
+    const OSD_SURFACE_PTR pstRight = osdArrowedArrow(OSD_PIC_ARROW_RIGHT, stArrow, stText.bBright);
     if (pstRight == nullptr) {
         return nullptr;
     }

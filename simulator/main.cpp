@@ -23,7 +23,7 @@ int main(int argc, char** argv)
 {
     try {
         if (const auto options = sim::parse_options(argc, argv)) {
-            sim::run(*options);
+            return sim::run(*options);
         }
         return 0;
     } catch (const sim::BadInput& error) {

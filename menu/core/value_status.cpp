@@ -1,5 +1,7 @@
 #include "menu/core/value_status.h"
 
+#include <iterator>
+
 #include "comm/text.h"
 #include "menu/core/words.h"
 #include "osd_menu.h"
@@ -75,6 +77,15 @@ static constexpr tagSTATUS_SOURCE_S c_astStatusSource[] = {
     {"FullNdiVersion", osdStatusFromHost, OSD_MENU_GET_FULL_NDI_VERSION, nullptr},
     {"NdiStatus", osdStatusTranslated, OSD_MENU_GET_NDI_STATUS, nullptr},
     {OSD_KEY_LED_COLOR, osdStatusFromHost, OSD_MENU_GET_LED_CUSTOM_COLOR, nullptr}};
+
+tagSTATUS_KEY_S osdStatusKey(size_t uIdx)
+{
+    if (uIdx >= std::size(c_astStatusSource)) {
+        return {};
+    }
+    const tagSTATUS_SOURCE_S& stSource = c_astStatusSource[uIdx];
+    return {stSource.pcKey, stSource.pcParent, stSource.pfnFill == osdStatusTranslated};
+}
 
 void osdStatusRead(const char* pcLanguage, tagITEM_NODE_S* pstItem)
 {

@@ -1,5 +1,7 @@
 #include "menu/nav/confirm_page.h"
 
+#include <iterator>
+
 #include "comm/text.h"
 #include "menu/core/canvas.h"
 #include "menu/core/change.h"
@@ -96,15 +98,31 @@ static constexpr tagCONFIRM_PAGE_S c_astConfirmPage[] = {{OSD_PAGE_NETWORK, osdN
                                                          {OSD_PAGE_VIDEO, osdVideoVisit, false},
                                                          {OSD_PAGE_ROTATE, osdRotateVisit, true}};
 
-// The page below a confirm page, when it is one that is confirmed as a whole; else null.
-static const tagCONFIRM_PAGE_S* osdConfirmFind(const tagPAGE_NODE_S* pstParent)
+const char* osdConfirmPageName(size_t uIdx)
+{
+    return uIdx < std::size(c_astConfirmPage) ? c_astConfirmPage[uIdx].pcName : nullptr;
+}
+
+static const tagCONFIRM_PAGE_S* osdConfirmNamed(const char* pcPageName)
 {
     for (const tagCONFIRM_PAGE_S& stPage : c_astConfirmPage) {
-        if (pstParent != nullptr && osdTextEqual(pstParent->acPageName, stPage.pcName)) {
+        if (osdTextEqual(pcPageName, stPage.pcName)) {
             return &stPage;
         }
     }
     return nullptr;
+}
+
+bool osdConfirmOnRestart(const char* pcPageName)
+{
+    const tagCONFIRM_PAGE_S* pstConfirm = osdConfirmNamed(pcPageName);
+    return pstConfirm != nullptr && pstConfirm->bOnRestart;
+}
+
+// The page below a confirm page, when it is one that is confirmed as a whole; else null.
+static const tagCONFIRM_PAGE_S* osdConfirmFind(const tagPAGE_NODE_S* pstParent)
+{
+    return pstParent != nullptr ? osdConfirmNamed(pstParent->acPageName) : nullptr;
 }
 
 static void osdConfirmWalk(tagPAGE_NODE_S* pstParent, OSD_CONFIRM_VISIT pfnVisit)

@@ -16,6 +16,7 @@
 #include "comm/arith.h"
 #include "comm/arrow.h"
 #include "comm/log.h"
+#include "comm/picture_names.h"
 #include "comm/shape.h"
 #include "comm/text.h"
 #include "comm/text_surface.h"
@@ -47,11 +48,11 @@ struct tagBUTTON_PIC_S {
     const char* pcKey;
     const char* pcPic;
 };
-static constexpr tagBUTTON_PIC_S c_astButtonPic[] = {{OSD_KEY_FACTORY_RESTORE, "default"},
-                                                     {OSD_KEY_RESTORE_WB, "default"},
-                                                     {OSD_KEY_RESTORE_IMG, "default"},
-                                                     {OSD_KEY_RESTORE_EXP, "default"},
-                                                     {OSD_KEY_RESTART, "restart"}};
+static constexpr tagBUTTON_PIC_S c_astButtonPic[] = {{OSD_KEY_FACTORY_RESTORE, OSD_PIC_DEFAULT},
+                                                     {OSD_KEY_RESTORE_WB, OSD_PIC_DEFAULT},
+                                                     {OSD_KEY_RESTORE_IMG, OSD_PIC_DEFAULT},
+                                                     {OSD_KEY_RESTORE_EXP, OSD_PIC_DEFAULT},
+                                                     {OSD_KEY_RESTART, OSD_PIC_RESTART}};
 
 static const char* osdPagedPicture(const char* pcKey)
 {
@@ -60,7 +61,7 @@ static const char* osdPagedPicture(const char* pcKey)
             return stButton.pcPic;
         }
     }
-    return "confirm";
+    return OSD_PIC_CONFIRM;
 }
 
 static int osdPagedSize() { return osdTrunc(gstMenuMgr.f32Scale * c_f32PagedSize); }
@@ -72,8 +73,8 @@ static bool osdPagedBright(tagITEM_NODE_S* pstItem, OSD_BOOL bSelected)
 
 void osdPagedTurnArrow(const tagPAGE_TURN_S& stTurn)
 {
-    static constexpr const char* apcPic[2][2] = {{nullptr, "arrow_top"},
-                                                 {"arrow_bottom", "arrow_all"}}; // next, previous
+    static constexpr const char* apcPic[2][2] = {{nullptr, OSD_PIC_ARROW_TOP},
+                                                 {OSD_PIC_ARROW_BOTTOM, OSD_PIC_ARROW_ALL}}; // next, previous
     const char* pcPic = apcPic[stTurn.bNextPage != 0 ? 1 : 0][stTurn.bPrevPage != 0 ? 1 : 0];
     if (pcPic != nullptr) {
         osdArrowTurn(gstMenuMgr.pstSurface, gstMenuMgr.stCanvas.stMenuRect, pcPic);

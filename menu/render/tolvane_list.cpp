@@ -19,6 +19,7 @@
 #include "comm/font.h"
 #include "comm/image.h"
 #include "comm/log.h"
+#include "comm/picture_names.h"
 #include "comm/shape.h"
 #include "comm/text.h"
 #include "comm/text_surface.h"
@@ -53,10 +54,10 @@ struct tagHINT_S {
     const char* pcPic;
     bool bWide;
 };
-static constexpr tagHINT_S c_stHintMove = {"nav_move", false};
-static constexpr tagHINT_S c_stHintEnter = {"nav_enter", false};
-static constexpr tagHINT_S c_stHintSet = {"nav_set", false};
-static constexpr tagHINT_S c_stHintChange = {"nav_change_value", true};
+static constexpr tagHINT_S c_stHintMove = {OSD_PIC_NAV_MOVE, false};
+static constexpr tagHINT_S c_stHintEnter = {OSD_PIC_NAV_ENTER, false};
+static constexpr tagHINT_S c_stHintSet = {OSD_PIC_NAV_SET, false};
+static constexpr tagHINT_S c_stHintChange = {OSD_PIC_NAV_CHANGE_VALUE, true};
 static constexpr tagHINT_S c_stHintNone = {nullptr, false};
 
 // By tagITEM_PIC_TYPE_E.
@@ -90,7 +91,7 @@ static int osdTolvaneSize()
 static void osdTolvaneArrow(const SDL_Rect& stLabel)
 {
     const SDL_Rect stArrow = osdArrowBeside(gstMenuMgr.stCanvas.stMenuRect, stLabel);
-    const OSD_SURFACE_PTR pstArrow = osdImageGet("nav_arrow", stArrow.w, stArrow.h);
+    const OSD_SURFACE_PTR pstArrow = osdImageGet(OSD_PIC_NAV_ARROW, stArrow.w, stArrow.h);
     if (pstArrow == nullptr) {
         OSD_LOG(OSD_MENU_RenderVerticalTolvaneItem, OSD_LOG_LEVEL_ERR, "Load nav_arrow.bmp failed");
         return;

@@ -44,10 +44,12 @@ std::vector<Word> kinds()
           "A fact of the camera. With NAME_VAL or NAME_IP_VAL.",
           "A COMMON value that waits for home, while Msg shows; going up or down drops it.",
           "Left and right change the value at once. With NAME_VAL and OPTTXT, or NAME_BAR_VAL and NUMERICAL.",
-          "An address that is edited between two presses of home. With NAME_IP_VAL and EDITTXT.",
+          "An address that is edited between two presses of home; stored under an option on page network only. With "
+          "NAME_IP_VAL and EDITTXT.",
           "A button, says \"Loading\" while the camera works; an answer. With NAME_VAL; answers and Back with NAME.",
-          "A button that asks first. With NAME_VAL.", "A button without value that asks first. With NAME.",
-          "A COMMON value whose options hold items. With NAME_VAL and OPTTXT.",
+          "A button that asks first. With NAME_VAL, never NAME.", "A button without value that asks first. With NAME.",
+          "A COMMON value whose options hold items: exactly the setting's options, at most 32. With NAME_VAL and "
+          "OPTTXT.",
           "Opens a page. With NAME, icons with ICON_TXT.",
           "SUBITEM that waits as KEY_WITH_MSG does. With NAME_VAL and OPTTXT."}});
 }
@@ -63,9 +65,11 @@ std::vector<Word> picture_types()
                                        "Enter and change.", "Set."}});
 }
 
-std::vector<Word> yes() { return {{"Yes", "Values wait for a question."}}; }
+std::vector<Word> yes_or_no() { return {{"Yes", "Values wait for a question."}, {"No", "As without it."}}; }
 
 } // namespace
+
+const char* AttributeUse::name() const { return osdAttrName(id); }
 
 std::vector<std::string> AttributeUse::word_list() const
 {
@@ -80,7 +84,7 @@ const std::vector<AttributeUse>& attribute_uses()
 {
     static const std::vector<AttributeUse> uses = {
         {ATTR_LAYOUT, On::Page, Holds::Word, "every page", "How the page is drawn and walked.", layouts()},
-        {ATTR_COUNT_PER_LINE, On::Page, Holds::Number, "icon", "Icons in a row, 1 or more.", {}},
+        {ATTR_COUNT_PER_LINE, On::Page, Holds::Number, "icon", "Icons in a row, 1 or more, in layout icon.", {}},
         {ATTR_TITLE, On::Page, Holds::Label, "", "The title.", {}},
         {ATTR_TITLE_POS, On::Page, Holds::Word, "a page with Title", "Changes nothing on screen.",
          explain(c_astTitlePosWord, {{"Left.", "Right.", "In the middle."}})},
@@ -98,13 +102,19 @@ const std::vector<AttributeUse>& attribute_uses()
          "",
          "The page before the first row, which must name this one as NextPage; with CurPagesNum.",
          {}},
-        {ATTR_CONFIRM_BTN, On::Page, Holds::Word, "", "Whether values wait for a question.", yes()},
+        {ATTR_CONFIRM_BTN, On::Page, Holds::Word, "", "Whether values wait for a question, in lists.", yes_or_no()},
         {ATTR_RD_ONLY, On::Page, Holds::Number, "", "1 is kept for the host and changes nothing on screen.", {}},
         {ATTR_ITEM_INDEX, On::Item, Holds::Key, "every item", "The key of the label's text and of the setting.", {}},
         {ATTR_CTX, On::Item, Holds::Word, "every item", "What the item shows.", contexts()},
         {ATTR_ATTR, On::Item, Holds::Word, "every item", "What kind of item it is.", kinds()},
-        {ATTR_VAL_TYPE, On::Item, Holds::Word, "", "The kind of value; OPTTXT without it.", value_types()},
-        {ATTR_DATA_ZONE, On::Item, Holds::Zone, "", "The zone in which the setting lies.", {}},
+        {ATTR_VAL_TYPE, On::Item, Holds::Word, "", "The kind of value; OPTTXT without it, or for an unknown word.",
+         value_types()},
+        {ATTR_DATA_ZONE,
+         On::Item,
+         Holds::Zone,
+         "",
+         "The zone in which the setting lies; a setting without parent needs none.",
+         {}},
         {ATTR_PIC_TYPE, On::Item, Holds::Word, "", "The hint in vertical_tolvane_align; move alone without it.",
          picture_types()},
         {ATTR_SHOW_VALUE,

@@ -27,7 +27,7 @@ struct AttributeUse {
     const char* meaning;
     std::vector<Word> words; ///< of Holds::Word, in the order of the parser's table
 
-    const char* name() const { return osdAttrName(id); }
+    const char* name() const;
     std::vector<std::string> word_list() const;
 };
 

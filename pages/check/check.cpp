@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <tuple>
 
-#include "pages/menu/menu.h"
+#include "pages/check/judge.h"
+#include "pages/check/mutes.h"
+#include "pages/measure/measure.h"
 
 namespace pages {
 namespace {
@@ -13,42 +15,70 @@ auto order(const Finding& finding)
     return std::tie(finding.place.file, finding.place.line, finding.place.column, finding.rule, finding.what);
 }
 
-class Check {
-public:
-    explicit Check(const ResourceFolder& folder) : folder_(folder) {}
+void sort_findings(std::vector<Finding>& findings)
+{
+    std::sort(findings.begin(), findings.end(), [](const Finding& a, const Finding& b) { return order(a) < order(b); });
+    const auto same = [](const Finding& a, const Finding& b) { return order(a) == order(b); };
+    findings.erase(std::unique(findings.begin(), findings.end(), same), findings.end());
+}
 
-    void run_rules()
-    {
-        for (const Rule& rule : all_rules()) {
-            if (rule.check != nullptr) {
-                rule.check(folder_, [&](const Place& place, const std::string& what, const std::string& expected) {
-                    findings_.push_back({place, rule.severity, rule.name, what, expected});
-                });
-            }
+/// Leaves the first of those with the same words, with the number of the others.
+void unite_causes(std::vector<Finding>& findings)
+{
+    sort_findings(findings);
+    std::vector<Finding> causes;
+    std::map<std::string, std::pair<std::size_t, int>> seen; // where it stands, how many more there are
+    for (Finding& finding : findings) {
+        const auto [first, is_new] = seen.emplace(finding.what, std::pair{causes.size(), 0});
+        if (is_new) {
+            causes.push_back(std::move(finding));
+        } else {
+            ++first->second.second;
         }
     }
-
-    std::vector<Finding> take()
-    {
-        std::sort(findings_.begin(), findings_.end(),
-                  [](const Finding& a, const Finding& b) { return order(a) < order(b); });
-        const auto same = [](const Finding& a, const Finding& b) { return order(a) == order(b); };
-        findings_.erase(std::unique(findings_.begin(), findings_.end(), same), findings_.end());
-        return std::move(findings_);
+    for (const auto& [what, cause] : seen) {
+        if (cause.second > 0) {
+            causes[cause.first].what +=
+                " (the same at " + std::to_string(cause.second) + " more place" + (cause.second > 1 ? "s" : "") + ")";
+        }
     }
+    findings = std::move(causes);
+}
 
-private:
-    const ResourceFolder& folder_;
-    std::vector<Finding> findings_;
-};
+std::vector<Finding> run_rule(const Rule& rule, const ResourceFolder& folder)
+{
+    std::vector<Finding> findings;
+    if (rule.check != nullptr) {
+        rule.check(folder, [&](const Place& place, const std::string& what, const std::string& expected) {
+            findings.push_back({place, rule.severity, rule.name, what, expected});
+        });
+    }
+    if (rule.told == Told::Once) {
+        unite_causes(findings);
+    }
+    return findings;
+}
 
 } // namespace
 
-CheckResult check(const ResourceFolder& folder, const CheckOptions& /*options*/)
+CheckResult check(const ResourceFolder& folder, const CheckOptions& options)
 {
-    Check checking(folder);
-    checking.run_rules();
-    return {checking.take(), {}};
+    CheckResult result;
+    const auto add = [&](const std::vector<Finding>& findings) {
+        result.findings.insert(result.findings.end(), findings.begin(), findings.end());
+    };
+    for (const Rule& rule : all_rules()) {
+        add(run_rule(rule, folder));
+    }
+    Verdict verdict = judge_pages(folder, result.findings);
+    add(verdict.findings);
+    result.refused = std::move(verdict.refused);
+    if (options.measure) {
+        add(measure(folder, {options.measured_pages, {}}).findings);
+    }
+    apply_mutes(folder, options.measure && options.measured_pages.empty(), result.findings);
+    sort_findings(result.findings);
+    return result;
 }
 
 } // namespace pages

@@ -9,9 +9,7 @@
 namespace pages {
 namespace {
 
-const char* name_of(Severity severity) { return severity == Severity::Error ? "error" : "warning"; }
-
-/// The Levenshtein distance; letters that differ in case alone count half.
+/// The Levenshtein distance; letters that differ in case alone count a quarter.
 double distance(const std::string& one, const std::string& other)
 {
     std::vector<double> row(other.size() + 1);
@@ -24,7 +22,7 @@ double distance(const std::string& one, const std::string& other)
             const char b = other[j - 1];
             const bool alike =
                 std::tolower(static_cast<unsigned char>(a)) == std::tolower(static_cast<unsigned char>(b));
-            const double changed = diagonal + (a == b ? 0.0 : alike ? 0.5 : 1.0);
+            const double changed = diagonal + (a == b ? 0.0 : alike ? 0.25 : 1.0);
             diagonal = row[j];
             row[j] = std::min({changed, row[j] + 1.0, row[j - 1] + 1.0});
         }
@@ -33,6 +31,8 @@ double distance(const std::string& one, const std::string& other)
 }
 
 } // namespace
+
+const char* name_of(Severity severity) { return severity == Severity::Error ? "error" : "warning"; }
 
 std::string words_of(const Finding& finding)
 {

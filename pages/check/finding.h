@@ -8,7 +8,11 @@
 
 namespace pages {
 
+/// What shows or works wrongly, or isn't read at all; what works, but can't be meant.
 enum class Severity { Error, Warning };
+
+/// "error" or "warning"
+const char* name_of(Severity severity);
 
 struct Finding {
     Place place; ///< the file below the folder

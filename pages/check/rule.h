@@ -14,11 +14,19 @@ namespace pages {
 /// Takes what a rule finds: place, what is wrong, what was expected.
 using Complain = std::function<void(const Place& place, const std::string& what, const std::string& expected)>;
 
+/// How its findings are told.
+enum class Told {
+    Each,     ///< one by one
+    Once,     ///< those with the same words are one cause: at the first place, with the number of the others
+    Measured, ///< one by one, and only where pages are drawn
+};
+
 struct Rule {
     const char* name;
     Severity severity;
     const char* meaning;                                                   ///< a sentence for the documents
     void (*check)(const ResourceFolder& folder, const Complain& complain); ///< null where another part finds it
+    Told told = Told::Each;
 };
 
 } // namespace pages

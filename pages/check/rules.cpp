@@ -1,23 +1,23 @@
-// The rules in the order in which they are told.
+// All rules in the order of their subjects.
+#include "pages/check/rule_tables.h"
+
 #include "pages/check/check.h"
+#include "pages/measure/judge.h"
 
 namespace pages {
-namespace {
-
-void find_unusable(const ResourceFolder& folder, const Complain& complain)
-{
-    for (const BadInput& mistake : folder.mistakes) {
-        complain(mistake.place(), mistake.words(), "");
-    }
-}
-
-} // namespace
 
 const std::vector<Rule>& all_rules()
 {
-    static const std::vector<Rule> rules = {
-        {"unusable", Severity::Error, "A file, or a part of it, can't be used at all.", find_unusable},
-    };
+    static const std::vector<Rule> rules = [] {
+        std::vector<Rule> all;
+        for (const auto* table : {&file_rules(), &element_rules(), &attribute_rules(), &text_rules(), &setting_rules(),
+                                  &way_rules(), &question_rules(), &layout_rules(), &measure_rules()}) {
+            all.insert(all.end(), table->begin(), table->end());
+        }
+        all.push_back({allowance_rule, Severity::Warning,
+                       "What is allowed names a rule and a reason, and there is something to allow.", nullptr});
+        return all;
+    }();
     return rules;
 }
 

@@ -4,6 +4,8 @@
 #include <iostream>
 
 #include "pages/check/check.h"
+#include "pages/command/measure_command.h"
+#include "pages/command/other_commands.h"
 #include "pages/command/show_commands.h"
 
 namespace pages {
@@ -14,10 +16,25 @@ struct Options {
     std::string fonts;
     bool json = false;
     bool quick = false;
+    bool rules = false;
 };
+
+int list_rules()
+{
+    for (const Rule& rule : all_rules()) {
+        std::cout << rule.name << " (" << name_of(rule.severity) << "): " << rule.meaning << '\n';
+    }
+    return all_well;
+}
 
 int run_check(const Options& options)
 {
+    if (options.rules) {
+        return list_rules();
+    }
+    if (options.folder.empty()) {
+        throw BadInput("check: expected a folder, or --rules");
+    }
     const ResourceFolder folder = read_resource_folder(options.folder, options.fonts);
     const std::vector<Finding> findings = check(folder, {!options.quick, {}}).findings;
     if (options.json) {
@@ -36,11 +53,15 @@ void add_commands(CLI::App& app, int& status)
 {
     auto options = std::make_shared<Options>();
     CLI::App* check = app.add_subcommand("check", "Tell everything that is wrong with a folder of resources");
-    check->add_option("FOLDER", options->folder, "folder with pages/, lang/, pic/ and settings.json")->required();
+    check->add_option("FOLDER", options->folder, "folder with pages/, lang/, pic/ and settings.json");
     check->add_option("--fonts", options->fonts, "folder with font.ttf, bold_font.ttf and tcfont.ttf");
     check->add_flag("--json", options->json, "as JSON");
     check->add_flag("--quick", options->quick, "don't draw and measure");
+    check->add_flag("--rules", options->rules, "list the rules and end");
     check->callback([options, &status] { status = run_check(*options); });
+    add_measure_command(app, status);
+    add_schema_command(app);
+    add_text_commands(app, status);
     add_show_commands(app, status);
 }
 

@@ -260,9 +260,14 @@ Definitions read_definitions(const std::filesystem::path& path, std::vector<BadI
     collect(mistakes, [&] { definitions.facts = read_facts(reader.field("facts"), places.of("/facts")); });
     collect(mistakes, [&] { definitions.zones = read_text_map(reader.field("zones"), places.of("/zones"), "zones"); });
     collect(mistakes, [&] { read_settings(reader.field("settings"), places, definitions, mistakes); });
+    collect(mistakes, [&] { read_allowances(root, places, definitions.allowances); });
+    if (reader.has(allowance_member)) {
+        (void)reader.field(allowance_member);
+    }
     collect(mistakes, [&] { reader.refuse_other_fields(); });
     collect(mistakes, [&] { check_languages(definitions, places, mistakes); });
     collect(mistakes, [&] { check_zones(definitions, places, mistakes); });
+    definitions.places = std::move(places);
     return definitions;
 }
 

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "pages/data/allowance.h"
+#include "pages/data/json_file.h"
 #include "pages/data/setting.h"
 
 namespace pages {
@@ -15,6 +17,8 @@ struct Definitions {
     std::map<std::string, std::string> languages; ///< option key of the setting "Language" to the language's name
     std::map<std::string, std::string> facts;     ///< what the camera knows of itself, by event name
     std::map<std::string, std::string> zones;     ///< data zone of an item to parent key
+    std::vector<Allowance> allowances;
+    JsonPlaces places{""}; ///< of all parts of the file
 };
 
 /// The one setting whose value chooses the language of the menu.

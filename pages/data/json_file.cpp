@@ -127,6 +127,14 @@ std::string words_behind(const char* mark, const json::exception& error)
     return place == std::string::npos ? words : words.substr(place + std::strlen(mark));
 }
 
+/// The parser's words for a syntax error, or what to do about the commonest one.
+std::string words_of(const json::parse_error& error, const std::string& text)
+{
+    const std::size_t at = error.byte == 0 ? text.size() : error.byte - 1;
+    const bool comment = at < text.size() && (text[at] == '/' || text[at] == '#' || (at > 0 && text[at - 1] == '/'));
+    return comment ? "a JSON file can't hold comments, expected none" : words_behind(": ", error);
+}
+
 /// Where the parser met a syntax error; it counts the byte in question as read.
 Place place_of(const json::parse_error& error, const std::string& text, const std::string& file)
 {
@@ -158,7 +166,7 @@ json parse_json_object(const std::string& text, const std::string& file, JsonPla
         Follower follower(text, stream, file, places);
         root = json::parse(stream, std::ref(follower)); // by reference: the parser copies its callback
     } catch (const json::parse_error& error) {
-        throw BadInput(place_of(error, text, file), words_behind(": ", error));
+        throw BadInput(place_of(error, text, file), words_of(error, text));
     } catch (const json::exception& error) { // well formed, but no value of this machine: 1e999
         throw BadInput(Place{file}, words_behind("] ", error));
     }
@@ -214,9 +222,13 @@ std::int32_t FieldReader::integer(const std::string& name)
 
 void FieldReader::refuse_other_fields() const
 {
+    std::string known;
+    for (const std::string& name : known_) {
+        known += (known.empty() ? "" : ", ") + name;
+    }
     for (const auto& [name, value] : object_.items()) {
         if (known_.count(name) == 0) {
-            complain("unknown field '" + name + "'");
+            complain("unknown field '" + name + "', expected only " + known);
         }
     }
 }

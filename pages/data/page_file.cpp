@@ -11,6 +11,21 @@ namespace {
 constexpr std::string_view ending = "_page.xml";
 constexpr std::string_view white_space = " \t\r\n";
 
+/// What to do about the mistakes that are made most.
+struct Remedy {
+    XML_Error error;
+    const char* expected;
+};
+constexpr Remedy remedies[] = {
+    {XML_ERROR_INVALID_TOKEN,
+     "both quotation marks of each value, &amp; for &, no comment in a tag, no -- in a comment"},
+    {XML_ERROR_UNCLOSED_TOKEN, "the end of what begins here"},
+    {XML_ERROR_DUPLICATE_ATTRIBUTE, "each attribute once"},
+    {XML_ERROR_NO_ELEMENTS, "an element <Page>"},
+    {XML_ERROR_JUNK_AFTER_DOC_ELEMENT, "one element <Page> around all others"},
+    {XML_ERROR_MISPLACED_XML_PI, "<?xml ...?> at the begin of the file"},
+};
+
 /// Follows the parser and builds the elements.
 class Builder {
 public:
@@ -29,7 +44,8 @@ public:
         if (XML_Parse(parser_.get(), words.data(), static_cast<int>(words.size()), XML_TRUE) != XML_STATUS_OK) {
             const std::string open =
                 open_ == nullptr ? "" : " (<" + open_->name + "> is open since " + place_words() + ")";
-            throw BadInput(here(), std::string(XML_ErrorString(XML_GetErrorCode(parser_.get()))) + open);
+            const XML_Error error = XML_GetErrorCode(parser_.get());
+            throw BadInput(here(), XML_ErrorString(error) + open + remedy(error));
         }
     }
 
@@ -45,6 +61,19 @@ private:
     {
         Builder& builder = of(data);
         builder.page_.comments.push_back({words, builder.here()});
+    }
+
+    std::string remedy(XML_Error error) const
+    {
+        if (error == XML_ERROR_TAG_MISMATCH) {
+            return ", expected </" + open_->name + ">";
+        }
+        for (const Remedy& row : remedies) {
+            if (row.error == error) {
+                return std::string(", expected ") + row.expected;
+            }
+        }
+        return "";
     }
 
     Place here() const

@@ -35,15 +35,18 @@ public:
         }
         for (const fs::path& file : files_in(root / "lang")) {
             if (file.extension() == ".json") {
-                attempt(file, [&] { folder_.languages[file.stem().string()] = read_texts(file, mistakes_); });
+                attempt(file, [&] { read_language(file); });
             }
         }
         const fs::path settings = root / "settings.json";
-        attempt(settings, [&] { folder_.definitions = read_definitions(settings, mistakes_); });
+        attempt(settings, [&] { read_settings(settings); });
         for (const fs::path& file : files_in(root / "pic")) {
             if (file.extension() == ".svg" || file.extension() == ".bmp") {
                 folder_.pictures.emplace(file.stem().string(), file);
             }
+        }
+        for (Allowance& allowance : folder_.allowances) {
+            allowance.place = below(allowance.place);
         }
         for (const BadInput& mistake : mistakes_) {
             folder_.mistakes.emplace_back(below(mistake.place()), mistake.words());
@@ -70,6 +73,25 @@ private:
             folder_.broken.insert(page.file);
         }
         folder_.pages.emplace(page.name, std::move(page));
+    }
+
+    void read_language(const fs::path& file)
+    {
+        Texts texts = read_texts(file, mistakes_, folder_.allowances);
+        for (auto& [key, text] : texts) {
+            text.place = below(text.place);
+        }
+        folder_.languages[file.stem().string()] = std::move(texts);
+    }
+
+    void read_settings(const fs::path& file)
+    {
+        folder_.definitions = read_definitions(file, mistakes_);
+        for (auto& [id, setting] : folder_.definitions.settings) {
+            setting.place = below(setting.place);
+        }
+        auto& allowed = folder_.definitions.allowances;
+        folder_.allowances.insert(folder_.allowances.end(), allowed.begin(), allowed.end());
     }
 
     Place below(Place place) const

@@ -15,11 +15,12 @@ namespace pages {
 
 struct ResourceFolder {
     std::filesystem::path root;
-    std::filesystem::path fonts;            ///< folder of the three font files
-    std::map<std::string, PageFile> pages;  ///< by name; broken ones as well
-    std::map<std::string, Texts> languages; ///< by name
-    Definitions definitions;
+    std::filesystem::path fonts;                           ///< folder of the three font files
+    std::map<std::string, PageFile> pages;                 ///< by name; broken ones as well
+    std::map<std::string, Texts> languages;                ///< by name
+    Definitions definitions;                               ///< places, as in all of this, name files below the root
     std::map<std::string, std::filesystem::path> pictures; ///< by name
+    std::vector<Allowance> allowances;                     ///< of all JSON files
     std::vector<BadInput> mistakes;                        ///< what can't be used; places name files below the root
     std::set<std::string> broken;                          ///< files that can't be used at all, below the root
 };

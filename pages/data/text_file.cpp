@@ -26,4 +26,21 @@ std::string read_text_file(const std::filesystem::path& path)
     }
 }
 
+void write_text_file(const std::filesystem::path& path, const std::string& content)
+{
+    const std::filesystem::path part = path.string() + ".part";
+    std::ofstream file(part, std::ios::binary);
+    file << content;
+    file.close();
+    std::error_code error;
+    if (file) {
+        std::filesystem::rename(part, path, error);
+    }
+    if (!file || error) {
+        const int reason = error ? error.value() : errno;
+        std::filesystem::remove(part, error);
+        throw BadInput(Place{path.string()}, "can't be written: " + std::generic_category().message(reason));
+    }
+}
+
 } // namespace pages

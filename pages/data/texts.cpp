@@ -38,14 +38,18 @@ void add_text(const std::string& key, const nlohmann::json& value, const Place& 
 
 } // namespace
 
-Texts read_texts(const std::filesystem::path& path, std::vector<BadInput>& mistakes)
+Texts read_texts(const std::filesystem::path& path, std::vector<BadInput>& mistakes, std::vector<Allowance>& allowances)
 {
     JsonPlaces places(path.string());
     const nlohmann::json root = load_json_object(path, &places);
     Texts texts;
     for (const auto& [key, value] : root.items()) {
         try {
-            add_text(key, value, places.of("/" + key), texts);
+            if (key == allowance_member) {
+                read_allowances(root, places, allowances);
+            } else {
+                add_text(key, value, places.of("/" + key), texts);
+            }
         } catch (const BadInput& mistake) {
             mistakes.push_back(mistake);
         }
@@ -56,7 +60,8 @@ Texts read_texts(const std::filesystem::path& path, std::vector<BadInput>& mista
 Texts load_texts(const std::filesystem::path& path)
 {
     std::vector<BadInput> mistakes;
-    Texts texts = read_texts(path, mistakes);
+    std::vector<Allowance> allowances;
+    Texts texts = read_texts(path, mistakes, allowances);
     if (!mistakes.empty()) {
         throw BadInput(mistakes.front());
     }

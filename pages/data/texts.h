@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "pages/data/allowance.h"
 #include "pages/data/errors.h"
 
 namespace pages {
@@ -20,7 +21,8 @@ using Texts = std::map<std::string, Text>;
 
 /// Reads "<folder>/<Language>.json", a flat file of key to text; what can't be used is left out, with a mistake for
 /// each. Throws BadInput when nothing can be used.
-Texts read_texts(const std::filesystem::path& path, std::vector<BadInput>& mistakes);
+Texts read_texts(const std::filesystem::path& path, std::vector<BadInput>& mistakes,
+                 std::vector<Allowance>& allowances);
 /// The same, throws the first mistake.
 Texts load_texts(const std::filesystem::path& path);
 

@@ -21,6 +21,14 @@ public:
     bool is_drawing() const { return drawing_; }
     void set_drawing(bool drawing) { drawing_ = drawing; }
 
+    /// While pictures are blank, their files aren't read: each is a single pixel, to be stretched.
+    bool has_blank_pictures() const { return blank_pictures_; }
+    void set_blank_pictures(bool blank) { blank_pictures_ = blank; }
+
+    /// The font file that the library opened last.
+    const std::string& font_file() const { return font_file_; }
+    void set_font_file(std::string file) { font_file_ = std::move(file); }
+
     /// Null when there is no such setting.
     const Setting* find(const char* parent, const char* key) const;
     const std::string& value_of(const Setting& setting) const;
@@ -41,6 +49,8 @@ private:
     const ResourceFolder* folder_ = nullptr;
     View view_;
     bool drawing_ = false;
+    bool blank_pictures_ = false;
+    std::string font_file_;
     std::map<SettingId, std::string> values_; ///< that differ from the defaults
     std::vector<std::string> lines_;
 };

@@ -25,12 +25,27 @@ struct Loaded {
     Picture picture; ///< without pixels where the file holds none that can be used
 };
 
-/// The picture that the library means by a path; null when the folder has none of its name.
-const fs::path* picture_file(const char* path)
+/// The picture that the library means by a path, with its name; null when the folder has none of its name.
+const std::pair<const std::string, fs::path>* find_picture(const std::string& path)
 {
     const auto& pictures = camera().folder().pictures;
-    const auto found = pictures.find(fs::path(path).stem().string());
-    return found == pictures.end() ? nullptr : &found->second;
+    const std::size_t name = path.rfind('/') + 1;
+    const auto found = pictures.find(path.substr(name, path.rfind('.') - name));
+    return found == pictures.end() ? nullptr : &*found;
+}
+
+SDL_Surface* surface_of(const Picture& picture)
+{
+    SDL_Surface* surface = picture.pixels.empty() ? nullptr
+                                                  : SDL_CreateRGBSurfaceWithFormat(0, picture.width, picture.height, 32,
+                                                                                   SDL_PIXELFORMAT_ARGB8888);
+    for (int y = 0; surface != nullptr && y < picture.height; ++y) {
+        const auto* row = picture.pixels.data() + static_cast<std::ptrdiff_t>(y) * picture.width;
+        std::copy(row, row + picture.width,
+                  reinterpret_cast<std::uint32_t*>(static_cast<char*>(surface->pixels) +
+                                                   static_cast<std::ptrdiff_t>(y) * surface->pitch));
+    }
+    return surface;
 }
 
 const Picture& load(const fs::path& file)
@@ -66,12 +81,13 @@ SDL_Surface* __wrap_IMG_Load(const char* path);            // NOLINT(bugprone-re
 int __wrap_open(const char* path, int flags, ...) // NOLINT: the library opens fonts alone
 {
     const std::filesystem::path file = pages::camera().folder().fonts / std::filesystem::path(path).filename();
+    pages::camera().set_font_file(file);
     return __real_open(file.c_str(), flags);
 }
 
 int __wrap_access(const char* path, int /*mode*/) // NOLINT
 {
-    return pages::picture_file(path) != nullptr ? 0 : -1;
+    return pages::find_picture(path) != nullptr ? 0 : -1;
 }
 
 int __wrap_vprintf(const char* format, va_list arguments) // NOLINT
@@ -86,20 +102,15 @@ int __wrap_vprintf(const char* format, va_list arguments) // NOLINT
 
 SDL_Surface* __wrap_IMG_Load(const char* path) // NOLINT
 {
-    const std::filesystem::path* file = pages::picture_file(path);
+    const auto* file = pages::find_picture(path);
     if (file == nullptr) {
         return nullptr;
     }
-    const pages::Picture& picture = pages::load(*file);
-    SDL_Surface* surface = picture.pixels.empty() ? nullptr
-                                                  : SDL_CreateRGBSurfaceWithFormat(0, picture.width, picture.height, 32,
-                                                                                   SDL_PIXELFORMAT_ARGB8888);
-    for (int y = 0; surface != nullptr && y < picture.height; ++y) {
-        const auto* row = picture.pixels.data() + static_cast<std::ptrdiff_t>(y) * picture.width;
-        std::copy(row, row + picture.width,
-                  reinterpret_cast<std::uint32_t*>(static_cast<char*>(surface->pixels) +
-                                                   static_cast<std::ptrdiff_t>(y) * surface->pitch));
+    if (!pages::camera().has_blank_pictures()) {
+        return pages::surface_of(pages::load(file->second));
     }
+    SDL_Surface* surface = SDL_CreateRGBSurfaceWithFormat(0, 1, 1, 32, SDL_PIXELFORMAT_ARGB8888);
+    surface->userdata = const_cast<char*>(file->first.c_str()); // the name, as long as the folder lives
     return surface;
 }
 

@@ -19,6 +19,7 @@ namespace pages {
 namespace {
 
 std::mutex only_one;
+constexpr std::uint32_t style_of_most = 1; ///< in which a page's reader looks at the most attributes
 
 std::vector<Fault>* heard_faults = nullptr;
 std::unordered_map<const tinyxml2::XMLElement*, const Element*> twins; ///< the author's element of the parser's one
@@ -89,6 +90,12 @@ Menu::Menu(const ResourceFolder& folder, const View& view) : lock_(only_one)
     look(view);
 }
 
+Menu::Menu(const ResourceFolder& folder, const std::string& language) : lock_(only_one)
+{
+    camera().begin(folder);
+    camera().set_view({language, style_of_most, false});
+}
+
 Menu::~Menu()
 {
     close_all();
@@ -141,9 +148,11 @@ std::vector<Fault> Menu::parse(const PageFile& page)
     find_twins(root, *page.root);
     heard_faults = &faults;
     g_pfnPageFault = hear;
+    const std::uint32_t style = std::exchange(enMenuStyle, view().style);
     tagPAGE_NODE_S record{};
     (void)osdPageReadAttributes(view().language.c_str(), root, &record, page.name.c_str());
     parse_items(view().language, root);
+    enMenuStyle = style;
     g_pfnPageFault = nullptr;
     heard_faults = nullptr;
     twins.clear();
@@ -193,6 +202,14 @@ std::vector<std::string> Menu::open_pages() const
 }
 
 void Menu::key(int (*function)()) { (void)function(); }
+
+void Menu::press(Key pressed)
+{
+    static constexpr int (*functions[])() = {
+        OSD_MENU_HandleKeyMenu, OSD_MENU_HandleKeyAdvancedMenu, OSD_MENU_HandleKeyUp,   OSD_MENU_HandleKeyDown,
+        OSD_MENU_HandleKeyLeft, OSD_MENU_HandleKeyRight,        OSD_MENU_HandleKeyHome, OSD_MENU_ReturnMenu};
+    key(functions[static_cast<std::size_t>(pressed)]);
+}
 
 SDL_Surface* Menu::draw()
 {

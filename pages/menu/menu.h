@@ -41,12 +41,16 @@ struct Fault {
     bool has_value; ///< else the attribute is absent
 };
 
+enum class Key { Menu, Advanced, Up, Down, Left, Right, Home, Return };
+
 /// The library's menu. One at a time in the process: a second one waits for the end of the first. Settings have their
 /// defaults; what the menu hands to its host is stored, and nothing else happens.
 class Menu {
 public:
     /// The folder must outlive the menu. Throws std::runtime_error when the menu doesn't start: a font is missing.
     Menu(const ResourceFolder& folder, const View& view);
+    /// For reading pages alone, in a language: needs no font, can't draw.
+    Menu(const ResourceFolder& folder, const std::string& language);
     ~Menu();
     Menu(const Menu&) = delete;
     Menu& operator=(const Menu&) = delete;
@@ -74,6 +78,8 @@ public:
 
     /// Calls one of the library's functions for a key, such as OSD_MENU_HandleKeyDown.
     void key(int (*function)());
+    /// The same by the key's name, for whoever doesn't see the library.
+    void press(Key key);
 
     /// Draws the page on top. The pixels, ARGB8888, are the menu's and change with the next call.
     SDL_Surface* draw();

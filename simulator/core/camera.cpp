@@ -1,9 +1,11 @@
 #include "simulator/core/camera.h"
 
+#include <algorithm>
 #include <iostream>
 #include <memory>
 #include <tinyxml2.h>
 #include <utility>
+#include <vector>
 
 #include "simulator/core/data.h"
 #include "simulator/core/log.h"
@@ -42,11 +44,24 @@ SettingsStore open_store(const std::filesystem::path& file, bool reset)
     return SettingsStore(file);
 }
 
+/// What can't be used of them is left out.
+std::map<std::string, pages::Texts> read_languages(const std::filesystem::path& folder,
+                                                   const std::map<std::string, std::string>& languages)
+{
+    std::map<std::string, pages::Texts> texts;
+    std::vector<BadInput> mistakes;
+    std::vector<pages::Allowance> allowances;
+    for (const auto& [option, language] : languages) {
+        texts[language] = pages::read_texts(folder / (language + ".json"), mistakes, allowances);
+    }
+    return texts;
+}
+
 } // namespace
 
 Camera::Camera(const CameraConfig& config)
     : definitions_(load_definitions(config.resources / "settings.json")),
-      translations_(config.resources / "lang", definitions_.languages),
+      texts_(read_languages(config.resources / "lang", definitions_.languages)),
       forced_language_(config.language ? option_of_language(definitions_, *config.language) : ""), folder_(config.data),
       store_(open_store(folder_.database(), config.reset)), settings_(definitions_.settings, store_),
       channels_(config.uhd ? ultra_hd : full_hd), resources_(config.resources), pages_(config.pages),
@@ -69,7 +84,7 @@ const std::string& Camera::language() const { return definitions_.languages.at(s
 
 const std::string* Camera::translate(const std::string& language, const std::string& key)
 {
-    const std::string* text = translations_.find(language, key);
+    const std::string* text = find_text(language, key);
     const bool reported = text != nullptr || !begins_with_letter(key);
     if (!reported && missing_texts_.insert(language + "/" + key).second) {
         log_line(LogLevel::Info, "language", "no text for '" + key + "' in " + language);
@@ -102,11 +117,25 @@ bool Camera::keep_page(const std::string& name, const std::string& text)
     return std::exchange(kept, text) != text;
 }
 
-bool Camera::reload_language(const std::string& language)
+const std::string* Camera::find_text(const std::string& language, const std::string& key) const
 {
-    const bool known = translations_.reload(language);
-    forget_missing_texts();
-    return known;
+    const auto texts = texts_.find(language);
+    if (texts == texts_.end()) {
+        return nullptr;
+    }
+    const auto text = texts->second.find(key);
+    return text == texts->second.end() ? nullptr : &text->second.text;
+}
+
+bool Camera::replace_texts(const std::string& language, pages::Texts texts)
+{
+    pages::Texts& present = texts_[language];
+    const bool same =
+        std::equal(present.begin(), present.end(), texts.begin(), texts.end(), [](const auto& one, const auto& other) {
+            return one.first == other.first && one.second.text == other.second.text;
+        });
+    present = std::move(texts);
+    return !same;
 }
 
 std::unique_ptr<tinyxml2::XMLDocument> Camera::open_page(const std::filesystem::path& path)
@@ -184,7 +213,6 @@ void Camera::resize(bool uhd) { channels_.resize_main(uhd ? ultra_hd : full_hd);
 
 void Camera::replace_definitions(Definitions definitions)
 {
-    translations_.add(definitions.languages);
     Settings::Values changed;
     {
         const std::lock_guard<std::mutex> lock(look_mutex_); // no look may be made of the new settings and old values

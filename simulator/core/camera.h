@@ -17,7 +17,6 @@
 #include "simulator/core/media_memory.h"
 #include "simulator/core/settings.h"
 #include "simulator/core/settings_store.h"
-#include "simulator/core/translations.h"
 #include "simulator/video/channels.h"
 #include "simulator/video/picture.h"
 
@@ -100,22 +99,17 @@ public:
     void resize(bool uhd);
 
     const std::filesystem::path& resources() const { return resources_; }
-    /// Reads the texts of a language again. False for a language that the camera doesn't speak; throws BadInput, with
-    /// the old texts kept, for a file that can't be used.
-    bool reload_language(const std::string& language);
-    /// The same for somebody who isn't the menu: nothing is reported.
-    const std::string* find_text(const std::string& language, const std::string& key) const
-    {
-        return translations_.find(language, key);
-    }
-    /// Missing texts that were reported may be reported again.
-    void forget_missing_texts() { missing_texts_.clear(); }
+    /// The same as translate() for somebody who isn't the menu: nothing is reported.
+    const std::string* find_text(const std::string& language, const std::string& key) const;
+    /// Puts other texts in the place of those of a language. False when they say the same.
+    bool replace_texts(const std::string& language, pages::Texts texts);
+    /// By the language's name.
+    const std::map<std::string, pages::Texts>& texts() const { return texts_; }
     /// From now on the menu reads this text as the page, whatever its file holds. False when it did so before.
     bool keep_page(const std::string& name, const std::string& text);
     const std::map<std::string, std::string>& kept_pages() const { return kept_pages_; }
 
-    /// Puts other definitions in the place of the present ones; the settings follow them. Throws BadInput, with nothing
-    /// changed, when a language of theirs has no texts that can be used.
+    /// Puts other definitions, whose languages have texts, in the place of the present ones; the settings follow them.
     void replace_definitions(Definitions definitions);
 
 private:
@@ -128,8 +122,8 @@ private:
 
     mutable std::mutex look_mutex_; ///< guards what a look is made of: definitions_, picture_start_, mounting_
     Definitions definitions_;
-    Translations translations_;
-    std::string forced_language_; ///< option key, empty when the setting decides
+    std::map<std::string, pages::Texts> texts_; ///< by the language's name
+    std::string forced_language_;               ///< option key, empty when the setting decides
     DataFolder folder_;
     SettingsStore store_;
     Settings settings_;

@@ -62,13 +62,13 @@ FolderWatch::Handle::Handle(int number, const char* what) : number_(number)
 
 FolderWatch::Handle::~Handle() { ::close(number_); }
 
-FolderWatch::FolderWatch(std::vector<fs::path> folders, std::function<void(const Changed&)> on_change)
+FolderWatch::FolderWatch(std::vector<fs::path> folders, std::function<void()> on_change)
     : folders_(std::move(folders)), on_change_(std::move(on_change)),
       events_(::inotify_init1(IN_NONBLOCK | IN_CLOEXEC), "folders can't be watched"),
       stop_(::eventfd(0, EFD_CLOEXEC), "folders can't be watched")
 {
     watch_all();
-    changed_.clear(); // they are known as they are now
+    changed_ = false; // they are known as they are now
     thread_ = std::thread([this] { run(); });
 }
 
@@ -95,7 +95,7 @@ bool FolderWatch::wait()
 {
     std::array<pollfd, 2> sources{{{events_.number(), POLLIN, 0}, {stop_.number(), POLLIN, 0}}};
     int time = -1;
-    if (!changed_.empty()) {
+    if (changed_) {
         const auto left = std::chrono::ceil<std::chrono::milliseconds>(due() - Clock::now());
         time = static_cast<int>(std::max<std::chrono::milliseconds::rep>(left.count(), 0));
     }
@@ -139,26 +139,26 @@ void FolderWatch::take(int watch, std::uint32_t what, const fs::path& name)
             watch_all();
         }
         if (name.empty() && seen_.count(place->second) > 0) {
-            note(place->second); // its files may be readable again
+            note(); // its files may be readable again
         }
     } else if (seen_.count(place->second) > 0 && ((what & IN_CREATE) == 0 || has_its_content(path))) {
-        note(path);
+        note();
     }
 }
 
-void FolderWatch::note(const fs::path& changed)
+void FolderWatch::note()
 {
     last_ = Clock::now();
-    if (changed_.empty()) {
+    if (!std::exchange(changed_, true)) {
         first_ = last_;
     }
-    changed_.insert(changed);
 }
 
 void FolderWatch::tell_when_due()
 {
-    if (!changed_.empty() && Clock::now() >= due()) {
-        on_change_(std::exchange(changed_, {}));
+    if (changed_ && Clock::now() >= due()) {
+        changed_ = false;
+        on_change_();
     }
 }
 
@@ -182,7 +182,7 @@ void FolderWatch::watch_one(const fs::path& folder)
         if (watch >= 0) {
             watches_[watch] = nearest;
             if (nearest == folder && seen_.insert(folder).second) {
-                note(folder);
+                note();
             }
         }
         if (watch >= 0 && nearest_folder(folder) == nearest) { // else it came or went meanwhile
@@ -197,8 +197,8 @@ void FolderWatch::watch_anew()
         (void)::inotify_rm_watch(events_.number(), watch); // a deleted folder's has ended by itself
     }
     watches_.clear();
-    for (const fs::path& folder : seen_) {
-        note(folder);
+    if (!seen_.empty()) {
+        note();
     }
     seen_.clear();
     watch_all();

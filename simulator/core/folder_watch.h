@@ -15,12 +15,9 @@ namespace sim {
 /// get other permissions. A folder may be missing, go and come back. What is in folders below them doesn't count.
 class FolderWatch {
 public:
-    /// What changed: paths of files, "folder / name"; the path of a folder itself where anything in it may have changed.
-    using Changed = std::set<std::filesystem::path>;
-
     /// The function is called on the watching thread, when no further change came for 50 ms, at the latest 500 ms
     /// behind the first one. Throws std::runtime_error when the system refuses.
-    FolderWatch(std::vector<std::filesystem::path> folders, std::function<void(const Changed&)> on_change);
+    FolderWatch(std::vector<std::filesystem::path> folders, std::function<void()> on_change);
     /// Ends the watching at once; behind it the function isn't called any more.
     ~FolderWatch();
     FolderWatch(const FolderWatch&) = delete;
@@ -47,7 +44,7 @@ private:
     bool wait();
     void read_events();
     void take(int watch, std::uint32_t what, const std::filesystem::path& name);
-    void note(const std::filesystem::path& changed);
+    void note();
     void tell_when_due();
     Clock::time_point due() const;
 
@@ -59,12 +56,12 @@ private:
     bool is_on_the_way(const std::filesystem::path& path) const;
 
     const std::vector<std::filesystem::path> folders_;
-    const std::function<void(const Changed&)> on_change_;
+    const std::function<void()> on_change_;
     Handle events_;
     Handle stop_;
     std::map<int, std::filesystem::path> watches_;
     std::set<std::filesystem::path> seen_; ///< folders that are watched themselves
-    Changed changed_;
+    bool changed_ = false;
     Clock::time_point first_;
     Clock::time_point last_;
     std::thread thread_;

@@ -29,7 +29,6 @@ Listeners& listeners()
 }
 
 thread_local bool inside_listener = false;
-thread_local LogTrap* trap = nullptr;
 
 std::string time_of_day()
 {
@@ -81,11 +80,7 @@ void tell_listeners(const LogEntry& entry)
 void log_line(LogLevel level, std::string_view tag, std::string_view text) noexcept
 {
     try {
-        LogEntry entry = entry_of(level, tag, text);
-        if (trap != nullptr) {
-            trap->entries_.push_back(std::move(entry));
-            return;
-        }
+        const LogEntry entry = entry_of(level, tag, text);
         const std::string line = entry.time + " " + entry.level + " " + entry.tag + " " + entry.text + "\n";
         std::fwrite(line.data(), 1, line.size(), stderr); // one call, so that lines of two threads don't mix
         tell_listeners(entry);
@@ -107,9 +102,5 @@ LogListener::~LogListener()
     const std::lock_guard<std::mutex> lock(all.mutex);
     all.functions.erase(place_);
 }
-
-LogTrap::LogTrap() : outer_(trap) { trap = this; }
-
-LogTrap::~LogTrap() { trap = outer_; }
 
 } // namespace sim

@@ -39,20 +39,4 @@ private:
     std::list<Function>::iterator place_;
 };
 
-/// Takes the entries that its thread writes while it lives: they go neither to standard error nor to a listener.
-class LogTrap {
-public:
-    LogTrap();
-    ~LogTrap();
-    LogTrap(const LogTrap&) = delete;
-    LogTrap& operator=(const LogTrap&) = delete;
-
-    const std::list<LogEntry>& entries() const { return entries_; }
-
-private:
-    friend void log_line(LogLevel level, std::string_view tag, std::string_view text) noexcept;
-    std::list<LogEntry> entries_;
-    LogTrap* outer_;
-};
-
 } // namespace sim

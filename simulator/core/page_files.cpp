@@ -1,7 +1,6 @@
 #include "simulator/core/page_files.h"
 
 #include <algorithm>
-#include <string_view>
 #include <system_error>
 #include <tinyxml2.h>
 #include <utility>
@@ -9,16 +8,6 @@
 #include "simulator/core/log.h"
 
 namespace sim {
-namespace {
-
-constexpr std::string_view ending = "_page.xml";
-
-} // namespace
-
-std::filesystem::path page_file(const std::filesystem::path& folder, const std::string& name)
-{
-    return folder / (name + std::string(ending));
-}
 
 std::unique_ptr<tinyxml2::XMLDocument> load_page_document(const std::filesystem::path& path)
 {

@@ -20,9 +20,6 @@ std::unique_ptr<tinyxml2::XMLDocument> load_page_document(const std::filesystem:
 /// A page from a text; null when it isn't well formed.
 std::unique_ptr<tinyxml2::XMLDocument> parse_page_document(const std::string& text);
 
-/// The file of a page in its folder.
-std::filesystem::path page_file(const std::filesystem::path& folder, const std::string& name);
-
 /// The names of the pages below a resource folder, sorted.
 std::vector<std::string> page_names(const std::filesystem::path& resources);
 

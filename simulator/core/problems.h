@@ -1,37 +1,31 @@
-// Which files of the camera's resources are broken at present.
+// What is wrong with the camera's resources at present.
 #pragma once
 
-#include <filesystem>
-#include <map>
-#include <string>
+#include <tuple>
 #include <vector>
+
+#include "pages/check/finding.h"
 
 namespace sim {
 
-struct Problem {
-    std::string file; ///< below the resources
-    int line = 0;     ///< 0 when it isn't known
-    std::string reason;
-};
+using pages::Finding;
 
-/// One problem for each file that is broken, and what was found in files that can be used all the same. The log tells
-/// when a problem comes, becomes another one, and goes.
+/// By place; findings that are equal in it say the same.
+inline auto order_of(const Finding& finding)
+{
+    return std::tie(finding.place.file, finding.place.line, finding.place.column, finding.rule, finding.what,
+                    finding.expected);
+}
+
+/// The log tells what comes, and which file is in order again.
 class Problems {
 public:
-    void set(const Problem& problem);
-    void clear(const std::string& file);
-    bool has(const std::string& file) const { return by_file_.count(file) > 0; }
-    /// Puts these findings in the place of the earlier ones.
-    void set_findings(std::vector<Problem> findings);
-    /// All of them, those of broken files first. What was found in a broken file isn't among them: one line says it.
-    std::vector<Problem> list() const;
+    /// Puts these in the place of the earlier ones.
+    void set(std::vector<Finding> findings);
+    const std::vector<Finding>& list() const { return findings_; }
 
 private:
-    std::map<std::string, Problem> by_file_;
-    std::vector<Problem> findings_;
+    std::vector<Finding> findings_;
 };
-
-/// The problem in the words of an error that begins with the path of the file, perhaps with ":LINE".
-Problem problem_in(const std::filesystem::path& path, const std::string& file, const std::string& words);
 
 } // namespace sim

@@ -1,9 +1,11 @@
 #include "simulator/core/resources.h"
 
+#include <algorithm>
+#include <string>
 #include <system_error>
 
+#include "pages/check/check.h"
 #include "simulator/core/data.h"
-#include "simulator/core/page_files.h"
 
 namespace sim {
 
@@ -18,24 +20,27 @@ std::filesystem::path staged_pictures() { return std::filesystem::path(OSD_RESOU
 
 std::filesystem::path staged_fonts() { return std::filesystem::path(OSD_RESOURCE_DIR) / "ttf"; }
 
-std::filesystem::path resource_checker()
-{
-    return std::filesystem::path(OSD_RESOURCE_SOURCE_DIR) / "check_resources.py";
-}
-
 std::vector<std::filesystem::path> resource_folders(const std::filesystem::path& resources)
 {
     const std::filesystem::path root = plain_path(resources);
     return {root, page_folder(root), root / "lang", root / "pic"};
 }
 
-void check_resource_folder(const std::filesystem::path& folder)
+void require_usable(const std::filesystem::path& resources)
 {
-    std::error_code ignored; // what can't be looked at can't be used
-    if (!std::filesystem::is_directory(page_folder(folder), ignored)) {
-        throw BadInput("resources " + folder.string() +
-                       ": expected a folder with pages/, lang/ and settings.json; pages/ is missing");
+    const pages::ResourceFolder folder = pages::read_resource_folder(resources);
+    const auto is_of_settings = [](const BadInput& mistake) { return mistake.place().file == "settings.json"; };
+    const auto has_texts = [&folder](const auto& language) { return folder.languages.count(language.second) > 0; };
+    const auto& languages = folder.definitions.languages;
+    if (std::none_of(folder.mistakes.begin(), folder.mistakes.end(), is_of_settings) &&
+        std::all_of(languages.begin(), languages.end(), has_texts)) {
+        return;
     }
+    std::string words = "resources " + resources.string() + " can't be used:";
+    for (const pages::Finding& finding : pages::check(folder, {false, {}}).findings) {
+        words += "\n" + pages::line_of(finding, resources.string());
+    }
+    throw BadInput(words);
 }
 
 std::filesystem::path plain_path(const std::filesystem::path& folder)

@@ -15,14 +15,12 @@ std::filesystem::path staged_pictures();
 /// The folder from which the menu loads its fonts.
 std::filesystem::path staged_fonts();
 
-/// The program with which the build checks resources; it has gone with the checkout.
-std::filesystem::path resource_checker();
-
 /// The folders with files of the resources, beginning with their own.
 std::vector<std::filesystem::path> resource_folders(const std::filesystem::path& resources);
 
-/// Throws BadInput for what is no folder of resources.
-void check_resource_folder(const std::filesystem::path& folder);
+/// Throws BadInput, which tells all that is wrong with them, when the camera can't start with these resources: their
+/// settings definitions have a mistake, or a language has no texts.
+void require_usable(const std::filesystem::path& resources);
 
 /// The folder with its path from the root, with no "." and ".." in it and no slash at its end: two paths of one folder
 /// are equal then, links aside.

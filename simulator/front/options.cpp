@@ -38,14 +38,15 @@ const char* const examples =
     "      writes each key with its time into a file; --keys-file keys.txt presses them again\n"
     "  camera-sim --scenario tests/scenarios/NAME\n"
     "      plays keys.txt of this folder and compares with its calls.txt and frame.png\n"
-    "\nExit status: 0 success, 1 the camera failed or a scenario differs, 2 the input can't be "
-    "used.\n";
+    "\nExit status: 0 success; 1 the camera failed, a scenario differs or --check has found something; 2 the input "
+    "can't be used.\n";
 
 /// What the command line says before it is checked and turned into Options.
 struct Words {
     std::string keys;
     std::string keys_file;
     std::string record;
+    std::string check;
     std::string scenario;
     std::string update_scenario;
     std::string snapshot;
@@ -145,6 +146,8 @@ void declare(CLI::App& app, Options& options, Words& words)
     app.add_option("--contact-sheet", words.contact_sheet,
                    "Write all pages side by side; a folder gets a sheet for each language and style")
         ->type_name("FILE.png|DIR");
+    app.add_option("--check", words.check, "Tell everything that is wrong with a folder of resources; stands alone")
+        ->type_name("DIR");
     app.add_option("--scenario", words.scenario, "Play a scenario and compare; stands alone")->type_name("DIR");
     app.add_option("--update-scenario", words.update_scenario,
                    "Play a scenario and write its calls.txt and frame.png anew; stands alone")
@@ -187,7 +190,7 @@ void check_combinations(const CLI::App& app)
             }
         }
     }
-    for (const char* lonely : {"--scenario", "--update-scenario"}) {
+    for (const char* lonely : {"--check", "--scenario", "--update-scenario"}) {
         if (app.count(lonely) > 0 && app.parse_order().size() > 1) {
             throw BadInput(std::string(lonely) + " stands alone: what it needs is in its folder");
         }
@@ -262,6 +265,9 @@ void take_over(const CLI::App& app, const Words& words, Options& options)
     take_keys(app, words, options);
     take_web(app, words, options);
     take_files(app, words, options);
+    if (app.count("--check") > 0) {
+        options.check = words.check;
+    }
     if (app.count("--prompt") > 0) {
         options.prompt = words.prompt;
     }

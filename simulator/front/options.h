@@ -40,6 +40,7 @@ struct Options {
     std::optional<std::string> prompt;
     bool reloading = false;
     std::optional<std::filesystem::path> contact_sheet;
+    std::optional<std::string> check;              ///< a folder of resources; stands alone
     std::optional<std::filesystem::path> scenario; ///< stands alone
     bool update_scenario = false;
 };

@@ -1,9 +1,10 @@
 #include "simulator/front/run.h"
 
+#include <CLI/CLI.hpp>
 #include <iostream>
 
+#include "pages/command/commands.h"
 #include "simulator/core/data.h"
-#include "simulator/core/guard.h"
 #include "simulator/core/resources.h"
 #include "simulator/core/settings_json.h"
 #include "simulator/front/contact_sheet.h"
@@ -51,15 +52,14 @@ void transfer_settings(Camera& camera, const Options& options)
     }
 }
 
-/// For a camera without live reload: the pictures as they are now.
-void take_pictures(Pictures& pictures)
+/// As the page tools do it.
+int check_resources(const std::string& folder)
 {
-    for (const std::filesystem::path& file : pictures.outdated()) {
-        (void)guarded("resources", false, [&] {
-            pictures.take(file);
-            return true;
-        });
-    }
+    CLI::App tools;
+    int status = 0;
+    pages::add_commands(tools, status);
+    tools.parse({folder, "check"}); // the last word goes first
+    return status;
 }
 
 void run_camera(const Options& options, Pictures& pictures)
@@ -93,22 +93,26 @@ void run_camera(const Options& options, Pictures& pictures)
 
 } // namespace
 
-void run(const Options& options)
+int run(const Options& options)
 {
+    if (options.check) {
+        return check_resources(*options.check);
+    }
     if (options.scenario) {
         play_scenario(*options.scenario, options.update_scenario);
-        return;
+        return 0;
     }
-    check_resource_folder(options.resources);
+    require_usable(options.resources);
     Pictures pictures(options.resources);
     if (!options.web) {
-        take_pictures(pictures);
+        pictures.take_outdated();
     }
     if (options.contact_sheet) {
         write_contact_sheets(*options.contact_sheet, options);
     } else {
         run_camera(options, pictures);
     }
+    return 0;
 }
 
 } // namespace sim

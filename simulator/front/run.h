@@ -5,7 +5,8 @@
 
 namespace sim {
 
-/// Runs one camera until its front end is done, or plays a scenario. Throws BadInput and std::runtime_error.
-void run(const Options& options);
+/// Runs one camera until its front end is done, plays a scenario or checks resources. Returns the exit status. Throws
+/// BadInput and std::runtime_error.
+int run(const Options& options);
 
 } // namespace sim

@@ -5,14 +5,14 @@
 #include <optional>
 #include <utility>
 
-#include "simulator/core/child_program.h"
 #include "simulator/core/data.h"
 #include "simulator/core/folder_watch.h"
 #include "simulator/core/log.h"
 #include "simulator/core/output_capture.h"
-#include "simulator/core/resource_check.h"
 #include "simulator/core/resources.h"
+#include "simulator/front/browser.h"
 #include "simulator/front/stop_signals.h"
+#include "simulator/host/checker.h"
 #include "simulator/host/key_script.h"
 #include "simulator/host/live_reload.h"
 #include "simulator/host/menu_loop.h"
@@ -76,32 +76,32 @@ std::unique_ptr<WebServer> start_server(Api& api, const Options& options)
     }
 }
 
-/// Changes that wait for the menu thread. However fast files change and however long a reload takes, one task waits.
-class WaitingChanges {
+/// The last verdict, which waits for the menu thread. However fast files change and however long the menu takes to follow,
+/// one task waits.
+class WaitingVerdict {
 public:
-    /// True when nothing waited so far.
-    bool add(const FolderWatch::Changed& files)
+    /// True when none waited so far.
+    bool put(Verdict verdict)
     {
         const std::lock_guard<std::mutex> lock(mutex_);
-        const bool first = files_.empty();
-        files_.insert(files.begin(), files.end());
+        const bool first = !verdict_;
+        verdict_ = std::move(verdict);
         return first;
     }
 
-    FolderWatch::Changed take()
+    Verdict take()
     {
         const std::lock_guard<std::mutex> lock(mutex_);
-        return std::exchange(files_, {});
+        return std::exchange(verdict_, std::nullopt).value();
     }
 
 private:
     std::mutex mutex_;
-    FolderWatch::Changed files_;
+    std::optional<Verdict> verdict_;
 };
 
 /// Null when the system refuses to watch; the camera runs without it.
-std::unique_ptr<FolderWatch> watch_resources(const Camera& camera,
-                                             const std::function<void(const FolderWatch::Changed&)>& on_change)
+std::unique_ptr<FolderWatch> watch_resources(const Camera& camera, const std::function<void()>& on_change)
 {
     try {
         return std::make_unique<FolderWatch>(resource_folders(camera.resources()), on_change);
@@ -131,20 +131,16 @@ void serve_camera(Camera& camera, Pictures& pictures, const MenuConfig& menu, co
     EventHub hub;
     EventBridge bridge(camera, hub);
     MenuSession session(camera, menu);
-    // From before the first look at the resources, so that no change falls between; the loop runs when all stands.
-    std::optional<LiveReload> reload;
-    ResourceCheck check(camera.resources(), [&](const std::vector<Problem>& found) {
-        loop.post([&reload, found] { reload->set_findings(found); });
-    });
-    WaitingChanges changes;
-    const auto watch = watch_resources(camera, [&](const FolderWatch::Changed& files) {
-        if (changes.add(files)) {
-            loop.post([&] { reload->reload(changes.take()); });
+    LiveReload reload(camera, pictures);
+    WaitingVerdict waiting;
+    Checker checker(camera.resources(), [&](Verdict verdict) { // has graphics libraries: the session has started them
+        if (waiting.put(std::move(verdict))) {
+            loop.post([&] { reload.take(waiting.take()); });
         }
-        check.check_again();
     });
-    reload.emplace(camera, pictures);
-    const CameraParts parts{camera, session, *reload, loop, hub};
+    const auto watch = watch_resources(camera, [&checker] { checker.look_again(); });
+    checker.look_again(); // from behind the start of the watch, so that no change falls between
+    const CameraParts parts{camera, session, reload, loop, hub};
     Api api(parts, OSD_WEB_DIR, options.token);
     if (options.prompt && session.has_menu()) {
         session.menu().overlays().show_prompt(*options.prompt);
@@ -155,9 +151,9 @@ void serve_camera(Camera& camera, Pictures& pictures, const MenuConfig& menu, co
     const auto server = start_server(api, options);
     output.print(address_with_token(server->listens_at(), options) + "\n");
     if (options.open) {
-        const std::string problem = leave_program({"xdg-open", address_with_token(server->listens_at(), options)});
+        const std::string problem = open_browser(address_with_token(server->listens_at(), options));
         if (!problem.empty()) {
-            log_line(LogLevel::Warning, "web", "no browser can be opened: " + problem);
+            log_line(LogLevel::Warning, "web", problem);
         }
     }
     loop.run([&] {

@@ -7,6 +7,7 @@
 #include <atomic>
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <mutex>
 #include <unistd.h>
 
 #include "simulator/core/resources.h"
@@ -16,6 +17,10 @@ namespace {
 
 std::atomic<const Faults*> graphics_faults{nullptr};
 std::atomic<const ReplacedPictures*> replaced_pictures{nullptr};
+
+/// The menu and the checker's own menu open and close fonts on two threads, with one font library between them, whose
+/// list of open fonts nobody else guards. A font that can't be opened is closed inside the call that opens it.
+std::recursive_mutex font_mutex;
 
 bool is_on(Fault fault)
 {
@@ -68,6 +73,7 @@ TTF_Font* TTF_OpenFontRW(SDL_RWops* src, int freesrc, int ptsize)
 {
     static auto* const next = sim::next_function<decltype(TTF_OpenFontRW)>("TTF_OpenFontRW");
     if (next != nullptr && !sim::is_on(sim::Fault::FontsMissing)) {
+        const std::lock_guard<std::recursive_mutex> lock(sim::font_mutex);
         return next(src, freesrc, ptsize);
     }
     if (freesrc != 0 && src != nullptr) {
@@ -75,6 +81,13 @@ TTF_Font* TTF_OpenFontRW(SDL_RWops* src, int freesrc, int ptsize)
     }
     SDL_SetError("the font is missing (fault fonts-missing)");
     return nullptr;
+}
+
+void TTF_CloseFont(TTF_Font* font)
+{
+    static auto* const next = sim::next_function<decltype(TTF_CloseFont)>("TTF_CloseFont");
+    const std::lock_guard<std::recursive_mutex> lock(sim::font_mutex);
+    next(font);
 }
 
 SDL_Surface* IMG_Load(const char* file)

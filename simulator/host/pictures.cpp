@@ -1,12 +1,11 @@
 #include "simulator/host/pictures.h"
 
-#include <algorithm>
 #include <string>
 #include <system_error>
 
 #include "pages/data/picture_file.h"
 #include "simulator/core/data.h"
-#include "simulator/core/data_folder.h"
+#include "simulator/core/guard.h"
 #include "simulator/core/resources.h"
 
 namespace sim {
@@ -49,27 +48,27 @@ bool Pictures::has_name_of_one(const fs::path& file) const
     return file.parent_path() == folder_ && (file.extension() == ".svg" || file.extension() == ".bmp");
 }
 
-std::vector<fs::path> Pictures::outdated() const
+void Pictures::take_outdated()
 {
-    std::vector<fs::path> files;
     std::error_code error; // a folder that isn't there has none
     for (const auto& entry : fs::directory_iterator(folder_, error)) {
         if (has_name_of_one(entry.path()) && !is_staged(entry.path())) {
-            files.push_back(entry.path());
+            (void)take(entry.path());
         }
     }
-    std::sort(files.begin(), files.end());
-    return files;
 }
 
-void Pictures::take(const fs::path& file)
+bool Pictures::take(const fs::path& file)
 {
-    const std::string name = file.stem().concat(".bmp").string();
-    if (fs::exists(fs::symlink_status(file))) {
-        replaced_.replace(name, pages::bitmap_of(pages::read_picture(file)));
-    } else {
-        replaced_.restore(name);
-    }
+    return has_name_of_one(file) && guarded("resources", false, [&] {
+               const std::string name = file.stem().concat(".bmp").string();
+               if (fs::exists(fs::symlink_status(file))) {
+                   replaced_.replace(name, pages::bitmap_of(pages::read_picture(file)));
+               } else {
+                   replaced_.restore(name);
+               }
+               return true;
+           });
 }
 
 } // namespace sim

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <filesystem>
-#include <vector>
 
 #include "simulator/host/graphics_calls.h"
 
@@ -15,18 +14,16 @@ public:
     /// Takes nothing yet.
     explicit Pictures(const std::filesystem::path& resources);
 
-    /// The folder of the resources in which the pictures lie.
-    const std::filesystem::path& folder() const { return folder_; }
-    /// Whether this is, by its place and ending, the file of a picture.
-    bool has_name_of_one(const std::filesystem::path& file) const;
-    /// The files that differ from what is staged.
-    std::vector<std::filesystem::path> outdated() const;
-
-    /// The menu loads this picture from now on; for a file that has gone, the staged one. Throws std::runtime_error for
-    /// one that can't be drawn, and the menu goes on with the last good one. Takes five seconds at most.
-    void take(const std::filesystem::path& file);
+    /// Takes all that differ from what is staged.
+    void take_outdated();
+    /// The menu loads this picture from now on; for a file that has gone, the staged one. One that can't be drawn is a
+    /// line in the log, and the menu goes on with the last good one. False for that, and for what is no picture by its
+    /// place and ending.
+    bool take(const std::filesystem::path& file);
 
 private:
+    bool has_name_of_one(const std::filesystem::path& file) const;
+
     std::filesystem::path folder_;
     ReplacedPictures replaced_;
 };

@@ -51,8 +51,13 @@ json focus_json(const std::vector<PageState>& pages)
 json problems_json(const LiveReload& reload)
 {
     json problems = json::array();
-    for (const Problem& problem : reload.problems()) {
-        problems.push_back({{"file", problem.file}, {"line", problem.line}, {"reason", problem.reason}});
+    for (const Finding& finding : reload.problems()) {
+        problems.push_back({{"file", finding.place.file},
+                            {"line", finding.place.line},
+                            {"column", finding.place.column},
+                            {"severity", name_of(finding.severity)},
+                            {"rule", finding.rule},
+                            {"reason", words_of(finding)}});
     }
     return problems;
 }

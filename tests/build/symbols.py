@@ -18,16 +18,6 @@ def output_of(*command):
     return subprocess.run(command, check=True, capture_output=True, text=True).stdout
 
 
-def needed_by(library):
-    return set(re.findall(r"\(NEEDED\).*\[(.+)\]", output_of("readelf", "-dW", library)))
-
-
-def report(title, names):
-    for name in sorted(names):
-        print(f"{title}: {name}")
-    return bool(names)
-
-
 def declared_names():
     """Every function and variable behind OSD_API in include/, where all installed headers stand."""
     headers = "".join(path.read_text() for path in ROOT.glob("include/*.h"))
@@ -35,20 +25,16 @@ def declared_names():
     return set(re.findall(r"\bOSD_API\b[^;(]*?(\w+)\s*[;(]", declarations))
 
 
-def check_exported(library):
-    declared = declared_names()
+def exported_names(library):
     lines = output_of("nm", "-D", "--format=posix", "--defined-only", library).splitlines()
-    found = {line.split()[0].split("@")[0] for line in lines}
-    if any(SANITIZER.match(name) for name in needed_by(library)):
-        found = {name for name in found if not name.startswith("__odr_asan.")}
-    print(f"{len(found)} exported names")
-    return report("declared, but not exported", declared - found) | report("exported, but not declared", found - declared)
-
-
-def check_linked(library):
-    return report("linked with", {name for name in needed_by(library) if not LINKED.match(name) and not SANITIZER.match(name)})
+    names = {line.split()[0].split("@")[0] for line in lines}
+    return {name for name in names if not name.startswith("__odr_asan.")}
 
 
 if __name__ == "__main__":
-    check = {"exported": check_exported, "linked": check_linked}[sys.argv[1]]
-    sys.exit(check(sys.argv[2]))
+    if sys.argv[1] == "exported":
+        wrong = declared_names() ^ exported_names(sys.argv[2])
+    else:
+        needed = set(re.findall(r"\(NEEDED\).*\[(.+)\]", output_of("readelf", "-dW", sys.argv[2])))
+        wrong = {name for name in needed if not LINKED.match(name) and not SANITIZER.match(name)}
+    sys.exit("\n".join(f"{sys.argv[1]}, or missing: {name}" for name in sorted(wrong)) or None)

@@ -19,14 +19,12 @@ inline std::string wordAt(const char* words, int place)
     return word == "-" ? "" : word;
 }
 
+// " name=value", or nothing for what is empty or 0.
 inline std::string part(const std::string& name, const std::string& value)
 {
-    return value.empty() ? "" : " " + name + "=" + value;
+    return value.empty() || value == "0" ? "" : " " + name + "=" + value;
 }
-inline std::string part(const std::string& name, int value, int usual = 0)
-{
-    return part(name, value == usual ? "" : std::to_string(value));
-}
+inline std::string part(const std::string& name, int value) { return part(name, std::to_string(value)); }
 
 // "> t.Gain (Gain) NAME_VAL COMMON [Auto t.Auto] [Low t.Low] = t.Low, was t.Auto", with sub-items behind their option.
 inline std::string describe(const tagITEM_NODE_S& item)
@@ -38,9 +36,9 @@ inline std::string describe(const tagITEM_NODE_S& item)
         wordAt("CONST_TXT STATUS KEY_WITH_MSG COMMON EDITABLE CONFIRM CONFIRM_POP CONFIRM_POP_BTN SUBITEM SUBPAGE "
                "MSG_LINE MSG_WITH_SUBITEM",
                item.enAttr) +
-        part("ValType", wordAt("NUMERICAL - EDITTXT", item.enValType)) +
+        part("ValType", wordAt("- - EDITTXT", item.enValType)) +
         part("PicType", wordAt("MAINTYPE SUBTYPE IPTYPE CONFIRMTYPE -", item.enPicType)) + part("level", item.enLevel) +
-        part("sub", item.bSubItem) + part("ItemCnt", item.s32ItemCnt, 1) +
+        part("sub", item.bSubItem) + part("ItemCnt", item.s32ItemCnt == 1 ? 0 : item.s32ItemCnt) +
         part("ItemIndexOnLine", item.s32ItemIndexOnLine) + part("Pic", item.acPic) +
         part("SelectPic", item.acSelectPic) + part("NumOfChar", item.s32NumOfChar) +
         part("ItemPos", wordAt("- Right Center", item.enItemPos)) + part("Line", item.bLine) +
@@ -92,21 +90,6 @@ protected:
         }
         stop();
         return text;
-    }
-
-    // Rows of attributes and of what an item makes of them; FITS and LONG are texts of 31 and 32 bytes.
-    void expectItems(const std::string& table, const std::string& common = "")
-    {
-        for (const std::string& line : linesIn(table)) {
-            const auto words = [](const std::string& text) {
-                return replaced(replaced(squeezed(text), "FITS", std::string(31, 'k')), "LONG", std::string(32, 'k'));
-            };
-            const std::string attributes = words(line.substr(0, line.find('|')));
-            const std::string described = words(line.substr(line.find('|') + 1));
-            EXPECT_EQ(parsed("<I ItemIndex='A' " + attributes + common + "/>"),
-                      described == "fails" ? described : "p vertical_align items=1; > t.A (A) " + described)
-                << attributes;
-        }
     }
 };
 

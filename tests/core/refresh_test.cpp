@@ -1,4 +1,4 @@
-// Values read again: the host's three refresh functions, and the places where the values stand.
+// Values read again by the host's three refresh functions, where they stand, and which items a page shows.
 #include "tests/core/page_text.h"
 
 using namespace fake;
@@ -88,4 +88,44 @@ TEST_F(RefreshTest, CurrentPageIsBuiltAnew)
     EXPECT_EQ(OSD_MENU_RefreshCurrentPage(), -1);
     EXPECT_EQ(refresh("Gain"), "");
     EXPECT_EQ(OSD_MENU_RefreshPage(), 0);
+}
+
+TEST_F(PageTest, FlattenedListShowsTheOptionInForce)
+{
+    // an item of three options, the first without sub-items, and one behind it
+    tagITEM_NODE_S* tree = opened(R"(<I ItemIndex="Mode" Attr="SUBITEM"> <O ModeIndex="A"/>
+        <O ModeIndex="B"> <I ItemIndex="b1" Attr="SUBITEM"> <O ModeIndex="X"> <I ItemIndex="deep"/> </O> </I>
+            <I ItemIndex="b2"/> </O>
+        <O ModeIndex="C"> <I ItemIndex="c1"/> </O> </I> <I ItemIndex="Last"/>)");
+    const std::tuple<tagITEM_ATTR_E, int, int, const char*, bool> cases[] = {
+        // options 3, 40 and -1 don't exist
+        {SUBITEM, 0, 1, "Mode Last ", false},  {SUBITEM, 1, 2, "Mode b1 deep b2 Last ", true},
+        {SUBITEM, 3, 1, "Mode Last ", false},  {MSG_WITH_SUBITEM, 2, 1, "Mode b1 deep b2 Last ", true},
+        {SUBITEM, -1, 1, "Mode Last ", false}, {MSG_WITH_SUBITEM, 0, 1, "Mode Last ", false},
+        {COMMON, 1, 1, "Mode Last ", false},   {MSG_WITH_SUBITEM, 1, 40, "Mode Last ", true}};
+    for (const auto& [attr, current, saved, keys, has] : cases) {
+        tree->enAttr = attr;
+        tree->s32CurIdx = current;
+        tree->s32SavedIdx = saved;
+        std::string found;
+        for (const tagITEM_NODE_S* item : itemsOf(gstPageMgr.astPage[0])) {
+            found += std::string(item->acItemIndex) + " ";
+        }
+        EXPECT_EQ(found, keys) << attr << " " << current << " " << saved;
+        EXPECT_EQ(osdMenuHasSubItem(tree), has ? 1 : 0) << attr << " " << current << " " << saved;
+    }
+}
+
+TEST_F(PageTest, SelectedItem)
+{
+    EXPECT_EQ(osdMenuReleaseSinglePage(), 0) << "there is none";
+    tagPAGE_NODE_S* page = openPage("<I ItemIndex='Gain'/> <I ItemIndex='Last'/>");
+    EXPECT_EQ(osdMenuGetSelectedItem(page), itemAt(page->stItemList, 0));
+    page->enLayout = PAGE_LAYOUT_ICON; // here the position names it
+    page->s32SelIdx = 1;
+    EXPECT_EQ(osdMenuGetSelectedItem(page), itemAt(page->stItemList, 1));
+    page->s32SelIdx = 2;
+    EXPECT_EQ(osdMenuGetSelectedItem(page), nullptr);
+    EXPECT_EQ(osdMenuReleaseSinglePage(), 0);
+    EXPECT_EQ(describe(*page), " icon") << "an empty record";
 }

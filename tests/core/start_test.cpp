@@ -1,13 +1,14 @@
-// Initialisation: order of calls, rectangles, and what every failure releases.
+// The start: order of calls, rectangles, what every failure releases. The canvas: redraw, push, queries of the host.
 #include <cmath>
 
 #include "osd_page.h"
 #include "tests/fake/menu_test.h"
 
 using namespace fake;
+using namespace testing;
 
 // What a start with a canvas of 1000 by 1000 calls.
-static const std::string START = "log 6 bSupport4K:0,stMenuRect info(0, 0, 1000, 1000)\n; create resource; "
+static const std::string START = "log 6 bSupport4K:0,stMenuRect info(0, 0, 1000, 1000)\n; create resource 1000x1000; "
                                  "open font.ttf 32; open bold_font.ttf 32; alloc menu_mem 4000000 0; "
                                  "alloc menu_scale 4000000 0; "
                                  "canvas 1000x1000 32 bits, pitch 4000, format 0x16362004; set callback; ";
@@ -17,44 +18,31 @@ protected:
     static std::string text(const SDL_Rect& r) { return format("%d %d %d %d; ", r.x, r.y, r.w, r.h); }
 
     // The calls since the last look.
-    static std::string called()
-    {
-        std::string all;
-        for (const std::string& line : calls().lines) {
-            all += line + "; ";
-        }
-        calls().lines.clear();
-        return all;
-    }
+    static std::string called() { return joined(std::exchange(calls().lines, {}), "; ") + "; "; }
 };
 
 TEST_F(StartTest, LibrariesStartInOrderAndGoBackOnFailure)
 {
-    const std::vector<std::string> cases[] = {
-        {"SDL_Init", "SDL Init Fail, s32Ret = -1\n", "SDL_Init 0xd001; "},
-        {"IMG_Init", "IMG Init Fail.\n", "SDL_Init 0xd001; IMG_Init 3; SDL_Quit; "},
-        {"TTF_Init", "TTF Init Fail.\n", "SDL_Init 0xd001; IMG_Init 3; TTF_Init; IMG_Quit; SDL_Quit; "}};
-    for (const std::vector<std::string>& c : cases) { // failing call, what is printed, what is called
-        failCall(c[0]);
-        EXPECT_EQ(printed([&] { EXPECT_EQ(OSD_MENU_InitOpensourceRes(), -1); }), c[1]);
-        EXPECT_EQ(called(), c[2]);
+    for (const auto& [failing, said, all] :
+         {std::tuple("SDL_Init", "SDL Init Fail, s32Ret = -1\n", "SDL_Init 0xd001; "),
+          {"IMG_Init", "IMG Init Fail.\n", "SDL_Init 0xd001; IMG_Init 3; SDL_Quit; "},
+          {"TTF_Init", "TTF Init Fail.\n", "SDL_Init 0xd001; IMG_Init 3; TTF_Init; IMG_Quit; SDL_Quit; "}}) {
+        failCall(failing);
+        EXPECT_EQ(printed([] { EXPECT_EQ(OSD_MENU_InitOpensourceRes(), -1); }), said);
+        EXPECT_EQ(called(), all);
     }
 }
 
-TEST_F(StartTest, BuildsManagerCanvasAndSurface)
+TEST_F(StartTest, CanvasFollowsTheConfiguration)
 {
-    ASSERT_EQ(init({2, 2, 0, {0.0f, 0.0f, 0.5208f, 0.9259f}, true}), 0);
+    ASSERT_EQ(init({2, 2, 0, Config().place, true}), 0);
     EXPECT_EQ(called(), START);
-    EXPECT_THAT(platform().log.at(0).tag, testing::MatchesRegex("OSD_MENU_InitSdkRes\\[[0-9]+\\] "));
+    EXPECT_THAT(platform().log.at(0), MatchesRegex("OSD_MENU_InitSdkRes\\[[0-9]+\\] "));
     EXPECT_EQ(enMenuStyle, 2u);
     EXPECT_EQ(gstMenuMgr.pfnBusinessFunc, business);
     EXPECT_EQ(gstMenuMgr.pfnGetDataZoneParent, dataZoneParent);
     EXPECT_EQ(platform().update, OSD_MENU_UpdateCanvas);
     EXPECT_EQ(gstMenuMgr.pstSurface->pixels, gstMenuMgr.stCanvas.stMem.pvVirAddr);
-}
-
-TEST_F(StartTest, CanvasFollowsTheConfiguration)
-{
     // large base, pixel format, rectangles of menu, popup and popup with message, surface
     const std::tuple<OSD_BOOL, uint32_t, const char*, const char*> cases[] = {
         {0, 0, "96 8 656 756; 342 291 164 189; 206 291 436 189; ", "656x756 16 bits, pitch 1312, format 0x15331002"},
@@ -66,7 +54,7 @@ TEST_F(StartTest, CanvasFollowsTheConfiguration)
         ASSERT_EQ(init({0, pixels, big, {0.05f, 0.005f, 0.3409f, 0.7f}, false}), 0);
         EXPECT_EQ(linesOf({"canvas"}).back(), std::string("canvas ") + surface);
         EXPECT_EQ(gstMenuMgr.f32Scale, big == 1 ? 1.5f : 1.0f);
-        const tagOSD_MENU_CANVAS_S& seen = platform().canvasAtCreate;
+        const tagOSD_MENU_CANVAS_S& seen = gstMenuMgr.stCanvas;
         EXPECT_EQ(text(seen.stMenuRect) + text(gstMenuMgr.stPopRect) + text(gstMenuMgr.stPopMsgRect), rects);
         EXPECT_EQ(text(seen.stBaseRect), big == 1 ? "0 0 3840 2160; " : "0 0 1920 1080; ");
         EXPECT_EQ(seen.enPixFmt, pixels);
@@ -105,9 +93,53 @@ TEST_F(StartTest, SenselessConfigurationDoesNoHarm)
                                                         {{1e30f, 1e30f, 0.5f, 0.5f}, 0}};
     for (const auto& [place, result] : cases) {
         EXPECT_EQ(init({0, 2, 0, place, false}), result) << place.f32X << " " << place.f32W;
-        open("p", "<P Layout='vertical_align'><I ItemIndex='Gain' Ctx='NAME' Attr='CONST_TXT'/></P>");
+        openPage("<I ItemIndex='Gain' Attr='CONST_TXT'/>");
         EXPECT_EQ(OSD_MENU_RenderCanvas(), result) << place.f32X << " " << place.f32W;
         EXPECT_EQ(osdMenuReleaseSinglePage(), 0);
     }
     EXPECT_EQ(init({0, 3, 0, {0.0f, 0.0f, 0.5f, 0.5f}, false}), OSD_MENU_RenderCanvas()) << "whatever SDL says to it";
+}
+
+TEST_F(StartTest, RedrawPushesUnderTheLock)
+{
+    start({0, 2, 0, {0.05f, 0.05f, 0.35f, 0.7f}, false});
+    EXPECT_EQ(OSD_MENU_RenderCanvas(), 0); // a closed menu is hidden with its pixels as they are
+    tagPAGE_NODE_S* page = openPage("");
+    calls().lines.erase(calls().lines.begin() + 1, calls().lines.end());
+    page->enLayout = static_cast<tagPAGE_LAYOUT_E>(6);
+    EXPECT_EQ(OSD_MENU_RenderCanvas(), -1); // a layout that nothing draws isn't pushed
+    page->enLayout = PAGE_LAYOUT_VERTICAL;
+    EXPECT_EQ(OSD_MENU_RenderCanvas(), 0);
+    EXPECT_THAT(calls().lines, ElementsAre("push 0", "fill 96,56 672x756 800a0a0a", "push 1"));
+    EXPECT_THAT(platform().pushes, Each(AllOf(Field(&Push::locked, true), Field(&Push::canvas, &gstMenuMgr))));
+    EXPECT_THAT(platform().pushes.at(0).pixels, Each(0xA5));
+    EXPECT_EQ(platform().pushes.at(1).pixels.at((56 * 672 + 96) * 4), 0x0A) << "pushed as drawn";
+}
+
+TEST_F(StartTest, ChannelCallbackShowsOnlyAnOpenMenu)
+{
+    start();
+    auto* attach = reinterpret_cast<OSD_ATTACH_INFO_S*>(this);
+    EXPECT_EQ(platform().update(1, attach), 0);
+    openPage("");
+    EXPECT_EQ(platform().update(1, attach), 0);
+    EXPECT_EQ(platform().update(0, attach), 0);
+    EXPECT_THAT(linesOf({"push", "fill"}), ElementsAre("push one 0", "push one 1", "push one 0"));
+    EXPECT_THAT(platform().pushes, Each(AllOf(Field(&Push::locked, false), Field(&Push::attach, attach))));
+}
+
+TEST_F(StartTest, Queries)
+{
+    const auto answers = [] {
+        return format("%u %u %u", OSD_MENU_GetMenuStatus(), OSD_Menu_HasSubPage(), OSD_MENU_HasSubPageWithOutIcon());
+    };
+    EXPECT_EQ(answers(), "0 1 0") << "closed";
+    tagITEM_NODE_S* item = itemAt(openPage("<I ItemIndex='More' Attr='SUBPAGE' SubPage='s'/>")->stItemList, 0);
+    EXPECT_EQ(answers(), "1 1 1");
+    item->bActive = 0;
+    EXPECT_EQ(answers(), "1 0 0") << "nothing selected";
+    gstPageMgr.astPage[0].enLayout = PAGE_LAYOUT_ICON;
+    EXPECT_EQ(answers(), "1 1 0");
+    item->enAttr = COMMON;
+    EXPECT_EQ(answers(), "1 0 0");
 }

@@ -52,17 +52,6 @@ std::vector<std::string> linesOf(const std::vector<std::string>& words)
     return found;
 }
 
-std::vector<std::string> blits()
-{
-    std::vector<std::string> found;
-    for (const std::string& line : linesOf({"blit "})) {
-        if (line.find(" on ") == std::string::npos) {
-            found.push_back(line.substr(5));
-        }
-    }
-    return found;
-}
-
 static const std::regex& compiled(const std::string& pattern)
 {
     static std::map<std::string, std::regex> all;

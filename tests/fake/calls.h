@@ -42,8 +42,6 @@ std::string baseName(const std::string& path);
 
 // The recorded lines that begin with one of the words.
 std::vector<std::string> linesOf(const std::vector<std::string>& words);
-// What was blitted onto the canvas, such as "plain 28 white 'Gain' at 20,60".
-std::vector<std::string> blits();
 
 // Regular expressions take long to compile, so they stand in one file. All matches replaced, "$1" for the first group;
 // and the groups of a match with the whole text, none without one.

@@ -16,25 +16,21 @@ using fake::calls;
 using fake::format;
 using fake::record;
 
-#define REAL(Name) \
-    [] { \
-        static const auto real = reinterpret_cast<decltype(&Name)>(dlsym(RTLD_NEXT, #Name)); \
-        return real; \
-    }()
+#define REAL(Name) reinterpret_cast<decltype(&Name)>(dlsym(RTLD_NEXT, #Name))
 #define INTERCEPT(Name, line, ...) intercept(#Name, line, -1, [&] { return REAL(Name)(__VA_ARGS__); })
-#define CREATE(Name, line, description, ...) create(#Name, line, description, [&] { return REAL(Name)(__VA_ARGS__); })
+#define CREATE(Name, line, surface, ...) \
+    intercept<SDL_Surface*>( \
+        #Name, line, nullptr, [&] { return REAL(Name)(__VA_ARGS__); }, surface)
 
 namespace {
 
 int g_depth = 0;
 
-bool seen() { return calls().recording && g_depth == 0; }
-
-// Logs a call and hands it on, unless it is to fail; an empty line is not logged.
+// Logs a call and hands it on, unless it is to fail; an empty line is not logged. A new surface gets a description.
 template <typename Result, typename Real>
-Result intercept(const char* name, const std::string& line, Result failure, Real real)
+Result intercept(const char* name, const std::string& line, Result failure, Real real, const std::string& surface = "")
 {
-    if (!seen()) {
+    if (!calls().recording || g_depth > 0) {
         return real();
     }
     if (!line.empty()) {
@@ -46,19 +42,12 @@ Result intercept(const char* name, const std::string& line, Result failure, Real
     g_depth++;
     const Result result = real();
     g_depth--;
-    return result;
-}
-
-// The same for a new surface.
-template <typename Real>
-SDL_Surface* create(const char* name, const std::string& line, const std::string& description, Real real)
-{
-    const bool named = seen();
-    SDL_Surface* surface = intercept<SDL_Surface*>(name, line, nullptr, real);
-    if (named && surface != nullptr) {
-        calls().surfaces[surface] = description;
+    if constexpr (std::is_same_v<Result, SDL_Surface*>) {
+        if (result != nullptr) {
+            calls().surfaces[result] = surface;
+        }
     }
-    return surface;
+    return result;
 }
 
 std::string nameOf(const SDL_Surface* surface)
@@ -79,10 +68,8 @@ std::string nameOf(const TTF_Font* font)
 
 std::string nameOf(SDL_Color c)
 {
-    static const std::map<std::string, std::string> names = {
-        {"ffffffff", "white"}, {"ffbfbfbf", "grey"}, {"ffffcd25", "amber"}};
     const std::string hex = format("%02x%02x%02x%02x", c.a, c.r, c.g, c.b);
-    return names.count(hex) != 0 ? names.at(hex) : hex;
+    return hex == "ffffffff" ? "white" : hex == "ffbfbfbf" ? "grey" : hex == "ffffcd25" ? "amber" : hex;
 }
 
 SDL_Surface* filled(int w, int h, SDL_Color c)
@@ -112,7 +99,7 @@ int open(const char* path, int flags, ...)
     va_start(arguments, flags);
     const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
     va_end(arguments);
-    if (seen() && hasSuffix(path, ".ttf")) {
+    if (calls().recording && hasSuffix(path, ".ttf")) {
         calls().lastFile = fake::baseName(path);
         if (isMissing(path)) {
             return -1;
@@ -140,10 +127,7 @@ int SDL_Init(Uint32 flags)
 void SDL_Quit() { record("SDL_Quit"); }
 int IMG_Init(int flags) { return INTERCEPT(IMG_Init, format("IMG_Init %d", flags), flags); }
 void IMG_Quit() { record("IMG_Quit"); }
-int TTF_Init()
-{
-    return intercept("TTF_Init", "TTF_Init", -1, [] { return REAL(TTF_Init)(); });
-}
+int TTF_Init() { return intercept("TTF_Init", "TTF_Init", -1, REAL(TTF_Init)); }
 
 TTF_Font* TTF_OpenFontRW(SDL_RWops* source, int freeSource, int size)
 {
@@ -197,12 +181,13 @@ int TTF_SizeUTF8(TTF_Font* font, const char* text, int* w, int* h)
 SDL_Surface* TTF_RenderUTF8_Blended(TTF_Font* font, const char* text, SDL_Color colour)
 {
     const std::string name = format("%s %s '%s'", nameOf(font).c_str(), nameOf(colour).c_str(), text);
-    return create("TTF_RenderUTF8_Blended", "", name, [=]() -> SDL_Surface* {
+    const auto render = [=]() -> SDL_Surface* {
         if (!calls().fakeFonts) {
             return REAL(TTF_RenderUTF8_Blended)(font, text, colour);
         }
         return *text != '\0' ? filled(widthOf(text), calls().lineHeight, colour) : nullptr;
-    });
+    };
+    return intercept<SDL_Surface*>("TTF_RenderUTF8_Blended", "", nullptr, render, name);
 }
 
 SDL_Surface* SDL_CreateRGBSurfaceWithFormat(Uint32 flags, int w, int h, int bits, Uint32 pixelFormat)
@@ -235,13 +220,13 @@ SDL_Surface* IMG_Load(const char* path)
     const std::string stem = file.substr(0, file.find('.'));
     const SDL_Color colour = stem == "block" ? SDL_Color{255, 0, 0, 255} : SDL_Color{0, 0, 255, 255};
     const int size = calls().pictureSize;
-    return create("IMG_Load", format("load %s", path), "loaded " + stem,
-                  [&] { return calls().fakePictures ? filled(size, size, colour) : REAL(IMG_Load)(path); });
+    const auto load = [&] { return calls().fakePictures ? filled(size, size, colour) : REAL(IMG_Load)(path); };
+    return intercept<SDL_Surface*>("IMG_Load", format("load %s", path), nullptr, load, "loaded " + stem);
 }
 
 void SDL_FreeSurface(SDL_Surface* surface)
 {
-    if (seen() && surface != nullptr) {
+    if (calls().recording && g_depth == 0 && surface != nullptr) {
         record("free " + nameOf(surface));
         calls().surfaces.erase(surface);
     }

@@ -16,13 +16,14 @@ constexpr int BLEND_STEPS = 0;
 constexpr int BLEND_STEPS = 2;
 #endif
 
+bool g_update = false;
+
 // How far the farthest of four channels is away.
 int distance(uint32_t one, uint32_t other)
 {
     int farthest = 0;
     for (const int shift : {0, 8, 16, 24}) {
-        const auto channel = [shift](uint32_t pixel) { return static_cast<int>(pixel >> shift & 0xFF); };
-        farthest = std::max(farthest, std::abs(channel(one) - channel(other)));
+        farthest = std::max(farthest, std::abs(int(one >> shift & 0xFF) - int(other >> shift & 0xFF)));
     }
     return farthest;
 }
@@ -35,12 +36,10 @@ std::string difference(SDL_Surface* actual, SDL_Surface* expected)
         return format("%dx%d instead of %dx%d", actual->w, actual->h, expected->w, expected->h);
     }
     for (int at = 0; at < actual->w * actual->h; at++) {
-        const int x = at % actual->w;
-        const int y = at / actual->w;
-        const uint32_t pixel = pixelAt(actual, x, y);
-        const uint32_t wanted = pixelAt(expected, x, y);
+        const uint32_t pixel = pixelAt(actual, at % actual->w, at / actual->w);
+        const uint32_t wanted = pixelAt(expected, at % actual->w, at / actual->w);
         if (distance(pixel, wanted) > allowed) {
-            return format("pixel %d,%d is %08x instead of %08x", x, y, pixel, wanted);
+            return format("pixel %d,%d is %08x instead of %08x", at % actual->w, at / actual->w, pixel, wanted);
         }
     }
     return "";
@@ -48,17 +47,11 @@ std::string difference(SDL_Surface* actual, SDL_Surface* expected)
 
 } // namespace
 
-bool& updateGolden()
-{
-    static bool update = false;
-    return update;
-}
-
 testing::AssertionResult matchesGolden(SDL_Surface* actual, const std::string& name)
 {
     const bool recording = std::exchange(calls().recording, false);
     const std::string path = OSD_GOLDEN_DIR "/" + name + ".png";
-    if (updateGolden()) {
+    if (g_update) {
         EXPECT_EQ(IMG_SavePNG(actual, path.c_str()), 0) << path;
     }
     SDL_Surface* expected = IMG_Load(path.c_str());
@@ -73,3 +66,11 @@ testing::AssertionResult matchesGolden(SDL_Surface* actual, const std::string& n
 }
 
 } // namespace fake
+
+// Runs all tests. --update-golden writes the reference pictures anew before it compares with them.
+int main(int argc, char** argv)
+{
+    testing::InitGoogleMock(&argc, argv);
+    fake::g_update = argc == 2 && std::string(argv[1]) == "--update-golden";
+    return RUN_ALL_TESTS();
+}

@@ -7,8 +7,6 @@
 
 namespace fake {
 
-bool& updateGolden(); // --update-golden: write the pictures instead of comparing
-
 // Equal to tests/golden/<name>.png; the failure names the first pixel that differs, and the actual picture is written
 // into the working folder. In 16 bits a pixel and on x86-64 a picture is equal to the bit. In 32 bits SDL blends with
 // other code on other machines: there each channel may be two steps of 255 away, as measured on 64-bit Arm.

@@ -75,20 +75,17 @@ void MenuTest::TearDown()
     (void)pthread_mutex_unlock(&g_stMutex);
 }
 
-tagPAGE_NODE_S* MenuTest::open(const std::string& name, const std::string& document, int expected)
+tagPAGE_NODE_S* MenuTest::open(std::string name, int expected)
 {
-    platform().pages[name] = document;
-    tagPAGE_NODE_S* page = &gstPageMgr.astPage[gstPageMgr.s32PageCnt];
-    std::string copy = name;
-    EXPECT_EQ(OSD_MENU_ParseXml(copy.data(), page), expected) << document;
-    gstPageMgr.s32PageCnt++;
+    tagPAGE_NODE_S* page = &gstPageMgr.astPage[gstPageMgr.s32PageCnt++];
+    EXPECT_EQ(OSD_MENU_ParseXml(name.data(), page), expected) << name;
     return page;
 }
 
 tagPAGE_NODE_S* MenuTest::openPage(const std::string& items, const std::string& attributes)
 {
     setPage("p", items, attributes);
-    return open("p", platform().pages["p"]);
+    return open("p");
 }
 
 uint32_t pixelAt(SDL_Surface* surface, int x, int y)

@@ -30,10 +30,10 @@ protected:
     void start(const Config& config = {}); // init that must succeed, with an empty log of calls
     void stop();                           // gives everything back that the library holds
 
-    // Parses a document text as the page of that name and counts it as open.
-    tagPAGE_NODE_S* open(const std::string& name, const std::string& document, int expected = 0);
+    // Parses the page of that name and counts it as open.
+    static tagPAGE_NODE_S* open(std::string name, int expected = 0);
     // The same with a page "p" of these items, completed with the usual words.
-    tagPAGE_NODE_S* openPage(const std::string& items, const std::string& attributes = "");
+    static tagPAGE_NODE_S* openPage(const std::string& items, const std::string& attributes = "");
 
 private:
     std::string heldBefore;

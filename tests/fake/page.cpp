@@ -23,6 +23,8 @@ static void complete(tinyxml2::XMLElement* element)
                  {"Attr", "SUBPAGE", "Ctx", "NAME"},
                  {"Attr", "CONFIRM", "Ctx", "NAME"},
                  {"Attr", "CONFIRM_POP_BTN", "Ctx", "NAME"},
+                 {"Attr", "CONFIRM_POP_BTN", "ConfirmPage", "confirm"},
+                 {"Attr", "CONFIRM_POP", "ConfirmPage", "confirm"},
                  {"Attr", "EDITABLE", "Ctx", "NAME_IP_VAL"},
                  {"Attr", "EDITABLE", "ValType", "EDITTXT"},
                  {"Attr", "EDITABLE", "NumOfChar", "15"},
@@ -61,18 +63,14 @@ void setPage(const std::string& name, const std::string& items, const std::strin
 
 void setPages(const std::string& text)
 {
-    std::vector<std::string> page; // name, attributes, items
-    const auto store = [&page] { page.empty() ? void() : setPage(page[0], page[2], page[1]); };
+    std::vector<std::vector<std::string>> pages; // name, attributes, items
     for (const std::string& line : linesIn(text)) {
         const std::vector<std::string> head = matched(line, R"((\w+)([^<]*):(.*))");
-        if (!head.empty()) {
-            store();
-            page = head;
-        } else {
-            page.at(2) += line;
-        }
+        head.empty() ? pages.back().at(2).append(line) : pages.emplace_back(head).back();
     }
-    store();
+    for (const std::vector<std::string>& page : pages) {
+        setPage(page[0], page[2], page[1]);
+    }
 }
 
 tagITEM_NODE_S* itemAt(const list_head& list, int index)
@@ -200,6 +198,19 @@ std::vector<std::string> linesIn(const std::string& text)
         line.erase(0, margin);
     }
     return lines;
+}
+
+std::vector<std::vector<std::string>> tableIn(const std::string& text)
+{
+    std::vector<std::vector<std::string>> rows;
+    for (const std::string& line : linesIn(replaced(replaced(text, R"(([,;])\n *\|)", "$1"), R"(\n *\|)", " |"))) {
+        std::istringstream in(line + " "); // the last cell may be empty
+        rows.emplace_back();
+        for (std::string cell; std::getline(in, cell, '|');) {
+            rows.back().push_back(squeezed(cell));
+        }
+    }
+    return rows;
 }
 
 std::string joined(const std::vector<std::string>& parts, const std::string& between)

@@ -39,6 +39,10 @@ std::vector<std::string> screen();
 std::vector<std::string> linesIn(const std::string& text);
 std::string squeezed(const std::string& line);
 
+// The cells of a table, a line a row, with "|" between them. A line with "|" in front continues the row above, with its
+// next cell or, behind a comma or semicolon, with the same one.
+std::vector<std::vector<std::string>> tableIn(const std::string& text);
+
 std::string joined(const std::vector<std::string>& parts, const std::string& between);
 
 } // namespace fake

@@ -1,7 +1,6 @@
 #include "tests/fake/platform.h"
 
 #include <algorithm>
-#include <climits>
 #include <cstdarg>
 #include <cstring>
 #include <memory>
@@ -36,30 +35,14 @@ void copyText(char* out, size_t size, const std::string& text)
 }
 
 template <typename Record>
-int fetch(const char* call, const std::map<std::string, Record>& all, const std::string& key, const Record& garbage,
-          Record* out)
+int fetch(const char* call, const std::map<std::string, Record>& all, const std::string& key, Record* out)
 {
     record(std::string(call) + " " + key);
     const auto it = all.find(key);
-    if (!fails(call) && (platform().garbage || it != all.end())) {
-        *out = platform().garbage ? garbage : it->second;
+    if (!fails(call) && it != all.end()) {
+        *out = it->second;
     }
     return -1; // not read by anybody
-}
-
-int fetchText(const std::string& key, tagCFG_VALUE_TXT_S* out)
-{
-    tagCFG_VALUE_TXT_S garbage;
-    memset(&garbage, 'x', sizeof garbage);
-    for (size_t at = 1; at < 200; at += 2) {
-        garbage.acList[at] = ':'; // more pieces than an item has options, then one that never ends
-    }
-    return fetch("text", platform().texts, key, garbage, out);
-}
-
-int fetchNumber(const std::string& key, tagCFG_VALUE_INT_S* out)
-{
-    return fetch("number", platform().numbers, key, {INT_MAX, INT_MIN, -1, -1, INT_MIN}, out);
 }
 
 int push(const char* call, OSD_BOOL show, const void* attach, const tagOSD_MENU_CANVAS_S* canvas)
@@ -99,7 +82,6 @@ void setNumber(const std::string& key, int min, int max, int step, int cur)
 
 int business(tagITEM_NODE_S* item)
 {
-    record(std::string("business ") + item->acItemIndex);
     if (platform().host) {
         platform().host(item);
     }
@@ -108,6 +90,7 @@ int business(tagITEM_NODE_S* item)
 
 const char* dataZoneParent(const char* zone)
 {
+    record(std::string("zone ") + zone);
     const auto it = platform().parents.find(zone);
     return it == platform().parents.end() ? nullptr : it->second.c_str();
 }
@@ -122,15 +105,15 @@ void answer(void* user, tagOSD_MENU_GET_EVENT_E event, tagOSD_MENU_CONTROL_PARAM
 
 extern "C" {
 
-int CFG_COM_GetTxtParams(char* key, tagCFG_VALUE_TXT_S* out) { return fetchText(key, out); }
+int CFG_COM_GetTxtParams(char* key, tagCFG_VALUE_TXT_S* out) { return fetch("text", platform().texts, key, out); }
 int CFG_COM_GetTxtParamByParent(char* parent, char* key, tagCFG_VALUE_TXT_S* out)
 {
-    return fetchText(format("%s/%s", parent, key), out);
+    return fetch("text", platform().texts, format("%s/%s", parent, key), out);
 }
-int CFG_COM_GetIntParams(char* key, tagCFG_VALUE_INT_S* out) { return fetchNumber(key, out); }
+int CFG_COM_GetIntParams(char* key, tagCFG_VALUE_INT_S* out) { return fetch("number", platform().numbers, key, out); }
 int CFG_COM_GetIntParamByParent(char* parent, char* key, tagCFG_VALUE_INT_S* out)
 {
-    return fetchNumber(format("%s/%s", parent, key), out);
+    return fetch("number", platform().numbers, format("%s/%s", parent, key), out);
 }
 
 int CFG_COM_SetTxtParams(char* key, char* value, OSD_BOOL save)
@@ -183,7 +166,7 @@ void UTIL_LOG_Print(int level, char* tag, const char* pattern, ...)
     va_start(arguments, pattern);
     (void)vsnprintf(text, sizeof text, pattern, arguments);
     va_end(arguments);
-    platform().log.push_back({tag, text});
+    platform().log.emplace_back(tag);
     record(format("log %d %s", level, text));
 }
 
@@ -218,8 +201,7 @@ int MPP_FreeMem(void* out)
 
 int MPP_MENU_CreateSdkResource(tagOSD_MENU_CANVAS_S* canvas)
 {
-    record("create resource");
-    platform().canvasAtCreate = *canvas;
+    record(format("create resource %dx%d", canvas->stMenuRect.w, canvas->stMenuRect.h));
     return fails("create") ? -1 : 0;
 }
 

@@ -19,32 +19,29 @@ struct Push {
     std::vector<unsigned char> pixels;
 };
 
-struct Log {
-    std::string tag;
-    std::string text;
-};
-
-struct Platform {
+struct Settings {
     std::map<std::string, tagCFG_VALUE_TXT_S> texts;   // by "key" or "parent/key"
     std::map<std::string, tagCFG_VALUE_INT_S> numbers; // the same
-    std::map<std::string, std::string> pages;          // page name to document text
-    std::set<std::string> untranslated;                // any other key answers this and the key
+    std::map<int, std::string> answers;                // of the get-callback, by event
+    std::string language = "English";                  // in "German" the answer is "d." and the key
+};
+
+struct Platform : Settings {
+    std::map<std::string, std::string> pages; // page name to document text
+    std::set<std::string> untranslated;       // any other key answers this and the key
     std::string translated = "t.";
     std::map<std::string, std::string> words; // that are translated otherwise
-    std::string language = "English";         // in "German" the answer is "d." and the key
     std::string deviceType;
-    std::map<int, std::string> answers;                    // of the get-callback, by event
-    std::map<std::string, std::string> parents;            // of data zones
-    std::function<void(tagITEM_NODE_S*)> host;             // runs inside the business function
-    std::function<void(OSD_BOOL)> pushed;                  // runs inside each push to all channels
-    bool garbage = false;                                  // unterminated texts and wild numbers everywhere
-    int (*update)(OSD_BOOL, OSD_ATTACH_INFO_S*) = nullptr; // what MPP_MENU_SetMenuCb got
-    tagOSD_MENU_CANVAS_S canvasAtCreate = {};
+    std::map<std::string, std::string> parents;                                 // of data zones
+    std::function<void(tagITEM_NODE_S*)> host;                                  // runs inside the business function
+    std::function<void(OSD_BOOL)> pushed;                                       // runs inside each push to all channels
+    bool garbage = false;                                                       // unterminated texts everywhere
+    int (*update)(OSD_BOOL, OSD_ATTACH_INFO_S*) = nullptr;                      // what MPP_MENU_SetMenuCb got
     std::map<void*, std::pair<std::string, std::vector<unsigned char>>> blocks; // media memory by address: name, bytes
     std::vector<Push> pushes;
-    std::vector<Log> log;
-    int documents = 0; // alive
-    int damaged = 0;   // blocks written past their end, and releases of none
+    std::vector<std::string> log; // its tags
+    int documents = 0;            // alive
+    int damaged = 0;              // blocks written past their end, and releases of none
 };
 
 Platform& platform();

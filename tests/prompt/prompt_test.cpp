@@ -8,7 +8,6 @@
 
 using namespace fake;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 namespace {
 
@@ -67,24 +66,20 @@ TEST_F(PromptTest, LivesFromCreateToDestroy)
     EXPECT_EQ(OSD_PROMPT_UpdateText(LOOK, text), -1);
     calls().byteWidth = 50;
     calls().lineHeight = 21;
-    calls().lines.clear();
     ASSERT_EQ(OSD_PROMPT_Create(LOOK, text), 0); // 50 by 21: at 1895,1069, on a canvas of 52 by 24
     EXPECT_THAT(linesOf({"push", "close", "free"}),
                 ElementsAre("push 1", "close plain", "free plain 100 ff112233 'A'"));
     EXPECT_EQ(pixelAt(gsOsdPromptItem.pstSurface, 3, 1), 0xFF112233u);
     EXPECT_EQ(pixelAt(gsOsdPromptItem.pstSurface, 51, 23), 0x88445566u);
     const OSD_PROMPT_CFG_S look = {70, 0, {0xFF, 0xFF, 0xEE, 0xDD}, {0x44, 0x88, 0, 0}, 0.0, 0.0}; // the place stays
-    calls().lines.clear();
-    for (const int width : {20, 70}) {
+    for (const auto& [width, left] : {std::pair(20, 16), {70, -9}}) {
         calls().byteWidth = width;
+        calls().lines.clear();
         ASSERT_EQ(OSD_PROMPT_UpdateText(look, text), 0);
+        EXPECT_THAT(linesOf({"alloc", "fill", "blit", "push", "free", "close"}),
+                    ElementsAre("fill all 44880000", format("blit plain 140 ffffeedd 'A' at %d,1", left), "push 1",
+                                "free plain 140 ffffeedd 'A'", "close plain"));
     }
-    EXPECT_THAT(linesOf({"alloc", "fill", "blit", "push", "free", "close"}),
-                ElementsAre("fill all 44880000", "blit plain 140 ffffeedd 'A' at 16,1", "push 1",
-                            "free plain 140 ffffeedd 'A'", "close plain", "fill all 44880000",
-                            "blit plain 140 ffffeedd 'A' at -9,1", "push 1", "free plain 140 ffffeedd 'A'",
-                            "close plain"));
-    EXPECT_EQ(pixelAt(gsOsdPromptItem.pstSurface, 51, 0), 0x44880000u);
     EXPECT_EQ(at(gsOsdPromptItem.stCanvas.stMenuRect), "1892,1068 52x24");
     EXPECT_EQ(gsOsdPromptItem.stCfg.u32FontSize, 50u);
     calls().lines.clear();
@@ -99,15 +94,13 @@ TEST_F(PromptTest, LivesFromCreateToDestroy)
 
 TEST_F(PromptTest, FailingCallLeavesNothing)
 {
-    const std::tuple<const char*, const char*, int, int> cases[] = {
-        // what is printed, results of create and update
-        {"font.ttf", "[MENU:F:L] Error! Load Font Error.\n", -1, -1},
-        {"TTF_RenderUTF8_Blended", "", -1, -1},
-        {"TTF_SetFontSize", "", 0, 0},
-        {"alloc", "", -1, 0},
-        {"SDL_CreateRGBSurfaceWithFormatFrom", "Create RGB Surface failed!\n", -1, 0},
-        {"push", "failed update all target\n", -1, 0}};
-    for (const auto& [call, output, created, updated] : cases) {
+    for (const auto& [call, output, created, updated] : // what is printed, results of create and update
+         {std::tuple("font.ttf", "[MENU:F:L] Error! Load Font Error.\n", -1, -1),
+          {"TTF_RenderUTF8_Blended", "", -1, -1},
+          {"TTF_SetFontSize", "", 0, 0},
+          {"alloc", "", -1, 0},
+          {"SDL_CreateRGBSurfaceWithFormatFrom", "Create RGB Surface failed!\n", -1, 0},
+          {"push", "failed update all target\n", -1, 0}}) {
         const auto fails = [&, call = call](auto function, int result) {
             failCall(call);
             calls().missingFiles = {call};
@@ -127,7 +120,6 @@ TEST_F(PromptTest, FailingCallLeavesNothing)
 TEST_F(PromptTest, UpdateShowsForThreeSeconds)
 {
     EXPECT_EQ(OSD_PROMPT_Update({50, 2, {}, {}, 0.0, 0.0}, text), 0);
-    EXPECT_THAT(calls().lines, IsEmpty());
     (void)printed([&] { EXPECT_EQ(OSD_PROMPT_Update(LOOK, text), 0); });
     failCall("alloc");
     EXPECT_EQ(OSD_PROMPT_Update(LOOK, text), 0);
@@ -137,7 +129,6 @@ TEST_F(PromptTest, UpdateShowsForThreeSeconds)
 TEST_F(PromptTest, ZoomRatio)
 {
     EXPECT_EQ(OSD_PROMPT_HideZoomRatio(), 0);
-    EXPECT_THAT(calls().lines, IsEmpty());
     failCall("alloc");
     EXPECT_EQ(OSD_PROMPT_ShowZoomRatio(1.0f), -1);
     EXPECT_EQ(OSD_PROMPT_IsZoomRatioActive(), 0u);
@@ -148,10 +139,9 @@ TEST_F(PromptTest, ZoomRatio)
     EXPECT_EQ(at(gsZoomRatioOsdItem.stCanvas.stMenuRect), "1860,1064 120x32");
     const OSD_PROMPT_COLOR_S& ground = gsZoomRatioOsdItem.stCfg.stBgColor; // its canvas keeps four bits of each
     EXPECT_EQ(format("%d %d,%d,%d", ground.u8Alpha, ground.u8Red, ground.u8Green, ground.u8Blue), "128 0,0,0");
-    EXPECT_THAT(linesOf({"fill", "blit", "push"}),
-                ElementsAre("fill 0,1 120x32 88000000", "blit plain 328 white '888.8X' at 0,1", "push 1",
-                            "fill all 88000000", "blit plain 328 white '2.5X' at 20,1", "push 1", "fill all 88000000",
-                            "blit plain 328 white '12.0X' at 10,1", "push 1"));
+    EXPECT_THAT(linesOf({"blit", "push"}),
+                ElementsAre("blit plain 328 white '888.8X' at 0,1", "push 1", "blit plain 328 white '2.5X' at 20,1",
+                            "push 1", "blit plain 328 white '12.0X' at 10,1", "push 1"));
     const char* marker = "/tmp/.mpp_reloading";
     FILE* file = fopen(marker, "wx"); // only when it doesn't exist
     if (file == nullptr) {

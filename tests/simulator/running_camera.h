@@ -10,13 +10,14 @@
 
 #include "tests/simulator/temp_folder.h"
 
-/// camera-sim with arguments and redirections as a shell takes them. What it prints can be read to its end.
+/// camera-sim without a display, in a folder that holds its data too. What it prints can be read to its end.
 class CameraProcess {
 public:
-    explicit CameraProcess(const std::string& arguments)
-        : output_(popen(("echo $$; exec '" CAMERA_SIM "' " + arguments).c_str(), "re"))
+    /// Arguments and redirections as a shell takes them.
+    CameraProcess(const TempFolder& folder, const std::string& arguments)
+        : output_(popen(("cd '" + folder.path().string() + "' && " + start + arguments).c_str(), "re")),
+          id_(std::stoi(next_line()))
     {
-        id_ = std::stoi(next_line());
     }
 
     /// Empty at the end.
@@ -30,16 +31,17 @@ public:
     int end() const { return pclose(output_); }
 
 private:
+    static constexpr const char* start =
+        "echo $$ && exec env -u DISPLAY -u WAYLAND_DISPLAY XDG_DATA_HOME=\"$PWD\" '" CAMERA_SIM "' ";
     FILE* output_;
-    pid_t id_ = 0;
+    pid_t id_;
 };
 
 /// One that serves its web page.
 struct RunningCamera {
     explicit RunningCamera(const std::string& options)
-        : process(options + " --listen 127.0.0.1:0 --data '" + folder.path("data").string() + "' 2>'" +
-                  folder.path("log.txt").string() + "'"),
-          address(process.next_line()), port(std::atoi(address.substr(address.rfind(':') + 1).c_str()))
+        : process(folder, options + " --still --listen 127.0.0.1:0 2>log.txt"), address(process.next_line()),
+          port(std::atoi(address.substr(address.rfind(':') + 1).c_str()))
     {
         EXPECT_NE(port, 0) << folder.read("log.txt");
     }
@@ -48,14 +50,6 @@ struct RunningCamera {
     {
         process.send(SIGTERM);
         EXPECT_EQ(process.end(), 0) << folder.read("log.txt");
-    }
-
-    /// A connection for one request.
-    httplib::Client client() const
-    {
-        httplib::Client client("127.0.0.1", port);
-        client.set_read_timeout(30);
-        return client;
     }
 
     const TempFolder folder;

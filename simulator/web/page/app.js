@@ -3,6 +3,7 @@
 import { byId, make, setOptions, stored, wireTabs } from "./dom.js";
 import { listen, makePause, request, showErrorsWith, trouble } from "./camera.js";
 import { flash, wireRemote } from "./remote.js";
+import { showProblems, wireProblems } from "./problems.js";
 import { loadSettings, settingChanged, wireSettings } from "./settings.js";
 import { addLine, expectReplay, wireLog } from "./log.js";
 
@@ -11,7 +12,9 @@ const address = new URL(location);
 address.searchParams.delete("token");
 history.replaceState(null, "", address);
 
-const codes = { English: "en", German: "de", SimplifiedChinese: "zh-Hans", TraditionalChinese: "zh-Hant" };
+const codes = {
+  English: "en", French: "fr", German: "de", SimplifiedChinese: "zh-Hans", TraditionalChinese: "zh-Hant",
+};
 let state = null;
 let link = null;
 let connected = null; // not known before the first answer
@@ -135,14 +138,10 @@ function startAgain(style) {
   return make("p", { className: "problem" }, make("b", {}, "The menu could not start. "), button);
 }
 
-function showProblems({ problems, menu, style }) {
-  const lines = problems.map(({ file, line, reason }) => make("p", { className: "problem" },
-    make("b", {}, line ? `${file}, line ${line}` : file), ` ${reason}`));
-  if (menu === false) lines.unshift(startAgain(style));
-  const box = byId("problems");
-  const same = box.children.length === lines.length
-    && lines.every((line, index) => line.textContent === box.children[index].textContent);
-  if (!same) box.replaceChildren(...lines);
+function showStart({ menu, style }) {
+  const box = byId("no-menu");
+  if (menu !== false) box.replaceChildren();
+  else if (!box.firstChild) box.append(startAgain(style));
 }
 
 function showView({ channels, languages, language, style, size }) {
@@ -159,7 +158,8 @@ function showState(next) {
   const otherSize = state && state.size !== next.size;
   state = next;
   showMenu(next);
-  showProblems(next);
+  showStart(next);
+  showProblems(next.problems);
   showView(next);
   showFaults(next);
   speak(next);
@@ -247,6 +247,7 @@ wireTheme();
 wireTabs(document.querySelector("[role=tablist]"));
 wireRemote(() => Boolean(state?.open));
 wireSettings();
+wireProblems();
 wireLog();
 wireStream();
 wireSwitch("language", language => ["language", { language }]);

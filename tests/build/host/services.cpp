@@ -7,15 +7,30 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "osd_menu.h"
 #include "platform/config_service.h"
 #include "platform/log_service.h"
 #include "platform/media_service.h"
 
-std::atomic<int> g_blocks{0};
-const char* g_page = "";
-void (*g_pushed)(OSD_BOOL, const tagOSD_MENU_CANVAS_S&) = nullptr;
+static constexpr const char* PAGE = R"(<Page Layout="vertical_tolvane_align" Title="Menu" TitlePos="Left">
+  <Item ItemIndex="Mode" Ctx="NAME_VAL" Attr="SUBITEM">
+    <Option ModeIndex="On"><Item ItemIndex="Level" Ctx="NAME_BAR_VAL" Attr="COMMON" ValType="NUMERICAL"/></Option>
+    <Option ModeIndex="Off"/>
+  </Item>
+  <Item ItemIndex="Model" Ctx="NAME" Attr="CONST_TXT"/>
+</Page>)";
 
+std::atomic<int> g_blocks{0};
+void (*g_pushed)(const tagOSD_MENU_CANVAS_S&) = nullptr;
 std::atomic<int> g_failures{0};
+
+int startMenu()
+{
+    static tagOSD_MENU_CFG_S config = {{0.2F, 0.2F, 0.3F, 0.3F}, 2, 0, 0};
+    expect("OSD_MENU_InitOpensourceRes", OSD_MENU_InitOpensourceRes(), 0);
+    return OSD_MENU_InitSdkRes(
+        &config, [](tagITEM_NODE_S*) { return 0; }, nullptr);
+}
 
 void expect(const char* what, int actual, int wanted)
 {
@@ -24,8 +39,6 @@ void expect(const char* what, int actual, int wanted)
         g_failures++;
     }
 }
-
-static void write(char* field, const char* text) { std::snprintf(field, OSD_TEXT_LEN, "%s", text); }
 
 int MPP_AllocMem(const char*, uint32_t size, int, void* block)
 {
@@ -41,9 +54,9 @@ int MPP_FreeMem(void* block)
 }
 int MPP_MENU_CreateSdkResource(tagOSD_MENU_CANVAS_S*) { return 0; }
 int MPP_MENU_SetMenuCb(int (*)(OSD_BOOL, OSD_ATTACH_INFO_S*)) { return 0; }
-int MPP_MENU_UpdateCanvasToAllChns(OSD_BOOL show, tagOSD_MENU_CANVAS_S* canvas)
+int MPP_MENU_UpdateCanvasToAllChns(OSD_BOOL, tagOSD_MENU_CANVAS_S* canvas)
 {
-    g_pushed(show, *canvas);
+    g_pushed(*canvas);
     return 0;
 }
 int MPP_MENU_UpdateCanvasToOneChn(OSD_BOOL, OSD_ATTACH_INFO_S*, tagOSD_MENU_CANVAS_S*) { return 0; }
@@ -53,21 +66,13 @@ int CFG_COM_GetTxtParamByParent(char*, char*, tagCFG_VALUE_TXT_S*) { return -1; 
 int CFG_COM_GetIntParams(char*, tagCFG_VALUE_INT_S*) { return -1; }
 int CFG_COM_GetIntParamByParent(char*, char*, tagCFG_VALUE_INT_S*) { return -1; }
 int CFG_COM_SetTxtParams(char*, char*, OSD_BOOL) { return 0; }
-int CFG_SYSTEM_GetLanguage(char* language)
-{
-    write(language, "English");
-    return 0;
-}
-int CFG_LANG_GetString(char*, char* key, char* out)
-{
-    write(out, key);
-    return 0;
-}
+int CFG_SYSTEM_GetLanguage(char* language) { return std::snprintf(language, OSD_TEXT_LEN, "English") < 0; }
+int CFG_LANG_GetString(char*, char* key, char* out) { return std::snprintf(out, OSD_TEXT_LEN, "%s", key) < 0; }
 int BSP_PARTITION_GetDevAttribute(tagDEV_ATTR_CONTENT_S*) { return 0; }
 tinyxml2::XMLDocument* CFG_GetDocByFileName(const char*, OSD_BOOL)
 {
     auto* document = new tinyxml2::XMLDocument;
-    document->Parse(g_page);
+    document->Parse(PAGE);
     return document;
 }
 void UTIL_LOG_Print(int, char* tag, const char* format, ...)

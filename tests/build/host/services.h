@@ -6,9 +6,11 @@
 
 #include "osd_canvas.h"
 
-extern std::atomic<int> g_blocks;                               // of media memory, alive
-extern const char* g_page;                                      // the document of every page
-extern void (*g_pushed)(OSD_BOOL, const tagOSD_MENU_CANVAS_S&); // runs in each push to all channels
+extern std::atomic<int> g_blocks;                     // of media memory, alive
+extern void (*g_pushed)(const tagOSD_MENU_CANVAS_S&); // runs in each push to all channels
+
+// Starts the library; what the last step returned.
+int startMenu();
 
 // Prints what isn't as wanted, and counts it.
 extern std::atomic<int> g_failures;

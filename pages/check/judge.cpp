@@ -1,0 +1,117 @@
+#include "pages/check/judge.h"
+
+#include <algorithm>
+#include <tuple>
+
+#include "pages/check/attributes.h"
+#include "pages/check/page_walk.h"
+#include "pages/menu/menu.h"
+
+namespace pages {
+namespace {
+
+/// The rule that a kind of fault belongs to, and its words.
+struct FaultKind {
+    tagPAGE_FAULT_E kind;
+    const char* rule;
+    const char* what; ///< behind the attribute and its value
+};
+
+constexpr FaultKind fault_kinds[] = {{PAGE_FAULT_ABSENT, "missing-attribute", "is missing"},
+                                     {PAGE_FAULT_TOO_LONG, "length", "has more than 31 bytes"},
+                                     {PAGE_FAULT_WORD, "word", "means nothing to the menu"},
+                                     {PAGE_FAULT_NUMBER, "number", "is no number"},
+                                     {PAGE_FAULT_NO_TEXT, "missing-text", "has no text in some language"},
+                                     {PAGE_FAULT_OPTIONS, "options", "has more than 32 options"}};
+
+const FaultKind& kind_of_fault(const Fault& fault)
+{
+    return *std::find_if(std::begin(fault_kinds), std::end(fault_kinds),
+                         [&](const FaultKind& row) { return row.kind == fault.kind; });
+}
+
+using PlaceKey = std::tuple<std::string, int, int>;
+
+PlaceKey key_of_place(const Place& place) { return {place.file, place.line, place.column}; }
+
+class Judge {
+public:
+    Judge(const ResourceFolder& folder, const std::vector<Finding>& told) : folder_(folder)
+    {
+        for (const Finding& finding : told) {
+            (finding.severity == Severity::Error ? wrong_ : odd_).insert(key_of_place(finding.place));
+        }
+    }
+
+    Verdict judge()
+    {
+        for (const auto& [language, texts] : folder_.languages) {
+            Menu menu(folder_, language);
+            for (const auto& [name, page] : folder_.pages) {
+                hear(menu, page);
+            }
+        }
+        return std::move(verdict_);
+    }
+
+private:
+    void hear(Menu& menu, const PageFile& page)
+    {
+        if (page.root == nullptr || !menu.open(page.name)) {
+            verdict_.refused.insert(page.name);
+        }
+        menu.close_all();
+        for (const Fault& fault : menu.parse(page)) {
+            if (fault.element != nullptr && !is_told(fault)) {
+                tell(fault);
+            }
+        }
+    }
+
+    /// Whether the cause is known: an error at the element or one of its attributes, anything at the very place, a text
+    /// that is missing in all or in some languages, or a page with a long name.
+    bool is_told(const Fault& fault) const
+    {
+        const Element& element = *fault.element;
+        const PlaceKey place = key_of_place(element.place_of(fault.attribute));
+        if (odd_.count(place) > 0 || wrong_.count(key_of_place(element.place)) > 0 || is_below_told(element)) {
+            return true;
+        }
+        const bool long_page = fault.kind == PAGE_FAULT_TOO_LONG && folder_.pages.count(fault.value) > 0;
+        return long_page || fault.kind == PAGE_FAULT_NO_TEXT ||
+               std::any_of(element.attributes.begin(), element.attributes.end(),
+                           [&](const Attribute& attribute) { return wrong_.count(key_of_place(attribute.place)) > 0; });
+    }
+
+    /// Whether it is part of something that stands wrong.
+    static bool is_below_told(const Element& element)
+    {
+        const Element* above = &element;
+        while (above != nullptr && !is_misplaced(*above)) {
+            above = above->parent;
+        }
+        return above != nullptr;
+    }
+
+    void tell(const Fault& fault)
+    {
+        const FaultKind& kind = kind_of_fault(fault);
+        const std::string value = fault.has_value ? " '" + fault.value + "'" : "";
+        const Place& place = fault.element->place_of(fault.attribute);
+        verdict_.findings.push_back({place, Severity::Error, kind.rule, fault.attribute + value + " " + kind.what, ""});
+    }
+
+    const ResourceFolder& folder_;
+    std::set<PlaceKey> wrong_; ///< places of errors
+    std::set<PlaceKey> odd_;   ///< places of warnings
+    Verdict verdict_;
+};
+
+} // namespace
+
+Verdict judge_pages(const ResourceFolder& folder, const std::vector<Finding>& told)
+{
+    return Judge(folder, told).judge();
+}
+
+} // namespace pages

@@ -1,0 +1,212 @@
+// What a page can show: pictures, kinds of items and what they show, nothing twice.
+#include "pages/check/rule_tables.h"
+
+#include <algorithm>
+
+#include "comm/picture_names.h"
+#include "pages/check/attribute_rules.h"
+#include "pages/check/page_walk.h"
+
+namespace pages {
+namespace {
+
+void find_no_grids(const ResourceFolder& folder, const Complain& complain)
+{
+    for_each_page(folder, [&](const PageFile&, const Element& page) {
+        const Attribute* count = page.find(osdAttrName(ATTR_COUNT_PER_LINE));
+        if (layout_of(page) == PAGE_LAYOUT_ICON && count != nullptr &&
+            (count->value.empty() || count->value.size() > 2 || count->value.front() == '0' ||
+             count->value.find_first_not_of("0123456789") != std::string::npos)) {
+            complain(count->place, "CountPerLine '" + count->value + "' is no number of icons", "1 to 99");
+        }
+    });
+}
+
+void find_missing_pictures(const ResourceFolder& folder, const Complain& complain)
+{
+    for_each_read(folder, [&](const Element& element) {
+        for (const Attribute& attribute : element.attributes) {
+            const AttributeUse* use = find_use(role_of(element), attribute.name);
+            if (use != nullptr && use->holds == Holds::Picture && is_read(element, *use) &&
+                folder.pictures.count(attribute.value) == 0) {
+                complain(attribute.place, attribute.name + ": there is no picture '" + attribute.value + "'",
+                         nearest_or(attribute.value, keys_of(folder.pictures), "it in pic/"));
+            }
+        }
+    });
+}
+
+void find_missing_own_pictures(const ResourceFolder& folder, const Complain& complain)
+{
+    for (const char* name : c_apcPictureName) {
+        if (folder.pictures.count(name) == 0) {
+            complain({"pic/"}, std::string("the menu draws a picture '") + name + "', which is missing",
+                     std::string("pic/") + name + ".svg");
+        }
+    }
+}
+
+/// What goes with a kind of item.
+struct Pair {
+    tagITEM_ATTR_E kind;
+    tagITEM_CTX_E context;
+    tagITEM_VAL_TYPE_E type; ///< where there is a value; else any
+};
+
+constexpr Pair pairs[] = {{CONST_TXT, NAME, OPTTXT},
+                          {CONST_TXT, NAME_VAL, OPTTXT},
+                          {CONST_TXT, NAME_IP_VAL, OPTTXT},
+                          {STATUS, NAME_VAL, OPTTXT},
+                          {STATUS, NAME_IP_VAL, OPTTXT},
+                          {COMMON, NAME_VAL, OPTTXT},
+                          {COMMON, NAME_BAR_VAL, NUMERICAL},
+                          {KEY_WITH_MSG, NAME_VAL, OPTTXT},
+                          {KEY_WITH_MSG, NAME_BAR_VAL, NUMERICAL},
+                          {SUBITEM, NAME_VAL, OPTTXT},
+                          {MSG_WITH_SUBITEM, NAME_VAL, OPTTXT},
+                          {EDITABLE, NAME_IP_VAL, EDITTXT},
+                          {CONFIRM, NAME, OPTTXT},
+                          {CONFIRM, NAME_VAL, OPTTXT},
+                          {CONFIRM_POP, NAME_VAL, OPTTXT},
+                          {CONFIRM_POP_BTN, NAME, OPTTXT},
+                          {SUBPAGE, NAME, OPTTXT}};
+
+template <typename Keyword, std::size_t N, typename Value>
+std::string word_of(const Keyword (&table)[N], Value value)
+{
+    const auto* found =
+        std::find_if(std::begin(table), std::end(table), [value](const Keyword& row) { return row.enValue == value; });
+    return found == std::end(table) ? "" : found->pcWord;
+}
+
+/// The contexts that go with a kind on a page that isn't one of icons.
+std::vector<std::string> contexts_of(tagITEM_ATTR_E kind)
+{
+    std::vector<std::string> words;
+    for (const Pair& pair : pairs) {
+        if (pair.kind == kind) {
+            words.push_back(word_of(c_astCtxWord, pair.context));
+        }
+    }
+    return words;
+}
+
+void find_odd_contexts(const ResourceFolder& folder, const Complain& complain)
+{
+    for_each_item(folder, [&](const Element& item) {
+        const auto kind = kind_of(item);
+        if (!kind || !context_of(item) || !layout_of(item) || layout_of(item) == PAGE_LAYOUT_ICON ||
+            (kind == CONFIRM_POP && context_of(item) == NAME)) {
+            return; // other rules tell of these
+        }
+        const Attribute& context = *item.find(osdAttrName(ATTR_CTX));
+        const std::vector<std::string> words = contexts_of(*kind);
+        if (std::count(words.begin(), words.end(), context.value) == 0) {
+            complain(context.place,
+                     "Ctx '" + context.value + "' doesn't go with Attr '" + item.value(osdAttrName(ATTR_ATTR)) + "'",
+                     one_of(context.value, words));
+        }
+    });
+}
+
+void find_no_icons(const ResourceFolder& folder, const Complain& complain)
+{
+    for_each_item(folder, [&](const Element& item) {
+        const bool top = item.parent == nullptr || role_of(*item.parent) == On::Page;
+        if (top && layout_of(item) == PAGE_LAYOUT_ICON && context_of(item) && !has_picture(context_of(item))) {
+            complain(item.place_of(osdAttrName(ATTR_CTX)), "an item without a picture isn't drawn in layout 'icon'",
+                     "Ctx=\"ICON_TXT\" with Pic and SelectPic");
+        }
+    });
+}
+
+/// Of a pair that goes together; a value without its type is read as another one.
+void find_odd_types(const ResourceFolder& folder, const Complain& complain)
+{
+    for_each_item(folder, [&](const Element& item) {
+        const auto* pair = std::find_if(std::begin(pairs), std::end(pairs), [&](const Pair& one) {
+            return kind_of(item) == one.kind && context_of(item) == one.context && has_value(one.context);
+        });
+        auto type = OPTTXT;
+        const Attribute* word = item.find(osdAttrName(ATTR_VAL_TYPE));
+        const bool known = word == nullptr || osdKeywordFind(c_astValTypeWord, word->value.c_str(), &type);
+        if (pair != std::end(pairs) && known && type != pair->type) {
+            complain(item.place_of(osdAttrName(ATTR_VAL_TYPE)),
+                     "ValType '" + word_of(c_astValTypeWord, type) + "' doesn't go with Ctx '" +
+                         word_of(c_astCtxWord, pair->context) + "' and Attr '" + word_of(c_astAttrWord, pair->kind) +
+                         "'",
+                     "'" + word_of(c_astValTypeWord, pair->type) + "'");
+        }
+    });
+}
+
+/// Options of an item exclude each other, all else shows together.
+void tell_twins(const Element& parent, const std::map<std::string, int>& above, const Complain& complain)
+{
+    std::map<std::string, int> known = above; // the line of each key
+    for (const auto& item : parent.children) {
+        const Attribute* key = item->find(osdAttrName(ATTR_ITEM_INDEX));
+        const auto twin = key == nullptr ? known.end() : known.find(key->value);
+        if (twin != known.end()) {
+            complain(key->place,
+                     "item '" + key->value + "' stands on line " + std::to_string(twin->second) + " already",
+                     "one of the two, as both show");
+        } else if (key != nullptr) {
+            known[key->value] = key->place.line;
+        }
+    }
+    for (const auto& item : parent.children) {
+        for (const auto& option : item->children) {
+            if (!is_blind(*item)) {
+                tell_twins(*option, known, complain);
+            }
+        }
+    }
+}
+
+void find_twins(const ResourceFolder& folder, const Complain& complain)
+{
+    for_each_page(folder, [&](const PageFile&, const Element& page) { tell_twins(page, {}, complain); });
+}
+
+void find_hidden_cursors(const ResourceFolder& folder, const Complain& complain)
+{
+    for_each_page(folder, [&](const PageFile&, const Element& page) {
+        if (layout_of(page) == PAGE_LAYOUT_VERTICAL_KETH && !page.children.empty() &&
+            kind_of(*page.children.front()) == STATUS) {
+            complain(page.children.front()->place, "the cursor isn't seen on a STATUS item that comes first",
+                     "another item before it");
+        }
+    });
+}
+
+void find_empty_pages(const ResourceFolder& folder, const Complain& complain)
+{
+    for_each_page(folder, [&](const PageFile& page, const Element& root) {
+        if (root.children.empty() && layout_of(root)) {
+            complain(root.place, "page '" + page.name + "' holds no item, keys do nothing on it", "items");
+        }
+    });
+}
+
+} // namespace
+
+const std::vector<Rule>& layout_rules()
+{
+    static const std::vector<Rule> rules = {
+        {"grid", Severity::Error, "Icons have a number of columns.", find_no_grids},
+        {"no-picture", Severity::Error, "Pictures that a page names are there.", find_missing_pictures},
+        {"menu-picture", Severity::Error, "Pictures that the menu draws by itself are there.",
+         find_missing_own_pictures},
+        {"context", Severity::Warning, "What an item shows goes with its kind.", find_odd_contexts},
+        {"icon", Severity::Error, "Items of layout 'icon' have pictures.", find_no_icons},
+        {"value-type", Severity::Error, "The type of a value goes with what the item shows.", find_odd_types},
+        {"twin", Severity::Error, "No item stands twice among those that show together.", find_twins},
+        {"hidden-cursor", Severity::Error, "A page in layout 'vertical_align_keth' doesn't begin with STATUS.",
+         find_hidden_cursors},
+        {"empty-page", Severity::Error, "A page holds items.", find_empty_pages},
+    };
+    return rules;
+}
+
+} // namespace pages

@@ -1,0 +1,124 @@
+#include "pages/check/page_walk.h"
+
+#include <algorithm>
+
+#include "menu/core/keyword.h"
+#include "pages/check/finding.h"
+
+namespace pages {
+namespace {
+
+int depth_of(const Element& element)
+{
+    int depth = 0;
+    for (const Element* above = element.parent; above != nullptr; above = above->parent) {
+        ++depth;
+    }
+    return depth;
+}
+
+template <typename Keyword, std::size_t N>
+auto meaning_of(const Keyword (&table)[N], const Element& element, tagATTR_ID_E attribute)
+{
+    auto value = table[0].enValue;
+    const bool known = osdKeywordFind(table, element.value(osdAttrName(attribute)).c_str(), &value);
+    return known ? std::optional(value) : std::nullopt;
+}
+
+/// The attribute without which an element is no such thing.
+const char* mark_of(On role)
+{
+    return osdAttrName(role == On::Page ? ATTR_LAYOUT : role == On::Item ? ATTR_ITEM_INDEX : ATTR_MODE_INDEX);
+}
+
+} // namespace
+
+On role_of(const Element& element)
+{
+    const int depth = depth_of(element);
+    return depth == 0 ? On::Page : depth % 2 == 1 ? On::Item : On::Option;
+}
+
+const char* name_of(On role) { return role == On::Page ? "Page" : role == On::Item ? "Item" : "Option"; }
+
+std::optional<tagITEM_ATTR_E> kind_of(const Element& item) { return meaning_of(c_astAttrWord, item, ATTR_ATTR); }
+
+std::optional<tagITEM_CTX_E> context_of(const Element& item) { return meaning_of(c_astCtxWord, item, ATTR_CTX); }
+
+std::optional<tagPAGE_LAYOUT_E> layout_of(const Element& element)
+{
+    const Element* root = &element;
+    while (root->parent != nullptr) {
+        root = root->parent;
+    }
+    return meaning_of(c_astLayoutWord, *root, ATTR_LAYOUT);
+}
+
+bool is_question(const std::optional<tagPAGE_LAYOUT_E>& layout)
+{
+    return layout == PAGE_LAYOUT_HORIZONTAL || layout == PAGE_LAYOUT_HORIZONTAL_KETH;
+}
+
+bool has_options(const std::optional<tagITEM_ATTR_E>& kind) { return kind == SUBITEM || kind == MSG_WITH_SUBITEM; }
+
+bool asks(const std::optional<tagITEM_ATTR_E>& kind) { return kind == CONFIRM_POP || kind == CONFIRM_POP_BTN; }
+
+bool has_value(const std::optional<tagITEM_CTX_E>& context)
+{
+    return context == NAME_VAL || context == NAME_BAR_VAL || context == NAME_IP_VAL;
+}
+
+bool has_picture(const std::optional<tagITEM_CTX_E>& context)
+{
+    return context == ICON || context == ICON_TXT || context == ICON_TXT_KETH;
+}
+
+bool is_misplaced(const Element& element)
+{
+    const On role = role_of(element);
+    const bool known = element.name == "Page" || element.name == "Item" || element.name == "Option";
+    return known && element.name != name_of(role) && element.find(mark_of(role)) == nullptr;
+}
+
+bool is_blind(const Element& element)
+{
+    return role_of(element) == On::Item && kind_of(element) && !has_options(kind_of(element));
+}
+
+std::string joined(const std::vector<std::string>& words)
+{
+    std::string all;
+    for (const std::string& word : words) {
+        all += (all.empty() ? "" : ", ") + word;
+    }
+    return all;
+}
+
+std::string one_of(const std::string& word, const std::vector<std::string>& known)
+{
+    const std::string nearest = nearest_word(word, known);
+    if (known.size() == 1) {
+        return "'" + known.front() + "'";
+    }
+    return nearest.empty() ? "one of " + joined(known) : "'" + nearest + "' (one of " + joined(known) + ")";
+}
+
+std::string nearest_or(const std::string& word, const std::vector<std::string>& known, const std::string& otherwise)
+{
+    const std::string nearest = nearest_word(word, known);
+    return nearest.empty() ? otherwise : "'" + nearest + "'";
+}
+
+bool is_unusable(const ResourceFolder& folder, const std::string& file, const std::string& subject)
+{
+    return std::any_of(folder.mistakes.begin(), folder.mistakes.end(), [&](const BadInput& mistake) {
+        return mistake.place().file == file && mistake.words().compare(0, subject.size(), subject) == 0;
+    });
+}
+
+bool are_settings_broken(const ResourceFolder& folder)
+{
+    return folder.broken.count("settings.json") > 0 || is_unusable(folder, "settings.json", "'settings'");
+}
+
+} // namespace pages

@@ -1,0 +1,181 @@
+// Questions, and pages whose values wait for one.
+#include "pages/check/rule_tables.h"
+
+#include <algorithm>
+
+#include "menu/core/words.h"
+#include "menu/nav/confirm_page.h"
+#include "pages/check/links.h"
+#include "pages/check/page_walk.h"
+
+namespace pages {
+namespace {
+
+/// Calls visit(link, question) for each question that is asked and can be read.
+template <typename Visit>
+void for_each_question(const ResourceFolder& folder, Visit&& visit)
+{
+    for (const Link& link : all_links(folder)) {
+        const auto question = folder.pages.find(link.target);
+        if (link.is_question() && question != folder.pages.end() && question->second.root != nullptr) {
+            visit(link, *question->second.root);
+        }
+    }
+}
+
+void find_mute_questions(const ResourceFolder& folder, const Complain& complain)
+{
+    for_each_question(folder, [&](const Link& link, const Element&) {
+        const std::string part = OSD_PAGE_PART_CONFIRM;
+        const bool on_restart = osdConfirmOnRestart(link.page->name.c_str());
+        const bool answered =
+            on_restart ? link.target == OSD_PAGE_RESTART : link.target.find(part) != std::string::npos;
+        if (!answered) {
+            complain(link.attribute->place, "the answers of page '" + link.target + "' do nothing here",
+                     on_restart ? std::string("page '") + OSD_PAGE_RESTART + "'"
+                                : "a question with '" + part + "' in its name");
+        }
+    });
+}
+
+void find_no_questions(const ResourceFolder& folder, const Complain& complain)
+{
+    for_each_question(folder, [&](const Link& link, const Element& question) {
+        if (layout_of(question) && !is_question(layout_of(question))) {
+            complain(link.attribute->place, "page '" + link.target + "' is no question",
+                     "a page in layout 'horizontal_align' or 'horizontal_align_keth'");
+        }
+    });
+}
+
+std::string key_of(const Element& item) { return item.value(osdAttrName(ATTR_ITEM_INDEX)); }
+
+bool has_answer(const Element& question, const std::string& key)
+{
+    return std::any_of(question.children.begin(), question.children.end(),
+                       [&](const auto& item) { return key_of(*item) == key; });
+}
+
+void find_missing_answers(const ResourceFolder& folder, const Complain& complain)
+{
+    for_each_question(folder, [&](const Link&, const Element& question) {
+        std::string missing;
+        for (const char* key : {OSD_KEY_NO, OSD_KEY_YES}) {
+            if (!has_answer(question, key)) {
+                missing += (missing.empty() ? "'" : "' and '") + std::string(key);
+            }
+        }
+        if (is_question(layout_of(question)) && !question.children.empty() && !missing.empty()) {
+            complain(question.place, "the question has no button " + missing + "'", "items 'No' and 'Yes'");
+        }
+    });
+}
+
+/// The number of answers and the place of each are needed to draw them side by side.
+void find_heaped_answers(const ResourceFolder& folder, const Complain& complain)
+{
+    for_each_page(folder, [&](const PageFile&, const Element& page) {
+        const std::string count = std::to_string(page.children.size());
+        for (std::size_t i = 0; is_question(layout_of(page)) && i < page.children.size(); ++i) {
+            const Element& item = *page.children[i];
+            if (item.value(osdAttrName(ATTR_ITEM_CNT)) != count ||
+                item.value(osdAttrName(ATTR_ITEM_INDEX_ON_LINE)) != std::to_string(i)) {
+                complain(item.place, "answer '" + key_of(item) + "' isn't drawn beside the others",
+                         "ItemCnt=\"" + count + "\" ItemIndexOnLine=\"" + std::to_string(i) + "\"");
+            }
+        }
+    });
+}
+
+void find_silent_buttons(const ResourceFolder& folder, const Complain& complain)
+{
+    for_each_item(folder, [&](const Element& item) {
+        if (kind_of(item) == CONFIRM_POP && context_of(item) && !has_value(context_of(item))) {
+            complain(item.place_of(osdAttrName(ATTR_CTX)), "a CONFIRM_POP without value asks nothing",
+                     "Ctx=\"NAME_VAL\", or Attr=\"CONFIRM_POP_BTN\"");
+        }
+    });
+}
+
+std::vector<std::string> confirmed_pages()
+{
+    std::vector<std::string> names;
+    for (std::size_t i = 0; osdConfirmPageName(i) != nullptr; ++i) {
+        names.emplace_back(osdConfirmPageName(i));
+    }
+    return names;
+}
+
+/// Calls visit(page, root, whether the menu can store its values) for the lists whose values wait for a question.
+template <typename Visit>
+void for_each_confirmed(const ResourceFolder& folder, Visit&& visit)
+{
+    static const std::vector<std::string> known = confirmed_pages();
+    for_each_page(folder, [&](const PageFile& page, const Element& root) {
+        if (root.value(osdAttrName(ATTR_CONFIRM_BTN)) == "Yes" && layout_of(root) && !is_question(layout_of(root))) {
+            visit(page, root, std::count(known.begin(), known.end(), page.name) > 0);
+        }
+    });
+}
+
+void find_never_stored(const ResourceFolder& folder, const Complain& complain)
+{
+    for_each_confirmed(folder, [&](const PageFile& page, const Element& root, bool stored) {
+        if (!stored) {
+            complain(root.place_of(osdAttrName(ATTR_CONFIRM_BTN)),
+                     "what is changed on page '" + page.name + "' waits for a question and is never stored",
+                     "no ConfirmBtn, which works on " + joined(confirmed_pages()) + " alone");
+        }
+    });
+}
+
+void find_no_way_to_store(const ResourceFolder& folder, const Complain& complain)
+{
+    for_each_confirmed(folder, [&](const PageFile& page, const Element& root, bool stored) {
+        const bool has_button = std::any_of(root.children.begin(), root.children.end(), [](const auto& item) {
+            return key_of(*item) == OSD_KEY_CONFIRM && asks(kind_of(*item));
+        });
+        if (stored && !has_button) {
+            complain(root.place, "nothing on page '" + page.name + "' asks whether values are to be stored",
+                     "an item 'Confirm' with Attr=\"CONFIRM_POP_BTN\"");
+        }
+    });
+}
+
+bool is_below_option(const Element& item) { return role_of(*item.parent) == On::Option; }
+
+void find_lost_addresses(const ResourceFolder& folder, const Complain& complain)
+{
+    for_each_page(folder, [&](const PageFile& page, const Element& root) {
+        for_each_read(root, [&](const Element& element) {
+            const bool edited = role_of(element) == On::Item && kind_of(element) == EDITABLE;
+            if (edited && (page.name != OSD_PAGE_NETWORK || !is_below_option(element))) {
+                complain(element.place, "the address '" + key_of(element) + "' is edited and never stored",
+                         "such an item below an option on page 'network'");
+            }
+        });
+    });
+}
+
+} // namespace
+
+const std::vector<Rule>& question_rules()
+{
+    static const std::vector<Rule> rules = {
+        {"question-name", Severity::Error, "A question has 'confirm' in its name; page 'rotate' asks with 'restart'.",
+         find_mute_questions},
+        {"no-question", Severity::Warning, "A question is asked side by side, over the page below.", find_no_questions},
+        {"no-answer", Severity::Error, "A question has the buttons No and Yes.", find_missing_answers},
+        {"answer-place", Severity::Error, "Answers stand side by side.", find_heaped_answers},
+        {"asks-nothing", Severity::Error, "A CONFIRM_POP has a value.", find_silent_buttons},
+        {"confirmed-page", Severity::Warning,
+         "Values wait for a question on those pages alone that the menu can store.", find_never_stored},
+        {"confirm-button", Severity::Warning, "A page whose values wait for a question has a button that asks.",
+         find_no_way_to_store},
+        {"edited-address", Severity::Warning, "Addresses are edited on page 'network', below an option.",
+         find_lost_addresses},
+    };
+    return rules;
+}
+
+} // namespace pages

@@ -1,0 +1,163 @@
+// Texts: all that is asked for is there, in all languages.
+#include "pages/check/rule_tables.h"
+
+#include <algorithm>
+
+#include "menu/core/value_status.h"
+#include "menu/core/words.h"
+#include "pages/check/attribute_rules.h"
+#include "pages/check/page_walk.h"
+
+namespace pages {
+namespace {
+
+std::string language_file(const std::string& language) { return "lang/" + language + ".json"; }
+
+/// By key, the first place where the text stands; English first, as translators start from it.
+std::map<std::string, Place> all_keys(const ResourceFolder& folder)
+{
+    std::map<std::string, Place> keys;
+    const auto add = [&](const Texts& texts) {
+        for (const auto& [key, text] : texts) {
+            keys.emplace(key, text.place);
+        }
+    };
+    const auto english = folder.languages.find(OSD_LANGUAGE_EN);
+    if (english != folder.languages.end()) {
+        add(english->second);
+    }
+    for (const auto& [language, texts] : folder.languages) {
+        add(texts);
+    }
+    return keys;
+}
+
+/// Tells of keys that no language has a text for.
+class Need {
+public:
+    Need(const ResourceFolder& folder, const Complain& complain)
+        : folder_(folder), complain_(complain), keys_(keys_of(all_keys(folder)))
+    {
+    }
+
+    void operator()(const Place& place, const std::string& key) const
+    {
+        const bool known = std::binary_search(keys_.begin(), keys_.end(), key);
+        const auto broken = [&](const auto& language) {
+            return is_unusable(folder_, language_file(language.first), "'" + key + "'");
+        };
+        if (!known && key.size() < OSD_TEXT_LEN && // a longer one is told by its own rule
+            std::none_of(folder_.languages.begin(), folder_.languages.end(), broken)) {
+            complain_(place, "no language has a text '" + key + "'",
+                      nearest_or(key, keys_, "it in each file of lang/"));
+        }
+    }
+
+private:
+    const ResourceFolder& folder_;
+    const Complain& complain_;
+    std::vector<std::string> keys_; ///< in their order
+};
+
+void ask_of_pages(const ResourceFolder& folder, const Need& need)
+{
+    for_each_read(folder, [&](const Element& element) {
+        for (const Attribute& attribute : element.attributes) {
+            const AttributeUse* use = find_use(role_of(element), attribute.name);
+            if (use != nullptr && (use->holds == Holds::Label || use->holds == Holds::Key) && is_read(element, *use)) {
+                need(attribute.place, attribute.value);
+            }
+        }
+    });
+}
+
+void ask_of_settings(const ResourceFolder& folder, const Need& need)
+{
+    for (const auto& [id, setting] : folder.definitions.settings) {
+        for (const std::string& option : setting.options) {
+            need(setting.place, option);
+        }
+    }
+    for (std::size_t i = 0; osdStatusKey(i).pcKey != nullptr; ++i) {
+        const auto fact = folder.definitions.facts.find(osdStatusKey(i).pcKey);
+        if (osdStatusKey(i).bTranslated && fact != folder.definitions.facts.end()) {
+            Place place = folder.definitions.places.of("/facts/" + fact->first);
+            place.file = "settings.json";
+            need(place, fact->second);
+        }
+    }
+}
+
+/// The words that the menu asks for by itself.
+constexpr const char* own_words[] = {OSD_WORD_STATIC_IP, OSD_WORD_DHCP_IP, OSD_WORD_AUTO_MODE,
+                                     OSD_WORD_CONFIRM,   OSD_WORD_FINISH,  OSD_WORD_LOADING};
+
+void find_missing_texts(const ResourceFolder& folder, const Complain& complain)
+{
+    if (folder.languages.empty()) {
+        return;
+    }
+    const Need need(folder, complain);
+    ask_of_pages(folder, need);
+    ask_of_settings(folder, need);
+    for (const char* word : own_words) {
+        need({"lang/"}, word);
+    }
+}
+
+void find_untranslated(const ResourceFolder& folder, const Complain& complain)
+{
+    for (const auto& [key, place] : all_keys(folder)) {
+        std::vector<std::string> without;
+        for (const auto& [language, texts] : folder.languages) {
+            if (texts.count(key) == 0 && !is_unusable(folder, language_file(language), "'" + key + "'")) {
+                without.push_back(language);
+            }
+        }
+        if (!without.empty()) {
+            complain(place, "'" + key + "' has no text in " + joined(without), "the same keys in all languages");
+        }
+    }
+}
+
+template <typename Test>
+void tell_texts(const ResourceFolder& folder, const Complain& complain, Test test, const std::string& what)
+{
+    for (const auto& [language, texts] : folder.languages) {
+        for (const auto& [key, text] : texts) {
+            if (test(text.text)) {
+                complain(text.place, "the text of '" + key + "' " + what, "at least one letter");
+            }
+        }
+    }
+}
+
+void find_empty_texts(const ResourceFolder& folder, const Complain& complain)
+{
+    tell_texts(
+        folder, complain, [](const std::string& text) { return text.empty(); }, "is empty");
+}
+
+void find_blank_texts(const ResourceFolder& folder, const Complain& complain)
+{
+    const auto is_blank = [](const std::string& text) {
+        return !text.empty() && text.find_first_not_of(" \t") == text.npos;
+    };
+    tell_texts(folder, complain, is_blank, "holds nothing but blanks");
+}
+
+} // namespace
+
+const std::vector<Rule>& text_rules()
+{
+    static const std::vector<Rule> rules = {
+        {"missing-text", Severity::Error, "There is a text for each key that a page, a setting or the menu asks for.",
+         find_missing_texts, Told::Once},
+        {"translation", Severity::Error, "A text is there in all languages.", find_untranslated},
+        {"empty-text", Severity::Error, "No text is empty.", find_empty_texts},
+        {"blank-text", Severity::Warning, "No text consists of blanks.", find_blank_texts},
+    };
+    return rules;
+}
+
+} // namespace pages

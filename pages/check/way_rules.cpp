@@ -1,0 +1,198 @@
+// The ways between pages: each leads somewhere, each page is reached, and never too many are open.
+#include "pages/check/rule_tables.h"
+
+#include <algorithm>
+
+#include "menu/core/words.h"
+#include "osd_types.h"
+#include "pages/check/links.h"
+#include "pages/check/page_walk.h"
+
+namespace pages {
+namespace {
+
+constexpr const char* first_pages[] = {OSD_PAGE_MAIN, OSD_PAGE_ADVANCED}; ///< that a key opens
+
+void find_broken_links(const ResourceFolder& folder, const Complain& complain)
+{
+    for (const Link& link : all_links(folder)) {
+        if (folder.pages.count(link.target) == 0) {
+            complain(link.attribute->place, link.attribute->name + ": there is no page '" + link.target + "'",
+                     nearest_or(link.target, keys_of(folder.pages), "a file " + link.target + "_page.xml"));
+        }
+    }
+}
+
+void find_missing_main(const ResourceFolder& folder, const Complain& complain)
+{
+    if (!folder.pages.empty() && folder.pages.count(OSD_PAGE_MAIN) == 0) {
+        complain({page_folder(folder.root).filename().string() + "/"}, "the menu's first page is missing",
+                 "a file main_page.xml");
+    }
+}
+
+/// Opens pages as keys do, one open page more at each step.
+class Walk {
+public:
+    using Stack = std::vector<std::string>; ///< the open pages, bottom first
+
+    explicit Walk(const ResourceFolder& folder)
+    {
+        for (const Link& link : all_links(folder)) {
+            if (!link.is_back() && folder.pages.count(link.target) > 0) {
+                links_[link.page->name].push_back(link);
+            }
+        }
+    }
+
+    /// Calls too_deep(link, stack) for a link that would open one page too many.
+    template <typename TooDeep>
+    void from(const std::string& first, TooDeep&& too_deep)
+    {
+        std::map<std::string, Stack> stacks{{first, {first}}}; // by the page on top
+        while (!stacks.empty()) {
+            std::map<std::string, Stack> higher;
+            for (const auto& [top, stack] : stacks) {
+                reached_.insert(top);
+                for (const Link& link : links_[top]) {
+                    if (stack.size() == OSD_PAGE_MAX) {
+                        too_deep(link, stack);
+                        continue;
+                    }
+                    Stack next = stack;
+                    next.push_back(link.target);
+                    higher.emplace(link.target, std::move(next));
+                }
+            }
+            stacks = std::move(higher);
+        }
+    }
+
+    const std::set<std::string>& reached() const { return reached_; }
+
+private:
+    std::map<std::string, std::vector<Link>> links_;
+    std::set<std::string> reached_;
+};
+
+void find_sixth_pages(const ResourceFolder& folder, const Complain& complain)
+{
+    Walk walk(folder);
+    std::set<const Attribute*> told;
+    for (const char* first : first_pages) {
+        walk.from(first, [&](const Link& link, const Walk::Stack& stack) {
+            if (told.insert(link.attribute).second) {
+                std::string way;
+                for (const std::string& page : stack) {
+                    way += (way.empty() ? "" : " > ") + page;
+                }
+                complain(link.attribute->place, "page '" + link.target + "' would be number 6 above " + way,
+                         "at most 5 open pages");
+            }
+        });
+    }
+}
+
+/// Whether a link that leads nowhere may mean the page, or the page that turns to it says otherwise.
+bool is_missed(const ResourceFolder& folder, const std::vector<Link>& links, const std::string& page)
+{
+    return std::any_of(links.begin(), links.end(), [&](const Link& link) {
+        const bool turns = link.is_back() && link.page->name == page && folder.pages.count(link.target) > 0;
+        return turns ||
+               (folder.pages.count(link.target) == 0 && nearest_word(link.target, keys_of(folder.pages)) == page);
+    });
+}
+
+/// Whether all is known that leads from a page: it can be read, no item is passed over, and each that opens a page says
+/// which one.
+bool is_plain(const PageFile& page)
+{
+    bool plain = page.root != nullptr;
+    if (plain) {
+        for_each_element(*page.root, [&](const Element& element) {
+            const bool opens = role_of(element) == On::Item && kind_of(element) == SUBPAGE;
+            const bool asking = role_of(element) == On::Item && asks(kind_of(element));
+            plain = plain && !is_misplaced(element) && (!is_blind(element) || element.children.empty()) &&
+                    (!opens || element.find(osdAttrName(ATTR_SUB_PAGE)) != nullptr) &&
+                    (!asking || element.find(osdAttrName(ATTR_CONFIRM_PAGE)) != nullptr);
+        });
+    }
+    return plain;
+}
+
+/// A page that is reached from another one that nobody reaches isn't told: one cause.
+void find_unreached(const ResourceFolder& folder, const Complain& complain)
+{
+    const bool all_known =
+        std::all_of(folder.pages.begin(), folder.pages.end(), [](const auto& page) { return is_plain(page.second); });
+    if (!all_known || folder.pages.count(OSD_PAGE_MAIN) == 0) {
+        return; // another rule tells of what may lead to them
+    }
+    Walk walk(folder);
+    const auto none = [](const Link&, const Walk::Stack&) {};
+    for (const char* first : first_pages) {
+        walk.from(first, none);
+    }
+    const std::vector<Link> links = all_links(folder);
+    for (const bool linked : {false, true}) { // those in a circle come last
+        for (const auto& [name, page] : folder.pages) {
+            const bool has_way = std::any_of(links.begin(), links.end(), [target = name](const Link& link) {
+                return link.target == target && link.page->name != target && !link.is_back();
+            });
+            if (walk.reached().count(name) == 0 && (linked || !has_way)) {
+                walk.from(name, none);
+                if (!is_missed(folder, links, name)) {
+                    complain(page.root->place, "no key leads to page '" + name + "'",
+                             "an item that opens it on a page that 'main' or 'advanced' leads to");
+                }
+            }
+        }
+    }
+}
+
+/// Whether a page says itself where it turns to, or another one says that it turns to this one: the fault is told there.
+bool is_told_forwards(const std::vector<Link>& links, const Link& back)
+{
+    return std::any_of(links.begin(), links.end(), [&](const Link& link) {
+        return link.is_next() && (link.page->name == back.target || link.target == back.page->name);
+    });
+}
+
+void find_wrong_turns(const ResourceFolder& folder, const Complain& complain)
+{
+    const std::vector<Link> links = all_links(folder);
+    for (const Link& link : links) {
+        if (!link.is_back() && !link.is_next()) {
+            continue;
+        }
+        const std::string other = osdAttrName(link.is_back() ? ATTR_NEXT_PAGE : ATTR_PREV_PAGE);
+        const auto target = folder.pages.find(link.target);
+        const Element* root = target == folder.pages.end() ? nullptr : target->second.root.get();
+        if (link.page->root->find(osdAttrName(ATTR_CUR_PAGES_NUM)) == nullptr) {
+            complain(link.attribute->place, link.attribute->name + " does nothing without CurPagesNum",
+                     "CurPagesNum=\"...\"");
+        } else if (root != nullptr && root->value(other) != link.page->name &&
+                   !(link.is_back() && is_told_forwards(links, link))) {
+            complain(link.attribute->place,
+                     "page '" + link.target + "' doesn't turn to this one: its " + other + " is '" +
+                         root->value(other) + "'",
+                     other + "=\"" + link.page->name + "\" there");
+        }
+    }
+}
+
+} // namespace
+
+const std::vector<Rule>& way_rules()
+{
+    static const std::vector<Rule> rules = {
+        {"no-page", Severity::Error, "A page that another one opens has a file.", find_broken_links},
+        {"main-page", Severity::Error, "The menu has its first page.", find_missing_main},
+        {"sixth-page", Severity::Error, "At most five pages are open.", find_sixth_pages},
+        {"unreached-page", Severity::Warning, "Keys lead to each page.", find_unreached},
+        {"turn", Severity::Error, "Pages that turn to each other say so on both sides.", find_wrong_turns},
+    };
+    return rules;
+}
+
+} // namespace pages

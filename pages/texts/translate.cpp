@@ -1,0 +1,225 @@
+#include "pages/texts/translate.h"
+
+#include <algorithm>
+#include <map>
+
+#include "osd_types.h"
+#include "pages/data/text_file.h"
+#include "pages/texts/language_file.h"
+#include "pages/texts/po_file.h"
+#include "pages/texts/room.h"
+#include "pages/texts/text_use.h"
+
+namespace pages {
+namespace {
+
+constexpr std::size_t max_bytes = OSD_TEXT_LEN - 1;
+constexpr std::size_t told_uses = 4; ///< of "Off" there are dozens
+
+std::filesystem::path file_of(const ResourceFolder& folder, const std::string& language)
+{
+    return folder.root / "lang" / (language + ".json");
+}
+
+void check_name(const std::string& language)
+{
+    if (language == source_language) {
+        throw BadInput("English is what gets translated, expected another language");
+    }
+    if (language.empty() || language.size() > max_bytes || language.find_first_of("./\\:") != language.npos) {
+        throw BadInput("'" + language + "' is no name of a language, expected 1 to 31 bytes without . / \\ :");
+    }
+}
+
+/// room: null for a text that no page shows.
+std::string comment_for(const std::vector<TextUse>& uses, const TextRoom* room)
+{
+    std::vector<std::string> words;
+    for (const TextUse& use : uses) {
+        if (std::count(words.begin(), words.end(), use.words) == 0) {
+            words.push_back(use.words);
+        }
+    }
+    std::string comment;
+    for (std::size_t i = 0; i < std::min(words.size(), told_uses); ++i) {
+        comment += (i == 0 ? "" : ", ") + words[i];
+    }
+    if (words.size() > told_uses) {
+        comment += " and " + std::to_string(words.size() - told_uses) + " more";
+    }
+    comment = (comment.empty() ? "on no page: shown by the menu itself" : comment) + "\nat most " +
+              std::to_string(max_bytes) + " bytes";
+    if (room != nullptr) {
+        comment += ", and " + std::to_string(room->room) + " pixels on page " + room->page +
+                   ", where the English has " + std::to_string(room->width);
+    }
+    return comment + "\n";
+}
+
+PoEntry entry_for(const SourceText& text, const std::map<std::string, std::string>& translations,
+                  const std::vector<TextUse>& uses, const TextRoom* room)
+{
+    PoEntry entry;
+    entry.key = text.key;
+    entry.english = text.english;
+    const auto translation = translations.find(text.key);
+    entry.translation = translation == translations.end() ? "" : translation->second;
+    entry.comment = comment_for(uses, room);
+    for (const TextUse& use : uses) {
+        entry.uses.push_back(use.place);
+    }
+    return entry;
+}
+
+/// Reads the translations of a PO file and refuses what doesn't fit.
+class Import {
+public:
+    Import(const ResourceFolder& folder, const std::string& language, std::string file)
+        : source_(source_texts(folder)), file_(std::move(file)), language_(language)
+    {
+        for (const SourceText& text : source_) {
+            english_[text.key] = text.english;
+        }
+    }
+
+    void take(const PoFile& content)
+    {
+        if (!content.language.empty() && content.language != language_) {
+            refuse({file_}, "the file is for " + content.language + ", expected " + language_);
+        }
+        for (const PoEntry& entry : content.entries) {
+            const std::string problem = problem_with(entry);
+            places_[entry.key] = entry.place;
+            if (problem.empty()) {
+                texts[entry.key] = entry.translation;
+            } else {
+                refuse(entry.place, "'" + entry.key + "' " + problem);
+            }
+        }
+        for (const SourceText& text : source_) {
+            if (places_.count(text.key) == 0) {
+                refuse({file_}, "'" + text.key + "' is missing (" + text.english + "), expected an entry: export anew");
+            }
+        }
+    }
+
+    /// What the language has and English lacks would be lost.
+    void keep(const ResourceFolder& folder)
+    {
+        const auto old = folder.languages.find(language_);
+        if (old == folder.languages.end()) {
+            return;
+        }
+        for (const auto& [key, text] : old->second) {
+            if (english_.count(key) == 0) {
+                const std::string path = file_of(folder, language_).string();
+                refuse({path, text.place.line, text.place.column},
+                       "'" + key + "' is no text of English.json, expected it there or not at all");
+            }
+        }
+    }
+
+    /// Draws the translations; the English texts stand in for those that are refused.
+    void measure_texts(ResourceFolder& folder)
+    {
+        std::map<std::string, std::string> tried = texts;
+        tried.insert(english_.begin(), english_.end());
+        for (const auto& [key, room] : narrowest_rooms(folder, language_, tried)) {
+            if (texts.count(key) != 0 && room.left() < 0) {
+                refuse(places_[key], "'" + key + "' is " + std::to_string(-room.left()) + " pixels too wide: '" +
+                                         room.text + "' has " + std::to_string(room.width) + " on page " + room.page +
+                                         " (" + to_string(room.view) + "), " + std::to_string(room.room) + " fit");
+            }
+        }
+    }
+
+    std::string content(const std::filesystem::path& older) const { return language_file(source_, texts, older); }
+
+    std::map<std::string, std::string> texts;
+    std::vector<BadInput> refusals;
+
+private:
+    void refuse(const Place& place, const std::string& words) { refusals.emplace_back(place, words); }
+
+    std::string problem_with(const PoEntry& entry) const
+    {
+        const auto english = english_.find(entry.key);
+        const std::string& text = entry.translation;
+        if (english == english_.end()) {
+            return "is no text of English.json, expected msgctxt with the key of one";
+        }
+        if (english->second != entry.english) {
+            return "translates '" + entry.english + "', but English.json has '" + english->second +
+                   "' now: export anew";
+        }
+        if (entry.fuzzy) {
+            return "is marked fuzzy, expected a look at the translation, and no mark";
+        }
+        if (text.find_first_not_of(' ') == text.npos) {
+            return "has no translation of '" + entry.english + "'";
+        }
+        if (std::any_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < ' '; })) {
+            return "holds a line break or another control character, expected one line";
+        }
+        return text.size() <= max_bytes
+                   ? ""
+                   : "is too long: " + words_of_length(text) + ", at most " + std::to_string(max_bytes) + " bytes fit";
+    }
+
+    std::vector<SourceText> source_;
+    std::map<std::string, std::string> english_;
+    std::map<std::string, Place> places_; ///< of the entries
+    std::string file_;
+    std::string language_;
+};
+
+} // namespace
+
+Exported export_texts(ResourceFolder& folder, const std::string& language, const std::filesystem::path& file,
+                      bool replace)
+{
+    check_name(language);
+    if (!replace && std::filesystem::exists(file)) {
+        throw BadInput(Place{file.string()},
+                       "is there already and may hold translations, expected another name or --replace");
+    }
+    const auto translations = texts_of(folder, language);
+    const auto source = source_texts(folder);
+    const auto rooms = narrowest_rooms(folder, language, texts_of(folder, source_language));
+    auto uses = text_uses(folder);
+    PoFile content{language, {}};
+    Exported exported{0, 0};
+    for (const SourceText& text : source) {
+        const auto room = rooms.find(text.key);
+        content.entries.push_back(
+            entry_for(text, translations, uses[text.key], room == rooms.end() ? nullptr : &room->second));
+        ++exported.texts;
+        exported.translated += content.entries.back().translation.empty() ? 0 : 1;
+    }
+    write_po(content, file);
+    return exported;
+}
+
+Imported import_texts(ResourceFolder& folder, const std::string& language, const std::filesystem::path& file)
+{
+    check_name(language);
+    const auto old = texts_of(folder, language);
+    Imported imported;
+    const PoFile content = read_po(file, imported.refusals);
+    if (!imported.refusals.empty()) { // what else is missing would follow from it
+        return imported;
+    }
+    Import import(folder, language, file.string());
+    import.take(content);
+    import.keep(folder);
+    import.measure_texts(folder);
+    imported.refusals = import.refusals;
+    if (imported.refusals.empty() && import.texts != old) {
+        const std::filesystem::path target = file_of(folder, language);
+        write_text_file(target, import.content(target));
+        imported.changed = true;
+    }
+    return imported;
+}
+
+} // namespace pages

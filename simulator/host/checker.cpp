@@ -1,0 +1,205 @@
+#include "simulator/host/checker.h"
+
+#include <algorithm>
+#include <iterator>
+#include <system_error>
+#include <utility>
+
+#include "pages/check/check.h"
+#include "simulator/core/data.h"
+#include "simulator/core/faults.h"
+#include "simulator/core/guard.h"
+#include "simulator/core/resources.h"
+
+namespace sim {
+namespace {
+
+namespace fs = std::filesystem;
+using namespace std::chrono_literals;
+
+constexpr auto time_until_rest = 1s;
+
+pages::CheckResult check_honestly(const pages::ResourceFolder& folder, const pages::CheckOptions& options)
+{
+    const FaultPause honest; // a fault that is on says nothing about the files
+    return pages::check(folder, options);
+}
+
+bool is_before(const Finding& one, const Finding& other) { return order_of(one) < order_of(other); }
+
+bool are_equal(const Finding& one, const Finding& other) { return order_of(one) == order_of(other); }
+
+/// What shows when pages are drawn: all that isn't said without that. Empty: all pages.
+std::vector<Finding> measure_pages(const Verdict& quick, const std::set<std::string>& pages)
+{
+    const std::vector<Finding> all = check_honestly(quick.resources->folder, {true, pages}).findings;
+    std::vector<Finding> found;
+    std::set_difference(all.begin(), all.end(), quick.findings.begin(), quick.findings.end(), std::back_inserter(found),
+                        is_before);
+    return found;
+}
+
+} // namespace
+
+Files read_files(const fs::path& resources)
+{
+    Files files;
+    for (const fs::path& folder : resource_folders(resources)) {
+        std::error_code error; // a folder that isn't there has no files
+        for (const auto& entry : fs::directory_iterator(folder, error)) {
+            if (!entry.is_directory(error)) {
+                std::string& text = files[entry.path().lexically_relative(plain_path(resources)).string()];
+                (void)guarded("resources", false, [&] {
+                    text = read_text_file(entry.path());
+                    return true;
+                });
+            }
+        }
+    }
+    return files;
+}
+
+std::set<std::string> differences(const Files& one, const Files& other)
+{
+    Files unequal;
+    std::set_symmetric_difference(one.begin(), one.end(), other.begin(), other.end(),
+                                  std::inserter(unequal, unequal.end()));
+    std::set<std::string> names;
+    for (const auto& [name, text] : unequal) {
+        names.insert(name);
+    }
+    return names;
+}
+
+Verdict judge(const fs::path& resources)
+{
+    try {
+        const auto now =
+            std::make_shared<const Resources>(Resources{read_files(resources), pages::read_resource_folder(resources)});
+        pages::CheckResult result = check_honestly(now->folder, {false, {}});
+        return {now, std::move(result.findings), std::move(result.refused)};
+    } catch (const BadInput& mistake) { // the folder has gone
+        return {nullptr, {{Place{"pages"}, pages::Severity::Error, "unusable", mistake.what(), ""}}, {}};
+    }
+}
+
+Checker::Checker(fs::path resources, std::function<void(Verdict)> tell)
+    : resources_(std::move(resources)), tell_(std::move(tell))
+{
+    thread_ = std::thread([this] { run(); });
+}
+
+Checker::~Checker()
+{
+    {
+        const std::lock_guard<std::mutex> lock(mutex_);
+        ending_ = true;
+        changed_.notify_all();
+    }
+    thread_.join();
+}
+
+void Checker::look_again()
+{
+    const std::lock_guard<std::mutex> lock(mutex_);
+    asked_ = true;
+    changed_.notify_all();
+}
+
+bool Checker::is_asked()
+{
+    const std::lock_guard<std::mutex> lock(mutex_);
+    return asked_;
+}
+
+void Checker::run()
+{
+    for (Step step = wait_for_step(); step != Step::End; step = wait_for_step()) {
+        (void)guarded("resources", false, [this, step] {
+            step == Step::Look ? look() : measure();
+            return true;
+        });
+    }
+}
+
+Checker::Step Checker::wait_for_step()
+{
+    std::unique_lock<std::mutex> lock(mutex_);
+    const auto ready = [this] { return asked_ || ending_; };
+    if (urgent_.empty() && !all_due_) {
+        changed_.wait(lock, ready);
+    } else if (urgent_.empty()) {
+        changed_.wait_until(lock, rest_, ready);
+    }
+    if (ending_) {
+        return Step::End;
+    }
+    return std::exchange(asked_, false) ? Step::Look : Step::Measure;
+}
+
+void Checker::look()
+{
+    const std::shared_ptr<const Resources> earlier = quick_.resources;
+    quick_ = judge(resources_);
+    rest_ = Clock::now() + time_until_rest;
+    choose_pages(earlier.get());
+    if (!is_asked()) { // else it may tell of what has been mended since
+        tell();
+    }
+}
+
+/// A changed page is drawn at once, and so is one with findings: it may have been mended by a change elsewhere.
+void Checker::choose_pages(const Resources* earlier)
+{
+    all_due_ = quick_.resources != nullptr;
+    if (!all_due_ || earlier == nullptr) {
+        urgent_.clear();
+        measured_.clear();
+        return;
+    }
+    const std::set<std::string> changed = differences(earlier->files, quick_.resources->files);
+    measured_.erase(std::remove_if(measured_.begin(), measured_.end(),
+                                   [&](const Finding& finding) {
+                                       return changed.count(finding.place.file) > 0 &&
+                                              !is_page_file(finding.place.file);
+                                   }),
+                    measured_.end());
+    for (const auto& [name, page] : quick_.resources->folder.pages) {
+        const auto is_here = [file = &page.file](const Finding& finding) { return finding.place.file == *file; };
+        if (changed.count(page.file) > 0 || std::any_of(measured_.begin(), measured_.end(), is_here)) {
+            urgent_.insert(name);
+        }
+    }
+}
+
+/// All pages when none is urgent. What was found elsewhere stays until then.
+void Checker::measure()
+{
+    const std::set<std::string> pages = std::exchange(urgent_, {});
+    all_due_ = !pages.empty();
+    std::vector<Finding> found = measure_pages(quick_, pages);
+    for (const Finding& finding : measured_) {
+        const std::string& file = finding.place.file;
+        if (!pages.empty() && is_page_file(file) && pages.count(page_name(file)) == 0) {
+            found.push_back(finding);
+        }
+    }
+    std::sort(found.begin(), found.end(), is_before);
+    const bool same = std::equal(found.begin(), found.end(), measured_.begin(), measured_.end(), are_equal);
+    measured_ = std::move(found);
+    if (!same && !is_asked()) {
+        tell();
+    }
+}
+
+void Checker::tell() const
+{
+    Verdict verdict = quick_;
+    std::vector<Finding> all;
+    std::merge(quick_.findings.begin(), quick_.findings.end(), measured_.begin(), measured_.end(),
+               std::back_inserter(all), is_before);
+    verdict.findings = std::move(all);
+    tell_(std::move(verdict));
+}
+
+} // namespace sim

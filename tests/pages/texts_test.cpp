@@ -1,0 +1,202 @@
+// Translations: to a PO file and back, and a language of lengthened texts.
+#include <algorithm>
+#include <filesystem>
+#include <gmock/gmock.h>
+#include <unistd.h>
+
+#include "pages/check/check.h"
+#include "pages/data/text_file.h"
+#include "pages/texts/pseudo.h"
+#include "pages/texts/translate.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using namespace pages;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+const fs::path shipped = fs::path(OSD_SOURCE_DIR) / "resource";
+
+/// A copy of the shipped pages and texts that a test may change.
+class TextsTest : public testing::Test {
+protected:
+    TextsTest()
+    {
+        fs::create_directories(root / "lang");
+        fs::copy(shipped / "pages", root / "pages");
+        fs::copy(shipped / "settings.json", root / "settings.json");
+        for (const auto& file : fs::directory_iterator(shipped / "lang")) {
+            fs::copy(file, root / "lang");
+        }
+    }
+    ~TextsTest() override { fs::remove_all(root.parent_path()); }
+
+    ResourceFolder folder() const { return read_resource_folder(root); }
+    fs::path file_of(const std::string& language) const { return root / "lang" / (language + ".json"); }
+
+    std::string exported(const std::string& language) const
+    {
+        ResourceFolder from = folder();
+        (void)export_texts(from, language, po, true);
+        return read_text_file(po);
+    }
+
+    Imported import(const std::string& language) const
+    {
+        ResourceFolder into = folder();
+        return import_texts(into, language, po);
+    }
+
+    /// Refusals without the PO file's folder.
+    std::vector<std::string> refused(const std::string& language) const
+    {
+        std::vector<std::string> lines;
+        for (const BadInput& refusal : import(language).refusals) {
+            lines.push_back(std::string(refusal.what()).substr(po.parent_path().string().size() + 1));
+        }
+        return lines;
+    }
+
+    fs::path root = fs::path(testing::TempDir()) / ("texts" + std::to_string(::getpid())) / "folder";
+    fs::path po = root.parent_path() / "po";
+};
+
+void replace(std::string& text, const std::string& old, const std::string& by)
+{
+    const std::size_t at = text.find(old);
+    ASSERT_NE(at, text.npos) << old;
+    text.replace(at, old.size(), by);
+}
+
+TEST_F(TextsTest, AreTheSameAfterTheWayToAPoFileAndBack)
+{
+    for (const auto& [language, texts] : folder().languages) {
+        if (language == "English") {
+            continue;
+        }
+        const std::string old = read_text_file(file_of(language));
+        const std::string first = exported(language);
+        EXPECT_FALSE(import(language).changed) << language;
+        fs::remove(file_of(language));
+        EXPECT_TRUE(import(language).changed) << language;
+        EXPECT_EQ(read_text_file(file_of(language)), old) << "order and groups are those of English.json";
+        EXPECT_EQ(exported(language), first);
+    }
+}
+
+TEST_F(TextsTest, TellTranslatorsWhereTheyAreUsed)
+{
+    EXPECT_THAT(exported("French"), HasSubstr("#. title of page lens, label on page main\n#. at most 31 bytes\n"
+                                              "#: pages/lens_page.xml:3 pages/main_page.xml:10\n"
+                                              "msgctxt \"lens\"\nmsgid \"Lens\"\nmsgstr \"Objectif\"\n"));
+    EXPECT_THAT(exported("French"), HasSubstr("\"Language: fr\\n\""));
+}
+
+TEST_F(TextsTest, OfANewLanguageAreEmptyAndTheAuthorHearsWhatToDo)
+{
+    ResourceFolder from = folder();
+    EXPECT_EQ(export_texts(from, "Spanish", po, false).translated, 0U);
+    EXPECT_THAT(left_to_do(folder(), "Spanish"),
+                ElementsAre(HasSubstr("\"Spanish\": \"Spanish\""), HasSubstr("lang/English.json, lang/French.json")));
+    EXPECT_THAT(left_to_do(folder(), "TraditionalChinese"), IsEmpty());
+    EXPECT_THROW((void)export_texts(from, "Spanish", po, false), BadInput) << "may hold work";
+    EXPECT_THROW((void)export_texts(from, "../Spanish", po, true), BadInput);
+}
+
+TEST_F(TextsTest, ThatDontFitAreRefused)
+{
+    const struct {
+        const char* old;
+        const char* by;
+        const char* refusal;
+    } rows[] = {
+        {"\"Objectif\"", "\"\"", "po:42: 'lens' has no translation of 'Lens'"},
+        {"\"Objectif\"", "\"  \"", "po:42: 'lens' has no translation of 'Lens'"},
+        {"\"Objectif\"", "\"Éééééééééééééééé\"",
+         "po:42: 'lens' is too long: 'Éééééééééééééééé' has 32 bytes (16 letters), at most 31 bytes fit"},
+        {"\"Objectif\"", "\"Objec\\ntif\"",
+         "po:42: 'lens' holds a line break or another control character, expected one line"},
+        {"msgctxt \"lens\"", "#, fuzzy\nmsgctxt \"lens\"",
+         "po:43: 'lens' is marked fuzzy, expected a look at the translation, and no mark"},
+        {"msgid \"Lens\"", "msgid \"Glass\"",
+         "po:42: 'lens' translates 'Glass', but English.json has 'Lens' now: export anew"},
+        {"msgctxt \"lens\"\nmsgid \"Lens\"\nmsgstr \"Objectif\"", "",
+         "po: 'lens' is missing (Lens), expected an entry: export anew"},
+        {"\"Objectif\"\n", "\"Objectif\"\n\nmsgctxt \"lenz\"\nmsgid \"Lens\"\nmsgstr \"Objectif\"\n",
+         "po:46: 'lenz' is no text of English.json, expected msgctxt with the key of one"},
+        {"\"Objectif\"\n", "\"Objectif\"\n\nmsgctxt \"lens\"\nmsgid \"Lens\"\nmsgstr \"Objectif\"\n",
+         "duplicate message definition"},
+        {"\"Objectif\"", "\"Objectif", "end-of-line within string"},
+        {"X-Menu-Language: French", "X-Menu-Language: German", "po: the file is for German, expected French"},
+        {"charset=UTF-8", "charset=ISO-8859-1", "expected text/plain; charset=UTF-8"},
+    };
+    const std::string texts = read_text_file(file_of("French"));
+    const std::string good = exported("French");
+    for (const auto& row : rows) {
+        std::string bad = good;
+        replace(bad, row.old, row.by);
+        write_text_file(po, bad);
+        EXPECT_THAT(refused("French"), testing::Contains(HasSubstr(row.refusal))) << row.by;
+        EXPECT_EQ(read_text_file(file_of("French")), texts) << row.by;
+    }
+}
+
+TEST_F(TextsTest, ThatDontFitAreRefusedAllAtOnce)
+{
+    std::string bad = exported("French");
+    replace(bad, "\"Objectif\"", "\"\"");
+    replace(bad, "msgid \"Gain\"", "msgid \"Loss\"");
+    write_text_file(po, bad);
+    std::string texts = read_text_file(file_of("French"));
+    replace(texts, "{", "{\"Iso\": \"ISO\",");
+    write_text_file(file_of("French"), texts);
+    EXPECT_THAT(
+        refused("French"),
+        ElementsAre(HasSubstr("'lens'"), HasSubstr("'Gain'"),
+                    "folder/lang/French.json:1:2: 'Iso' is no text of English.json, expected it there or not at all"));
+}
+
+std::size_t letter_count(const std::string& text)
+{
+    return static_cast<std::size_t>(std::count_if(
+        text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
+}
+
+TEST_F(TextsTest, OfThePseudoLanguageAreLongerAndStillFit)
+{
+    EXPECT_EQ(pseudo_text("Image"), "[ÎÎmågë]");
+    EXPECT_EQ(pseudo_text("1080p60"), "[1080p60~]");
+    EXPECT_EQ(pseudo_text("繁體中文"), "[繁體中文]");
+    EXPECT_EQ(pseudo_text("The longest text that there is."), "[The longest text that there i]");
+    EXPECT_EQ(pseudo_text("十个字以内的菜单文本"), "[十个字以内的菜单文]") << "no letter is cut in two";
+    for (const auto& [key, text] : folder().languages.at("English")) {
+        const std::string pseudo = pseudo_text(text.text);
+        const std::size_t letters = letter_count(text.text);
+        EXPECT_LE(pseudo.size(), 31U) << pseudo;
+        if (letters > 5 && letters < 22) {
+            EXPECT_NEAR(static_cast<double>(letter_count(pseudo) - 1) / static_cast<double>(letters), 1.35, 0.1)
+                << pseudo;
+        }
+    }
+}
+
+TEST_F(TextsTest, OfThePseudoLanguageAreChosenInACopyThatPassesTheCheck)
+{
+    const fs::path copy = root.parent_path() / "pseudo";
+    fs::copy(shipped / "pic", root / "pic");
+    write_pseudo(folder(), copy);
+    const ResourceFolder with_pseudo = read_resource_folder(copy);
+    for (const Finding& finding : check(with_pseudo, {false, {}}).findings) {
+        ADD_FAILURE() << line_of(finding, copy);
+    }
+    EXPECT_EQ(option_of_language(with_pseudo.definitions, "Pseudo"), "Pseudo");
+    EXPECT_EQ(with_pseudo.languages.at("Pseudo").at("lens").text, "[Lëëñs]");
+    EXPECT_EQ(with_pseudo.definitions.settings.at({"ImageParam", "Brightness"}).place.line,
+              folder().definitions.settings.at({"ImageParam", "Brightness"}).place.line);
+    EXPECT_THROW(write_pseudo(folder(), copy), BadInput) << "nobody's files are overwritten";
+    EXPECT_THROW(write_pseudo(with_pseudo, root.parent_path() / "again"), BadInput);
+}
+
+} // namespace
