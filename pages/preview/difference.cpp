@@ -38,7 +38,7 @@ bool mark(const Canvas& now, const Canvas& before, Canvas& marked)
     return differs;
 }
 
-void copy(const fs::path& from, const fs::path& to)
+void copy_picture(const fs::path& from, const fs::path& to)
 {
     make_folder(to.parent_path());
     fs::copy_file(from, to, fs::copy_options::overwrite_existing);
@@ -65,7 +65,7 @@ public:
         return true;
     }
 
-    void keep(const std::string& file) { copy(earlier_ / file, folder_ / before_folder / file); }
+    void keep(const std::string& file) { copy_picture(earlier_ / file, folder_ / before_folder / file); }
     void finish() { writer_.finish(); }
 
 private:
