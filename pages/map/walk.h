@@ -8,7 +8,6 @@
 
 namespace pages {
 
-enum class Key { Menu, Advanced, Up, Down, Left, Right, Home };
 using Keys = std::vector<Key>;
 
 /// "menu, down ×2, home"
