@@ -1,12 +1,13 @@
 // osdmenu-pages: checks, measures and shows a folder of menu pages.
 #include <CLI/CLI.hpp>
-#include <iostream>
-#include <memory>
+#include <cstdio>
+#include <exception>
 
 #include "pages/command/commands.h"
-#include "pages/data/errors.h"
 
-int main(int argc, char** argv)
+namespace {
+
+int run(int argc, const char* const* argv)
 {
     CLI::App app("Checks, measures, shows and translates the pages of a camera's menu.", "osdmenu-pages");
     app.require_subcommand(1);
@@ -14,13 +15,20 @@ int main(int argc, char** argv)
     pages::add_commands(app, status);
     try {
         app.parse(argc, argv);
-        return status;
     } catch (const CLI::ParseError& error) {
-        return app.exit(error) == 0 ? 0 : 2;
-    } catch (const pages::BadInput& mistake) {
-        std::cerr << "osdmenu-pages: " << mistake.what() << '\n';
-    } catch (const std::exception& error) {
-        std::cerr << "osdmenu-pages: " << error.what() << '\n';
+        return app.exit(error) == 0 ? 0 : pages::unusable;
     }
-    return 2;
+    return status;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    try {
+        return run(argc, argv);
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "osdmenu-pages: %s\n", error.what());
+    }
+    return pages::unusable;
 }

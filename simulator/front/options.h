@@ -28,21 +28,21 @@ struct Options {
     bool reset = false;
     bool still = false;
     bool window = false;
-    bool web = false;                    ///< serves a web page; so it is when nothing else was asked for
+    bool web = false;  ///< serves a web page; so it is when nothing else was asked for
+    bool open = false; ///< opens a browser
+    bool reloading = false;
+    bool update_scenario = false;
     std::optional<ListenAddress> listen; ///< none for the usual address
     std::optional<std::string> token;
-    bool open = false; ///< opens a browser
     std::filesystem::path
         resources; ///< pages, translations, settings definitions and pictures as their authors have them
     std::set<Fault> faults;
     std::optional<std::filesystem::path> import_file;
     std::optional<std::filesystem::path> export_file;
     std::optional<std::string> prompt;
-    bool reloading = false;
     std::optional<std::filesystem::path> contact_sheet;
     std::optional<std::string> check;              ///< a folder of resources; stands alone
     std::optional<std::filesystem::path> scenario; ///< stands alone
-    bool update_scenario = false;
 };
 
 /// Reads the command line and checks all that can be checked before a start. Empty when the help text was asked for
