@@ -8,26 +8,16 @@
 #include <utility>
 
 #include "menu/core/flat_list.h"
-#include "osd_menu.h"
 #include "pages/map/way_book.h"
 
 namespace pages {
 namespace {
 
-struct KeyRow {
-    const char* name;
-    int (*function)();
-};
-
-constexpr std::array<KeyRow, 7> key_rows = {{{"menu", OSD_MENU_HandleKeyMenu},
-                                             {"advanced", OSD_MENU_HandleKeyAdvancedMenu},
-                                             {"up", OSD_MENU_HandleKeyUp},
-                                             {"down", OSD_MENU_HandleKeyDown},
-                                             {"left", OSD_MENU_HandleKeyLeft},
-                                             {"right", OSD_MENU_HandleKeyRight},
-                                             {"home", OSD_MENU_HandleKeyHome}}};
-
-const KeyRow& row_of(Key key) { return key_rows.at(static_cast<std::size_t>(key)); }
+const char* name_of(Key key)
+{
+    constexpr std::array<const char*, 8> names = {"menu", "advanced", "up", "down", "left", "right", "home", "return"};
+    return names.at(static_cast<std::size_t>(key));
+}
 
 /// Beyond so many states of a page only where the cursor stands tells them apart, not all that shows.
 constexpr std::size_t told_apart = 600;
@@ -156,11 +146,12 @@ private:
         press(menu_, joined(keys_, here));
         const tagITEM_NODE_S item = *osdPageSelected(menu_.top()); // which the key may take away
         const std::string target = key == Key::Down ? menu_.top()->stTurn.acNextPage : target_of(item);
-        const bool opens = key == Key::Home || (key == Key::Right && item.enAttr == SUBPAGE);
+        const bool enters = key == Key::Right && menu_.top()->enLayout == PAGE_LAYOUT_VERTICAL_KETH;
+        const bool opens = key == Key::Home || (enters && item.enAttr == SUBPAGE);
         if (opens && !target.empty() && !opened_.insert({target, key}).second) {
             return; // another row, or another option, leads to the same
         }
-        menu_.key(row_of(key).function);
+        menu_.press(key); // drawn, as the library may tell of what it can't draw
         book_.add_lines(menu_.take_lines());
         const std::vector<std::string> stack = menu_.open_pages();
         const Keys keys = joined(here, key);
@@ -180,13 +171,13 @@ private:
         for (std::size_t i = menu_.rows().size(); i > 0; --i) {
             const std::string item = osdPageSelected(menu_.top())->acItemIndex;
             if (item == "No") {
-                menu_.key(OSD_MENU_HandleKeyHome);
+                menu_.press(Key::Home);
                 if (menu_.open_pages() == stack_) {
                     book_.add_end(page_, nullptr, "the answer No does nothing, the question stays");
                 }
                 return;
             }
-            menu_.key(OSD_MENU_HandleKeyRight);
+            menu_.press(Key::Right);
         }
         book_.add_end(page_, nullptr, "a question without the answer No");
     }
@@ -227,7 +218,7 @@ std::string words_of(const Keys& keys)
     std::string words;
     for (auto key = keys.begin(); key != keys.end();) {
         const auto next = std::find_if(key, keys.end(), [&](Key other) { return other != *key; });
-        words += std::string(words.empty() ? "" : ", ") + row_of(*key).name;
+        words += std::string(words.empty() ? "" : ", ") + name_of(*key);
         words += next - key > 1 ? " ×" + std::to_string(next - key) : "";
         key = next;
     }
@@ -239,7 +230,7 @@ void press(Menu& menu, const Keys& keys)
     menu.close_all();
     menu.forget_values();
     for (const Key key : keys) {
-        menu.key(row_of(key).function);
+        menu.press_unseen(key);
     }
 }
 

@@ -8,7 +8,6 @@
 
 namespace pages {
 
-enum class Key { Menu, Advanced, Up, Down, Left, Right, Home };
 using Keys = std::vector<Key>;
 
 /// "menu, down ×2, home"
@@ -55,7 +54,7 @@ struct Walk {
 /// Presses keys until nothing new comes; questions are answered with No, once each.
 Walk walk(const ResourceFolder& folder, const View& view);
 
-/// Presses the keys from the closed menu on, all settings at their defaults.
+/// Presses the keys from the closed menu on, all settings at their defaults, and draws nothing.
 void press(Menu& menu, const Keys& keys);
 
 } // namespace pages

@@ -211,6 +211,13 @@ void Menu::press(Key pressed)
     key(functions[static_cast<std::size_t>(pressed)]);
 }
 
+void Menu::press_unseen(Key pressed)
+{
+    SDL_Surface* surface = std::exchange(gstMenuMgr.pstSurface, nullptr); // without it the library draws nothing
+    press(pressed);
+    gstMenuMgr.pstSurface = surface;
+}
+
 SDL_Surface* Menu::draw()
 {
     (void)OSD_MENU_RenderCanvas();

@@ -1,10 +1,9 @@
 #include "pages/preview/canvas.h"
 
-#include <SDL_image.h>
 #include <algorithm>
 #include <array>
+#include <png.h>
 #include <stdexcept>
-#include <vector>
 
 #include "pages/data/errors.h"
 
@@ -43,6 +42,36 @@ Pixel mean(const Canvas& canvas, int left, int top, int side)
     return result;
 }
 
+/// The order in which a pixel's bytes lie in memory.
+constexpr png_uint_32 byte_order = SDL_BYTEORDER == SDL_LIL_ENDIAN ? PNG_FORMAT_BGRA : PNG_FORMAT_ARGB;
+
+/// To be written in a tenth of the time that the smallest file would take.
+png_image png_of(const Canvas& canvas)
+{
+    png_image image{};
+    image.version = PNG_IMAGE_VERSION;
+    image.width = static_cast<png_uint_32>(canvas.width());
+    image.height = static_cast<png_uint_32>(canvas.height());
+    image.format = byte_order;
+    image.flags = PNG_IMAGE_FLAG_FAST;
+    return image;
+}
+
+Canvas read_png(const std::filesystem::path& file)
+{
+    png_image image{};
+    image.version = PNG_IMAGE_VERSION;
+    if (png_image_begin_read_from_file(&image, file.c_str()) == 0) {
+        throw BadInput({file.string(), 0, 0}, std::string("not readable as a picture: ") + image.message);
+    }
+    image.format = byte_order;
+    Canvas canvas(static_cast<int>(image.width), static_cast<int>(image.height), opaque);
+    if (png_image_finish_read(&image, nullptr, canvas.row(0), canvas.surface()->pitch, nullptr) == 0) {
+        throw BadInput({file.string(), 0, 0}, std::string("not readable as a picture: ") + image.message);
+    }
+    return canvas;
+}
+
 } // namespace
 
 Canvas::Canvas(int width, int height, Pixel color)
@@ -55,24 +84,23 @@ Canvas::Canvas(int width, int height, Pixel color)
     fill({0, 0, width, height}, color);
 }
 
-Canvas::Canvas(const std::filesystem::path& file)
-{
-    const std::unique_ptr<SDL_Surface, Free> loaded(IMG_Load_RW(SDL_RWFromFile(file.c_str(), "rb"), 1));
-    if (loaded != nullptr) {
-        surface_.reset(SDL_ConvertSurfaceFormat(loaded.get(), SDL_PIXELFORMAT_ARGB8888, 0));
-    }
-    if (surface_ == nullptr) {
-        throw BadInput({file.string(), 0, 0}, std::string("not readable as a picture: ") + SDL_GetError());
-    }
-}
+Canvas::Canvas(const std::filesystem::path& file) : Canvas(read_png(file)) {}
 
 void Canvas::lay_over(const SDL_Surface& menu)
 {
     for (int y = 0; y < std::min(height(), menu.h); ++y) {
         Pixel* to = row(y);
         const Pixel* from = pixels_of(menu, y);
+        Pixel ground = 0;
+        Pixel above = 0;
+        Pixel blended = 0; // as most pixels have both colours of the one before
         for (int x = 0; x < std::min(width(), menu.w); ++x) {
-            to[x] = mixed(to[x], from[x], part(from[x], 24), 255);
+            if (x == 0 || to[x] != ground || from[x] != above) {
+                ground = to[x];
+                above = from[x];
+                blended = mixed(ground, above, part(above, 24), 255);
+            }
+            to[x] = blended;
         }
     }
 }
@@ -100,24 +128,21 @@ Canvas Canvas::smaller(int side) const
 
 void Canvas::save(const std::filesystem::path& file) const
 {
-    if (IMG_SavePNG(surface_.get(), file.c_str()) != 0) {
-        throw std::runtime_error(file.string() + " can't be written: " + SDL_GetError());
+    png_image image = png_of(*this);
+    if (png_image_write_to_file(&image, file.c_str(), 0, surface_->pixels, surface_->pitch, nullptr) == 0) {
+        throw BadInput(file.string() + " can't be written: " + image.message);
     }
 }
 
 std::string Canvas::png() const
 {
-    std::string bytes(static_cast<std::size_t>(width()) * static_cast<std::size_t>(height()) * 5 + 1024, '\0');
-    SDL_RWops* memory = SDL_RWFromMem(bytes.data(), static_cast<int>(bytes.size()));
-    const bool written = memory != nullptr && IMG_SavePNG_RW(surface_.get(), memory, 0) == 0;
-    const Sint64 size = written ? SDL_RWtell(memory) : 0;
-    if (memory != nullptr) {
-        (void)SDL_RWclose(memory); // memory has nothing to fail with
+    png_image image = png_of(*this);
+    png_alloc_size_t size = PNG_IMAGE_PNG_SIZE_MAX(image);
+    std::string bytes(size, '\0');
+    if (png_image_write_to_memory(&image, bytes.data(), &size, 0, surface_->pixels, surface_->pitch, nullptr) == 0) {
+        throw std::runtime_error(std::string("a picture can't be made into PNG: ") + image.message);
     }
-    if (!written) {
-        throw std::runtime_error(std::string("a picture can't be made into PNG: ") + SDL_GetError());
-    }
-    bytes.resize(static_cast<std::size_t>(size));
+    bytes.resize(size);
     return bytes;
 }
 

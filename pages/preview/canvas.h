@@ -32,7 +32,7 @@ public:
     /// A picture whose pixels are the means of squares of this one.
     Canvas smaller(int side) const;
 
-    /// Writes a PNG file, on any thread. Throws std::runtime_error.
+    /// Writes a PNG file, on any thread. Throws BadInput.
     void save(const std::filesystem::path& file) const;
     /// The content of a PNG file.
     std::string png() const;
