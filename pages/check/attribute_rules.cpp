@@ -109,11 +109,17 @@ std::string meant_by(const Element& element, const std::string& attribute)
     return is_unknown(attribute) ? nearest_word(attribute, names_on(role_of(element))) : "";
 }
 
+/// Tells an editor where the schema is.
+bool is_for_editors(const std::string& attribute)
+{
+    return attribute == "xmlns:xsi" || attribute == "xsi:noNamespaceSchemaLocation";
+}
+
 void find_unknown(const ResourceFolder& folder, const Complain& complain)
 {
     for_each_read(folder, [&](const Element& element) {
         for (const Attribute& attribute : element.attributes) {
-            if (is_unknown(attribute.name)) {
+            if (is_unknown(attribute.name) && !is_for_editors(attribute.name)) {
                 complain(attribute.place, "attribute '" + attribute.name + "' means nothing to the menu",
                          one_of(attribute.name, names_on(role_of(element))));
             }
