@@ -6,6 +6,7 @@
 #include "pages/check/check.h"
 #include "pages/command/measure_command.h"
 #include "pages/command/other_commands.h"
+#include "pages/command/show_commands.h"
 
 namespace pages {
 namespace {
@@ -61,6 +62,7 @@ void add_commands(CLI::App& app, int& status)
     add_measure_command(app, status);
     add_schema_command(app);
     add_text_commands(app, status);
+    add_show_commands(app, status);
 }
 
 } // namespace pages

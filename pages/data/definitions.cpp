@@ -8,13 +8,13 @@
 #include "osd_types.h"
 #include "pages/data/errors.h"
 #include "pages/data/json_file.h"
+#include "pages/data/texts.h"
 
 namespace pages {
 namespace {
 
 using nlohmann::json;
 
-constexpr std::size_t max_text_bytes = OSD_TEXT_LEN - 1;
 constexpr std::size_t max_value_bytes = OSD_CFG_VALUE_LEN - 1;
 constexpr std::size_t max_list_bytes = OSD_CFG_LIST_LEN - 1;
 constexpr std::string_view no_option_bytes(":\0", 2);

@@ -8,13 +8,11 @@
 namespace pages {
 namespace {
 
-constexpr std::size_t max_bytes = OSD_TEXT_LEN - 1;
-
 /// What can't be shown of a text, or no words.
 std::string problem_with_text(const std::string& text)
 {
-    if (text.size() > max_bytes) {
-        return words_of_length(text) + ", at most " + std::to_string(max_bytes) + " bytes fit";
+    if (text.size() > max_text_bytes) {
+        return words_of_length(text) + ", at most " + std::to_string(max_text_bytes) + " bytes fit";
     }
     return text.find('\0') == text.npos ? "" : "'" + without_zeros(text) + "' holds a zero byte";
 }

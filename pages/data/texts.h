@@ -6,10 +6,14 @@
 #include <string>
 #include <vector>
 
+#include "osd_types.h"
 #include "pages/data/allowance.h"
 #include "pages/data/errors.h"
 
 namespace pages {
+
+/// What a text of the menu, and a key of one, can hold.
+constexpr std::size_t max_text_bytes = OSD_TEXT_LEN - 1;
 
 struct Text {
     std::string text;

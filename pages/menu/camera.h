@@ -34,6 +34,9 @@ public:
     const std::string& value_of(const Setting& setting) const;
     void store(const Setting& setting, const std::string& value) { values_[setting.id] = value; }
 
+    /// All settings have their defaults again.
+    void forget_values() { values_.clear(); }
+
     void add_line(std::string line) { lines_.push_back(std::move(line)); }
     std::vector<std::string> take_lines() { return std::exchange(lines_, {}); }
 

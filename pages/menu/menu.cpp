@@ -126,6 +126,16 @@ void Menu::look(const View& view)
 
 const View& Menu::view() const { return camera().view(); }
 
+void Menu::store(const SettingId& setting, const std::string& value)
+{
+    const auto found = camera().folder().definitions.settings.find(setting);
+    if (found != camera().folder().definitions.settings.end() && problem_with(found->second, value).empty()) {
+        camera().store(found->second, value);
+    }
+}
+
+void Menu::forget_values() { camera().forget_values(); }
+
 std::vector<Fault> Menu::parse(const PageFile& page)
 {
     std::vector<Fault> faults;
@@ -199,6 +209,13 @@ void Menu::press(Key pressed)
         OSD_MENU_HandleKeyMenu, OSD_MENU_HandleKeyAdvancedMenu, OSD_MENU_HandleKeyUp,   OSD_MENU_HandleKeyDown,
         OSD_MENU_HandleKeyLeft, OSD_MENU_HandleKeyRight,        OSD_MENU_HandleKeyHome, OSD_MENU_ReturnMenu};
     key(functions[static_cast<std::size_t>(pressed)]);
+}
+
+void Menu::press_unseen(Key pressed)
+{
+    SDL_Surface* surface = std::exchange(gstMenuMgr.pstSurface, nullptr); // without it the library draws nothing
+    press(pressed);
+    gstMenuMgr.pstSurface = surface;
 }
 
 SDL_Surface* Menu::draw()

@@ -59,6 +59,11 @@ public:
     void look(const View& view);
     const View& view() const;
 
+    /// Gives a setting a value that it can have; one that there isn't stays away.
+    void store(const SettingId& setting, const std::string& value);
+    /// Gives all settings their defaults again.
+    void forget_values();
+
     /// Parses a page and what it shows, and tells what the parser says of it.
     std::vector<Fault> parse(const PageFile& page);
 
@@ -75,6 +80,8 @@ public:
     void key(int (*function)());
     /// The same by the key's name, for whoever doesn't see the library.
     void press(Key key);
+    /// The same without drawing, which takes a small part of the time.
+    void press_unseen(Key key);
 
     /// Draws the page on top. The pixels, ARGB8888, are the menu's and change with the next call.
     SDL_Surface* draw();

@@ -19,8 +19,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* language_name = "Pseudo";
-constexpr std::size_t max_bytes = OSD_TEXT_LEN - 1;
-
 /// Letters that the fonts of every country have.
 constexpr std::pair<char, std::string_view> accents[] = {{'A', "Å"}, {'E', "É"}, {'I', "Î"}, {'O', "Ö"}, {'U', "Ü"},
                                                          {'a', "å"}, {'e', "ë"}, {'i', "ï"}, {'o', "ö"}, {'u', "ü"},
@@ -147,7 +145,7 @@ std::string pseudo_text(const std::string& text)
 {
     std::vector<std::string> letters = letters_of(text);
     const std::size_t wanted = (letters.size() * 35 + 50) / 100;
-    constexpr std::size_t room = max_bytes - 2; // for the text and what lengthens it
+    constexpr std::size_t room = max_text_bytes - 2; // for the text and what lengthens it
     while (bytes_of(letters) > room) {
         letters.pop_back();
     }

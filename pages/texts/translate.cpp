@@ -13,7 +13,6 @@
 namespace pages {
 namespace {
 
-constexpr std::size_t max_bytes = OSD_TEXT_LEN - 1;
 constexpr std::size_t told_uses = 4; ///< of "Off" there are dozens
 
 std::filesystem::path file_of(const ResourceFolder& folder, const std::string& language)
@@ -26,7 +25,7 @@ void check_name(const std::string& language)
     if (language == source_language) {
         throw BadInput("English is what gets translated, expected another language");
     }
-    if (language.empty() || language.size() > max_bytes || language.find_first_of("./\\:") != language.npos) {
+    if (language.empty() || language.size() > max_text_bytes || language.find_first_of("./\\:") != language.npos) {
         throw BadInput("'" + language + "' is no name of a language, expected 1 to 31 bytes without . / \\ :");
     }
 }
@@ -48,7 +47,7 @@ std::string comment_for(const std::vector<TextUse>& uses, const TextRoom* room)
         comment += " and " + std::to_string(words.size() - told_uses) + " more";
     }
     comment = (comment.empty() ? "on no page: shown by the menu itself" : comment) + "\nat most " +
-              std::to_string(max_bytes) + " bytes";
+              std::to_string(max_text_bytes) + " bytes";
     if (room != nullptr) {
         comment += ", and " + std::to_string(room->room) + " pixels on page " + room->page +
                    (room->view.uhd ? " at 4k" : " at 1080p") + ", where the English has " + std::to_string(room->width);
@@ -206,9 +205,9 @@ private:
         if (std::any_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < ' '; })) {
             return "holds a line break or another control character, expected one line";
         }
-        return text.size() <= max_bytes
-                   ? ""
-                   : "is too long: " + words_of_length(text) + ", at most " + std::to_string(max_bytes) + " bytes fit";
+        return text.size() <= max_text_bytes ? ""
+                                             : "is too long: " + words_of_length(text) + ", at most " +
+                                                   std::to_string(max_text_bytes) + " bytes fit";
     }
 
     std::vector<SourceText> source_;

@@ -115,9 +115,7 @@ void declare(CLI::App& app, Options& options, Words& words)
         ->check(CLI::IsMember(names_of(formats)))
         ->type_name("FORMAT")
         ->capture_default_str();
-    app.add_option("--style", options.style, "Skin of the menu: 0, 1 or 2")
-        ->check(CLI::Range(0, 2))
-        ->capture_default_str();
+    app.add_option("--style", options.style, "Skin of the menu: 0, 1 or 2")->check(CLI::Range(0, 2));
     app.add_option("--language", words.language, "Language for this run only; the stored setting stays")
         ->type_name("NAME");
     app.add_option("--page", options.page, "Page that the menu key opens instead of main")->type_name("NAME");
@@ -144,7 +142,7 @@ void declare(CLI::App& app, Options& options, Words& words)
     app.add_flag("--reloading", options.reloading,
                  "The media service counts as reloading (/tmp/.mpp_reloading): no zoom ratio shows");
     app.add_option("--contact-sheet", words.contact_sheet,
-                   "Write all pages side by side; a folder gets a sheet for each language and style")
+                   "Write all pages side by side; a folder gets a sheet for each language and style, and for each page")
         ->type_name("FILE.png|DIR");
     app.add_option("--check", words.check, "Tell everything that is wrong with a folder of resources; stands alone")
         ->type_name("DIR");
@@ -164,8 +162,8 @@ const std::vector<Enemies> all_enemies = {
     {"--window", {"--snapshot"}},
     {"--keys", {"--keys-file"}},
     {"--contact-sheet",
-     {"--window", "--snapshot", "--export", "--import", "--keys", "--keys-file", "--record", "--channel", "--page",
-      "--data", "--faults", "--prompt", "--reloading"}},
+     {"--window", "--snapshot", "--export", "--import", "--keys", "--keys-file", "--record", "--channel", "--data",
+      "--faults", "--prompt", "--reloading"}},
     {"--export",
      {"--window", "--snapshot", "--keys", "--keys-file", "--record", "--channel", "--page", "--style", "--size",
       "--format", "--language", "--prompt", "--reloading"}},
@@ -273,10 +271,6 @@ void take_over(const CLI::App& app, const Words& words, Options& options)
     }
     if (app.count("--contact-sheet") > 0) {
         options.contact_sheet = words.contact_sheet;
-        if (options.contact_sheet->extension() != ".png" && app.count("--style") + app.count("--language") > 0) {
-            throw BadInput(
-                "--contact-sheet writes all styles and languages into a folder; for one of them name a .png");
-        }
     }
     if (app.count("--snapshot") > 0) {
         options.snapshot = words.snapshot;

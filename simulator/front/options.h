@@ -21,7 +21,7 @@ struct Options {
     int channel = 0;
     bool uhd = false;
     std::uint32_t pixel_format = 2;
-    std::uint32_t style = 0;
+    std::optional<std::uint32_t> style;
     std::optional<std::string> language;
     std::string page;
     std::filesystem::path data;

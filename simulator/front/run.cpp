@@ -4,10 +4,10 @@
 #include <iostream>
 
 #include "pages/command/commands.h"
+#include "pages/preview/sheet.h"
 #include "simulator/core/data.h"
 #include "simulator/core/resources.h"
 #include "simulator/core/settings_json.h"
-#include "simulator/front/contact_sheet.h"
 #include "simulator/front/scenario.h"
 #include "simulator/front/serve.h"
 #include "simulator/front/window.h"
@@ -62,6 +62,24 @@ int check_resources(const std::string& folder)
     return status;
 }
 
+void write_contact_sheets(const std::filesystem::path& path, const Options& options)
+{
+    pages::Selection selection;
+    selection.uhd = options.uhd;
+    if (!options.page.empty()) {
+        selection.pages = {options.page};
+    }
+    if (options.language) {
+        selection.languages = {*options.language};
+    }
+    if (options.style) {
+        selection.styles = {*options.style};
+    }
+    for (const auto& sheet : pages::write_sheets(pages::read_resource_folder(options.resources), path, selection)) {
+        std::cout << "wrote " << sheet.string() << std::endl;
+    }
+}
+
 void run_camera(const Options& options, Pictures& pictures)
 {
     std::optional<ReloadingMarker> marker;
@@ -78,7 +96,7 @@ void run_camera(const Options& options, Pictures& pictures)
         recorder->follow(camera);
     }
     transfer_settings(camera, options);
-    const MenuConfig menu{options.pixel_format, options.style, options.uhd, options.page,
+    const MenuConfig menu{options.pixel_format, options.style.value_or(0), options.uhd, options.page,
                           options.prompt.value_or(default_prompt)};
     if (options.web) {
         serve_camera(camera, pictures, menu, options);
@@ -103,15 +121,15 @@ int run(const Options& options)
         return 0;
     }
     require_usable(options.resources);
+    if (options.contact_sheet) {
+        write_contact_sheets(*options.contact_sheet, options);
+        return 0;
+    }
     Pictures pictures(options.resources);
     if (!options.web) {
         pictures.take_outdated();
     }
-    if (options.contact_sheet) {
-        write_contact_sheets(*options.contact_sheet, options);
-    } else {
-        run_camera(options, pictures);
-    }
+    run_camera(options, pictures);
     return 0;
 }
 

@@ -29,10 +29,10 @@ bool is_before(const Finding& one, const Finding& other) { return order_of(one) 
 
 bool are_equal(const Finding& one, const Finding& other) { return order_of(one) == order_of(other); }
 
-/// The page alone. What the check says of the whole folder, it says again, and is left out.
-std::vector<Finding> measure_page(const Verdict& quick, const std::string& page)
+/// What shows when pages are drawn: all that isn't said without that. Empty: all pages.
+std::vector<Finding> measure_pages(const Verdict& quick, const std::set<std::string>& pages)
 {
-    const std::vector<Finding> all = check_honestly(quick.resources->folder, {true, {page}}).findings;
+    const std::vector<Finding> all = check_honestly(quick.resources->folder, {true, pages}).findings;
     std::vector<Finding> found;
     std::set_difference(all.begin(), all.end(), quick.findings.begin(), quick.findings.end(), std::back_inserter(found),
                         is_before);
@@ -126,7 +126,7 @@ Checker::Step Checker::wait_for_step()
 {
     std::unique_lock<std::mutex> lock(mutex_);
     const auto ready = [this] { return asked_ || ending_; };
-    if (urgent_.empty() && others_.empty()) {
+    if (urgent_.empty() && !all_due_) {
         changed_.wait(lock, ready);
     } else if (urgent_.empty()) {
         changed_.wait_until(lock, rest_, ready);
@@ -151,39 +151,42 @@ void Checker::look()
 /// A changed page is drawn at once, and so is one with findings: it may have been mended by a change elsewhere.
 void Checker::choose_pages(const Resources* earlier)
 {
-    static const Resources nothing;
-    const Resources& now = quick_.resources == nullptr ? nothing : *quick_.resources;
-    const std::set<std::string> changed = differences(earlier == nullptr ? nothing.files : earlier->files, now.files);
-    const bool elsewhere =
-        std::any_of(changed.begin(), changed.end(), [](const std::string& file) { return !is_page_file(file); });
-    std::map<std::string, std::vector<Finding>> known;
-    std::set<std::string> urgent;
-    others_.clear();
-    for (const auto& [name, page] : now.folder.pages) {
-        const auto measured = measured_.find(name);
-        const bool is_known = measured != measured_.end();
-        const bool faulty = is_known && !measured->second.empty();
-        if (faulty || urgent_.count(name) > 0 || (earlier != nullptr && changed.count(page.file) > 0)) {
-            urgent.insert(name);
-        } else if (!is_known || elsewhere) {
-            others_.insert(name);
-        }
-        if (faulty || (is_known && others_.count(name) == 0)) {
-            known.insert(*measured);
+    all_due_ = quick_.resources != nullptr;
+    if (!all_due_ || earlier == nullptr) {
+        urgent_.clear();
+        measured_.clear();
+        return;
+    }
+    const std::set<std::string> changed = differences(earlier->files, quick_.resources->files);
+    measured_.erase(std::remove_if(measured_.begin(), measured_.end(),
+                                   [&](const Finding& finding) {
+                                       return changed.count(finding.place.file) > 0 &&
+                                              !is_page_file(finding.place.file);
+                                   }),
+                    measured_.end());
+    for (const auto& [name, page] : quick_.resources->folder.pages) {
+        const auto is_here = [file = &page.file](const Finding& finding) { return finding.place.file == *file; };
+        if (changed.count(page.file) > 0 || std::any_of(measured_.begin(), measured_.end(), is_here)) {
+            urgent_.insert(name);
         }
     }
-    urgent_ = std::move(urgent);
-    measured_ = std::move(known);
 }
 
+/// All pages when none is urgent. What was found elsewhere stays until then.
 void Checker::measure()
 {
-    std::set<std::string>& pages = urgent_.empty() ? others_ : urgent_;
-    const std::string page = pages.extract(pages.begin()).value();
-    std::vector<Finding> found = measure_page(quick_, page);
-    std::vector<Finding>& known = measured_[page];
-    const bool same = std::equal(found.begin(), found.end(), known.begin(), known.end(), are_equal);
-    known = std::move(found);
+    const std::set<std::string> pages = std::exchange(urgent_, {});
+    all_due_ = !pages.empty();
+    std::vector<Finding> found = measure_pages(quick_, pages);
+    for (const Finding& finding : measured_) {
+        const std::string& file = finding.place.file;
+        if (!pages.empty() && is_page_file(file) && pages.count(page_name(file)) == 0) {
+            found.push_back(finding);
+        }
+    }
+    std::sort(found.begin(), found.end(), is_before);
+    const bool same = std::equal(found.begin(), found.end(), measured_.begin(), measured_.end(), are_equal);
+    measured_ = std::move(found);
     if (!same && !is_asked()) {
         tell();
     }
@@ -192,12 +195,10 @@ void Checker::measure()
 void Checker::tell() const
 {
     Verdict verdict = quick_;
-    std::vector<Finding>& all = verdict.findings;
-    for (const auto& [page, findings] : measured_) {
-        all.insert(all.end(), findings.begin(), findings.end());
-    }
-    std::sort(all.begin(), all.end(), is_before);
-    all.erase(std::unique(all.begin(), all.end(), are_equal), all.end()); // two pages can show one text
+    std::vector<Finding> all;
+    std::merge(quick_.findings.begin(), quick_.findings.end(), measured_.begin(), measured_.end(),
+               std::back_inserter(all), is_before);
+    verdict.findings = std::move(all);
     tell_(std::move(verdict));
 }
 

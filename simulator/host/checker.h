@@ -44,12 +44,12 @@ struct Verdict {
 Verdict judge(const std::filesystem::path& resources);
 
 /// Checks resources on a thread of its own: what can be said at once is told first, then what shows when the changed
-/// pages are drawn; when nothing has changed for a second, the other pages are drawn one after the other.
+/// pages are drawn; when nothing has changed for a second, all pages are.
 class Checker {
 public:
     /// The function is called on that thread, with all that is known then. The first look waits for look_again().
     Checker(std::filesystem::path resources, std::function<void(Verdict)> tell);
-    /// Waits for the end of the page that is checked.
+    /// Waits for the end of a check under way.
     ~Checker();
     Checker(const Checker&) = delete;
     Checker& operator=(const Checker&) = delete;
@@ -72,11 +72,11 @@ private:
     const std::filesystem::path resources_;
     const std::function<void(Verdict)> tell_;
 
-    Verdict quick_;                                        ///< of the last look
-    std::map<std::string, std::vector<Finding>> measured_; ///< by page: what showed when it was drawn
-    std::set<std::string> urgent_;                         ///< pages to draw at once
-    std::set<std::string> others_;                         ///< pages to draw at rest
-    Clock::time_point rest_;                               ///< when that begins
+    Verdict quick_;                 ///< of the last look
+    std::vector<Finding> measured_; ///< what showed when pages were drawn, by place
+    std::set<std::string> urgent_;  ///< pages to draw at once
+    bool all_due_ = false;          ///< to draw all pages at rest
+    Clock::time_point rest_;        ///< when that begins
 
     std::mutex mutex_; ///< guards what is waited for: the two below
     bool asked_ = false;

@@ -39,6 +39,8 @@ protected:
         return bar(font, text, index, count, 28, selected, rect, &surface);
     }
 
+    int load(std::string stem, SDL_Rect rect) { return OSD_COMM_GetImgSurfaceByRect(stem.data(), rect, &surface); }
+
     void TearDown() override
     {
         SDL_FreeSurface(surface);
@@ -182,24 +184,16 @@ TEST_F(WidgetTest, ExtremeRectangles)
     EXPECT_EQ(pixelAt(canvas, 9, 9), 0xFFFFFFFFu);
 }
 
-class ImageTest : public MenuTest {
-protected:
-    int load(std::string stem, SDL_Rect rect) { return OSD_COMM_GetImgSurfaceByRect(stem.data(), rect, &image); }
-
-    SDL_Surface* image = nullptr;
-};
-
-TEST_F(ImageTest, LoadsScalesConverts)
+TEST_F(WidgetTest, LoadsScalesConverts)
 {
     ASSERT_EQ(load("bar", {7, 9, 300, 50}), 0);
     EXPECT_THAT(calls().lines, ElementsAre("access " PIC "bar.bmp", "load " PIC "bar.bmp", "zoom loaded bar 0 3 0.5 1",
                                            "convert scaled bar 0x15321002", "free loaded bar", "free scaled bar"));
-    EXPECT_EQ(calls().surfaces[image], "bar 300x50");
-    EXPECT_EQ(pixelAt(image, 150, 25), 0xFF0000FFu);
-    SDL_FreeSurface(image);
+    EXPECT_EQ(calls().surfaces[surface], "bar 300x50");
+    EXPECT_EQ(pixelAt(surface, 150, 25), 0xFF0000FFu);
 }
 
-TEST_F(ImageTest, FailuresReleaseInOrder)
+TEST_F(WidgetTest, FailuresReleaseInOrder)
 {
     for (const auto& [call, output, freed] :
          {std::tuple("access", "F L failed, acFilePath = " PIC "bar.bmp\n", ""),
@@ -217,29 +211,24 @@ TEST_F(ImageTest, FailuresReleaseInOrder)
     const std::string stem(200, 's');
     const std::string cut = "F L failed, acFilePath = " + (PIC + stem).substr(0, 126) + "\n";
     EXPECT_EQ(printed([&] { EXPECT_EQ(load(stem, {0, 0, 9, 9}), -1); }), cut);
-    EXPECT_EQ(image, nullptr);
+    EXPECT_EQ(surface, nullptr);
 }
 
-TEST_F(ImageTest, PlainLoadTakesAWholePathAndPrintsNothing)
+TEST_F(WidgetTest, PlainLoadTakesAWholePathAndPrintsNothing)
 {
     std::string path = "/somewhere/else.png";
-    ASSERT_EQ(OSD_COMM_GetImgSurface(path.data(), &image), 0);
+    ASSERT_EQ(OSD_COMM_GetImgSurface(path.data(), &surface), 0);
     EXPECT_THAT(calls().lines, ElementsAre("load /somewhere/else.png"));
     failCall("IMG_Load");
-    SDL_Surface* const before = image;
-    EXPECT_EQ(printed([&] { EXPECT_EQ(OSD_COMM_GetImgSurface(path.data(), &image), -1); }), "");
-    EXPECT_EQ(image, before);
-    SDL_FreeSurface(image);
+    SDL_Surface* const before = surface;
+    EXPECT_EQ(printed([&] { EXPECT_EQ(OSD_COMM_GetImgSurface(path.data(), &surface), -1); }), "");
+    EXPECT_EQ(surface, before);
 }
 
-class TextTest : public MenuTest {};
-
-TEST_F(TextTest, ColourFollowsFunctionAndSelection)
+TEST_F(WidgetTest, ColourFollowsFunctionAndSelection)
 {
-    start();
     TTF_Font* font = gstMenuMgr.pstFont;
     char text[] = "Gain";
-    SDL_Surface* surface = nullptr;
     for (const auto& function :
          {OSD_COMM_GetTxtSurface, OSD_COMM_GetTxtSurfaceWithCursor, OSD_COMM_GetTolvaneTxtSurface}) {
         for (OSD_BOOL selected : {0, 1, 2}) { // only 1 is selected
@@ -257,7 +246,7 @@ TEST_F(TextTest, ColourFollowsFunctionAndSelection)
     }
 }
 
-TEST_F(TextTest, OpenersDegradeToTheRegularFont)
+TEST_F(WidgetTest, OpenersDegradeToTheRegularFont)
 {
     const std::tuple<TTF_Font* (*)(), std::set<std::string>, std::string> cases[] = {
         {OSD_COMM_OpenTtfFont, {}, "plain"},

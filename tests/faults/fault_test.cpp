@@ -122,7 +122,7 @@ TEST_F(FaultTest, RendererReportsWhatItCantDraw)
     tagITEM_NODE_S item = {};
     setField(item.acItemName, "Gain");
     const size_t surfaces = calls().surfaces.size();
-    for (const auto& [draw, size] : {std::pair(OSD_MENU_RenderVerticalItem, 2), // the call that sets the label's size
+    for (const auto& [draw, size] : {std::pair(&OSD_MENU_RenderVerticalItem, 2), // the call that sets the label's size
                                      {OSD_MENU_RenderVerticalTolvaneItem, 2},
                                      {OSD_MENU_RenderVerticalKETHItem, 1},
                                      {OSD_MENU_RenderTitleKETHItem, 1},
@@ -174,7 +174,7 @@ TEST_F(FaultTest, PageThatCantBeReadIsReported)
         tagITEM_NODE_S item = {};
         item.enCtx = NAME_VAL;
         item.enAttr = attr;
-        (void)printed([&] { EXPECT_EQ(osdXmlFillItemParam(name, button.RootElement(), &item), -1) << text; });
+        (void)printed([&] { EXPECT_EQ(osdXmlFillItemParam(name, button.RootElement(), &item), -1); });
     }
 }
 

@@ -7,7 +7,7 @@ using CursorTest = NavTest;
 TEST_F(CursorTest, VerticalList)
 {
     setPages(R"(
-        tolvane Layout="vertical_tolvane_align": <I ItemIndex="Zoom" ValType="NUMERICAL"/> <I ItemIndex="Gain"/>
+        tolvane Layout="vertical_tolvane_align": <I ItemIndex="Ip" Attr="EDITABLE"/> <I ItemIndex="Gain"/>
         one: <I ItemIndex="Wait" Attr="KEY_WITH_MSG"/>
         waits: <I ItemIndex="Mode" Attr="MSG_WITH_SUBITEM"> <O ModeIndex="A"> <I ItemIndex="Gain"/> </O>
             <O ModeIndex="B"> <I ItemIndex="Zoom" ValType="NUMERICAL"/> </O> </I>
@@ -27,6 +27,7 @@ TEST_F(CursorTest, VerticalList)
         then left           | sets More to option -1 | > More option -1
         then right          | passes More            | > More
         tolvane
+        home up    | > Ip [2]92.168.001.005, was 192.168.1.5
         down right | sets Gain to Low | > Gain Low
         one
         right down | > Wait B
@@ -116,6 +117,7 @@ TEST_F(CursorTest, PagedList)
         two Layout="vertical_align_keth" CurPagesNum="2" PrevPage="first": <I ItemIndex="SN" Attr="STATUS"/>
             <I ItemIndex="Zoom" ValType="NUMERICAL"/>
         deep Layout="vertical_align_keth": <I ItemIndex="More" Attr="SUBPAGE" SubPage="two"/>
+        edits Layout="vertical_align_keth": <I ItemIndex="Ip" Attr="EDITABLE"/>
     )");
     check(R"(
         list
@@ -146,6 +148,8 @@ TEST_F(CursorTest, PagedList)
         left         | sets More to option -1 | > More option -1
         then right   | reads two              | deep at More none, was option -1 / two: > SN; Zoom 9 of 0..10
         then up down | passes More            | > More
+        edits
+        home up | > Ip [2]92.168.001.005, was 192.168.1.5
     )");
     openAll("one"); // no direction
     tagPAGE_NODE_S& page = gstPageMgr.astPage[0];
