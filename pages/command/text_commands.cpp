@@ -15,7 +15,7 @@ struct TextOptions {
     std::string language;
     std::string file; ///< or folder that is written
     std::string fonts;
-    bool replace = false;
+    bool update = false;
 };
 
 void tell_steps(const ResourceFolder& folder, const std::string& language)
@@ -28,7 +28,7 @@ void tell_steps(const ResourceFolder& folder, const std::string& language)
 int run_export(const TextOptions& options)
 {
     ResourceFolder folder = read_resource_folder(options.folder, options.fonts);
-    const Exported exported = export_texts(folder, options.language, options.file, options.replace);
+    const Exported exported = export_texts(folder, options.language, options.file, options.update);
     std::cout << options.file << ": " << exported.texts << " texts, " << exported.translated << " translated\n";
     tell_steps(folder, options.language);
     return all_well;
@@ -65,7 +65,7 @@ void add_command(CLI::App& app, int& status, const char* name, const char* words
     command->add_option("FILE", options->file, "PO file")->required();
     command->add_option("--fonts", options->fonts, "folder with font.ttf, bold_font.ttf and tcfont.ttf");
     if (run == run_export) {
-        command->add_flag("--replace", options->replace, "write over an older file");
+        command->add_flag("--update", options->update, "the file is there: keep its translations");
     }
     command->callback([options, run, &status] { status = run(*options); });
 }

@@ -53,15 +53,18 @@ std::string box(const Atlas& atlas, const Spot& place, const Reach& reach, const
            escaped(keys) + "</span><small>" + presses(reach.keys.size()) + "</small></p></div>\n";
 }
 
-std::string line(const Spot& from, const Spot& to, const std::string& style, const std::string& words)
+/// From the right side of a box to the left one of another: a shared trunk with branches, or a curve.
+std::string line(const Spot& from, const Spot& to, bool branch, const std::string& words)
 {
     const int start = from.x + box_width;
-    const int middle = (start + to.x) / 2;
+    const std::string middle = std::to_string((start + to.x) / 2);
     const std::string y1 = std::to_string(from.y + box_height / 2);
     const std::string y2 = std::to_string(to.y + box_height / 2);
-    return "<path class=\"" + style + "\" d=\"M" + std::to_string(start) + " " + y1 + "C" + std::to_string(middle) +
-           " " + y1 + " " + std::to_string(middle) + " " + y2 + " " + std::to_string(to.x) + " " + y2 + "\"><title>" +
-           escaped(words) + "</title></path>\n";
+    const std::string end = std::to_string(to.x);
+    const std::string turns = branch ? "H" + middle + "V" + y2 + "H" + end
+                                     : "C" + middle + " " + y1 + " " + middle + " " + y2 + " " + end + " " + y2;
+    return std::string("<path class=\"") + (branch ? "way" : "other") + "\" d=\"M" + std::to_string(start) + " " + y1 +
+           turns + "\"><title>" + escaped(words) + "</title></path>\n";
 }
 
 std::string drawing(const Atlas& atlas, const Tree& tree)
@@ -73,8 +76,7 @@ std::string drawing(const Atlas& atlas, const Tree& tree)
             const auto to = tree.places.find(way.to);
             const bool both = from != tree.places.end() && to != tree.places.end();
             if (both && tree.is_branch(way) == on_tree) {
-                lines += line(from->second, to->second, on_tree ? "way" : "other",
-                              way.from + " › " + way.to + ": " + words_of(way.keys));
+                lines += line(from->second, to->second, on_tree, way.from + " › " + way.to + ": " + words_of(way.keys));
             }
         }
     }

@@ -114,6 +114,9 @@ void insert(po_message_iterator_t iterator, const PoEntry& entry)
     po_message_set_msgid(message, entry.english.c_str());
     po_message_set_msgstr(message, entry.translation.c_str());
     po_message_set_extracted_comments(message, entry.comment.c_str());
+    po_message_set_comments(message, entry.remark.c_str());
+    po_message_set_fuzzy(message, entry.fuzzy ? 1 : 0);
+    po_message_set_prev_msgid(message, entry.old_english.empty() ? nullptr : entry.old_english.c_str());
     for (const Place& use : entry.uses) {
         po_message_add_filepos(message, use.file.c_str(), static_cast<std::size_t>(use.line));
     }
@@ -151,6 +154,8 @@ PoEntry read_entry(po_message_t message, const Place& place)
     entry.key = letters(po_message_msgctxt(message));
     entry.english = letters(po_message_msgid(message));
     entry.translation = letters(po_message_msgstr(message));
+    entry.remark = letters(po_message_comments(message));
+    entry.old_english = letters(po_message_prev_msgid(message));
     entry.fuzzy = po_message_is_fuzzy(message) != 0;
     entry.place = place;
     return entry;

@@ -15,6 +15,8 @@ struct PoEntry {
     std::string translation; ///< empty where there is none yet
     std::string comment;     ///< for the translator, lines that end
     std::vector<Place> uses; ///< where the text stands in the pages
+    std::string remark;      ///< of a translator, lines that end
+    std::string old_english; ///< for which a fuzzy translation was made; may be empty
     bool fuzzy = false;      ///< the translation may be wrong
     Place place;             ///< in the PO file, when it was read
 };

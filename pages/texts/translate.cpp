@@ -70,6 +70,50 @@ PoEntry entry_for(const SourceText& text, const std::map<std::string, std::strin
     return entry;
 }
 
+std::string words_of_language(const PoFile& content, const std::string& language)
+{
+    return "the file is for " + (content.language.empty() ? "no language" : content.language) + ", expected " +
+           language + " as X-Menu-Language in its header";
+}
+
+/// The entries of a file that is there already, by key.
+std::map<std::string, PoEntry> older_entries(const std::filesystem::path& file, const std::string& language,
+                                             bool update)
+{
+    std::map<std::string, PoEntry> entries;
+    if (!std::filesystem::exists(file)) {
+        return entries;
+    }
+    if (!update) {
+        throw BadInput(Place{file.string()},
+                       "is there already and may hold translations, expected another name or --update");
+    }
+    std::vector<BadInput> mistakes;
+    const PoFile older = read_po(file, mistakes);
+    if (older.language != language) {
+        mistakes.emplace_back(Place{file.string()}, words_of_language(older, language));
+    }
+    if (!mistakes.empty()) {
+        throw BadInput(mistakes.front());
+    }
+    for (const PoEntry& entry : older.entries) {
+        entries[entry.key] = entry;
+    }
+    return entries;
+}
+
+void take_over(const PoEntry& old, PoEntry& entry)
+{
+    entry.remark = old.remark;
+    if (old.translation.empty()) {
+        return;
+    }
+    const bool changed = old.english != entry.english;
+    entry.translation = old.translation;
+    entry.fuzzy = old.fuzzy || changed;
+    entry.old_english = changed ? old.english : old.old_english;
+}
+
 /// Reads the translations of a PO file and refuses what doesn't fit.
 class Import {
 public:
@@ -83,8 +127,8 @@ public:
 
     void take(const PoFile& content)
     {
-        if (!content.language.empty() && content.language != language_) {
-            refuse({file_}, "the file is for " + content.language + ", expected " + language_);
+        if (content.language != language_) {
+            refuse({file_}, words_of_language(content, language_));
         }
         for (const PoEntry& entry : content.entries) {
             const std::string problem = problem_with(entry);
@@ -97,7 +141,8 @@ public:
         }
         for (const SourceText& text : source_) {
             if (places_.count(text.key) == 0) {
-                refuse({file_}, "'" + text.key + "' is missing (" + text.english + "), expected an entry: export anew");
+                refuse({file_},
+                       "'" + text.key + "' is missing (" + text.english + "), expected an entry: export with --update");
             }
         }
     }
@@ -149,7 +194,7 @@ private:
         }
         if (english->second != entry.english) {
             return "translates '" + entry.english + "', but English.json has '" + english->second +
-                   "' now: export anew";
+                   "' now: export with --update";
         }
         if (entry.fuzzy) {
             return "is marked fuzzy, expected a look at the translation, and no mark";
@@ -175,13 +220,10 @@ private:
 } // namespace
 
 Exported export_texts(ResourceFolder& folder, const std::string& language, const std::filesystem::path& file,
-                      bool replace)
+                      bool update)
 {
     check_name(language);
-    if (!replace && std::filesystem::exists(file)) {
-        throw BadInput(Place{file.string()},
-                       "is there already and may hold translations, expected another name or --replace");
-    }
+    const auto older = older_entries(file, language, update);
     const auto translations = texts_of(folder, language);
     const auto source = source_texts(folder);
     const auto rooms = narrowest_rooms(folder, language, texts_of(folder, source_language));
@@ -192,8 +234,13 @@ Exported export_texts(ResourceFolder& folder, const std::string& language, const
         const auto room = rooms.find(text.key);
         content.entries.push_back(
             entry_for(text, translations, uses[text.key], room == rooms.end() ? nullptr : &room->second));
+        PoEntry& entry = content.entries.back();
+        const auto old = older.find(text.key);
+        if (old != older.end()) {
+            take_over(old->second, entry);
+        }
         ++exported.texts;
-        exported.translated += content.entries.back().translation.empty() ? 0 : 1;
+        exported.translated += entry.translation.empty() || entry.fuzzy ? 0 : 1;
     }
     write_po(content, file);
     return exported;

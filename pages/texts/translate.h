@@ -11,13 +11,14 @@ namespace pages {
 
 struct Exported {
     std::size_t texts;
-    std::size_t translated;
+    std::size_t translated; ///< fuzzy ones don't count
 };
 
-/// Writes the texts of a language, with those that it lacks as yet. An older file is replaced on demand alone: it may
-/// hold work. Throws BadInput. The folder is as before.
+/// Writes the texts of a language, with those that it lacks as yet. A file that is there already may hold work: it is an
+/// error, or updated on demand. Its translations stay then, fuzzy where the English text has changed. The folder is as
+/// before. Throws BadInput.
 Exported export_texts(ResourceFolder& folder, const std::string& language, const std::filesystem::path& file,
-                      bool replace);
+                      bool update);
 
 struct Imported {
     std::vector<BadInput> refusals; ///< all that doesn't fit; nothing was written where there is one

@@ -47,15 +47,16 @@ protected:
     ResourceFolder folder() const { return read_resource_folder(root); }
     fs::path file_of(const std::string& language) const { return root / "lang" / (language + ".json"); }
 
-    Exported write(const std::string& language, bool replace) const
+    Exported write(const std::string& language, bool update) const
     {
         ResourceFolder from = folder();
-        return export_texts(from, language, po, replace);
+        return export_texts(from, language, po, update);
     }
 
     std::string exported(const std::string& language) const
     {
-        (void)write(language, true);
+        fs::remove(po);
+        (void)write(language, false);
         return read_text_file(po);
     }
 
@@ -132,6 +133,25 @@ TEST_F(TextsTest, OfANewLanguageAreEmptyAndTheAuthorHearsWhatToDo)
     EXPECT_THROW((void)write("../Spanish", true), BadInput);
 }
 
+TEST_F(TextsTest, ThatWaitInAPoFileOutliveAnUpdate)
+{
+    std::string waiting = exported("French");
+    replace(waiting, "#. title of page lens", "# Short, please.\n#. title of page lens");
+    replace(waiting, "\"Objectif\"", "\"Optique\"");
+    write_text_file(po, waiting);
+    (void)write("French", true);
+    EXPECT_EQ(read_text_file(po), waiting);
+
+    std::string english = read_text_file(file_of("English"));
+    replace(english, "\"Lens\"", "\"Optics\"");
+    write_text_file(file_of("English"), english);
+    const Exported updated = write("French", true);
+    EXPECT_EQ(updated.translated, updated.texts - 1);
+    const char* fuzzy = "#, fuzzy\n#| msgid \"Lens\"\nmsgctxt \"lens\"\nmsgid \"Optics\"\nmsgstr \"Optique\"\n";
+    EXPECT_THAT(read_text_file(po), HasSubstr(fuzzy));
+    EXPECT_THROW((void)write("German", true), BadInput) << "these are French";
+}
+
 TEST_F(TextsTest, ThatDontFitAreRefused)
 {
     const struct {
@@ -151,9 +171,9 @@ TEST_F(TextsTest, ThatDontFitAreRefused)
         {"msgctxt \"lens\"", "#, fuzzy\nmsgctxt \"lens\"",
          "po:42: 'lens' is marked fuzzy, expected a look at the translation, and no mark"},
         {"msgid \"Lens\"", "msgid \"Glass\"",
-         "po:41: 'lens' translates 'Glass', but English.json has 'Lens' now: export anew"},
+         "po:41: 'lens' translates 'Glass', but English.json has 'Lens' now: export with --update"},
         {"msgctxt \"lens\"\nmsgid \"Lens\"\nmsgstr \"Objectif\"", "",
-         "po: 'lens' is missing (Lens), expected an entry: export anew"},
+         "po: 'lens' is missing (Lens), expected an entry: export with --update"},
         {"\"Objectif\"\n", "\"Objectif\"\n\nmsgctxt \"lenz\"\nmsgid \"Lens\"\nmsgstr \"Objectif\"\n",
          "po:45: 'lenz' is no text of English.json, expected msgctxt with the key of one"},
         {"\"Objectif\"\n", "\"Objectif\"\n\nmsgctxt \"lens\"\nmsgid \"Lens\"\nmsgstr \"Objectif\"\n",
