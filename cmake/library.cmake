@@ -62,7 +62,9 @@ target_link_libraries(osdmenu_objects
   PUBLIC PkgConfig::SDL2 PkgConfig::SDL2_TTF PkgConfig::SDL2_IMAGE PkgConfig::SDL2_GFX PkgConfig::TINYXML2
          Threads::Threads
   PRIVATE osd_flags)
-osd_unite_folders(osdmenu_objects)
+if(OSD_UNITE_LIBRARY) # for clang-tidy; the product is what stands in its files
+  osd_unite_folders(osdmenu_objects)
+endif()
 target_compile_definitions(osdmenu_objects PRIVATE OSD_RESOURCE_DIR="${OSD_RESOURCE_DIR}")
 # Nobody replaces single functions of the library, so calls within a file need no detour. The camera's flash is small, and
 # a redraw's time is SDL's.

@@ -97,7 +97,8 @@ private:
     {
         press(menu_, keys);
         const std::vector<std::string> stack = menu_.open_pages();
-        if (stack.empty() || !book_.add_page(stack, keys)) {
+        // A page without a file opens too, without a name; the way to it is told as one that ends.
+        if (stack.empty() || stack.back().empty() || !book_.add_page(stack, keys)) {
             return;
         }
         keys_ = keys;

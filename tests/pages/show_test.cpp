@@ -8,6 +8,7 @@
 #include "pages/data/text_file.h"
 #include "pages/map/map.h"
 #include "pages/map/walk.h"
+#include "pages/preview/canvas.h"
 #include "pages/preview/preview.h"
 #include "pages/preview/sheet.h"
 
@@ -24,7 +25,11 @@ using testing::UnorderedElementsAre;
 
 class ShowTest : public testing::Test {
 protected:
-    ShowTest() { fs::copy(OSD_SOURCE_DIR "/tests/pages/good", root / "good", fs::copy_options::recursive); }
+    ShowTest()
+    {
+        fs::create_directory(root);
+        fs::copy(OSD_SOURCE_DIR "/tests/pages/good", root / "good", fs::copy_options::recursive);
+    }
     ~ShowTest() override { fs::remove_all(root); }
 
     ResourceFolder folder() const { return read_resource_folder(root / "good", OSD_RESOURCE_DIR "/ttf"); }
