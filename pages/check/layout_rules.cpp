@@ -146,13 +146,14 @@ void tell_twins(const Element& parent, const std::map<std::string, int>& above, 
     std::map<std::string, int> known = above; // the line of each key
     for (const auto& item : parent.children) {
         const Attribute* key = item->find(osdAttrName(ATTR_ITEM_INDEX));
-        const auto twin = key == nullptr ? known.end() : known.find(key->value);
-        if (twin != known.end()) {
+        if (key == nullptr) {
+            continue;
+        }
+        const auto [twin, is_new] = known.insert({key->value, key->place.line});
+        if (!is_new) {
             complain(key->place,
                      "item '" + key->value + "' stands on line " + std::to_string(twin->second) + " already",
                      "one of the two, as both show");
-        } else if (key != nullptr) {
-            known[key->value] = key->place.line;
         }
     }
     for (const auto& item : parent.children) {

@@ -56,21 +56,21 @@ std::optional<tagPAGE_LAYOUT_E> layout_of(const Element& element)
 
 bool is_question(const std::optional<tagPAGE_LAYOUT_E>& layout)
 {
-    return layout == PAGE_LAYOUT_HORIZONTAL || layout == PAGE_LAYOUT_HORIZONTAL_KETH;
+    return is_one_of(layout, {PAGE_LAYOUT_HORIZONTAL, PAGE_LAYOUT_HORIZONTAL_KETH});
 }
 
-bool has_options(const std::optional<tagITEM_ATTR_E>& kind) { return kind == SUBITEM || kind == MSG_WITH_SUBITEM; }
+bool has_options(const std::optional<tagITEM_ATTR_E>& kind) { return is_one_of(kind, {SUBITEM, MSG_WITH_SUBITEM}); }
 
-bool asks(const std::optional<tagITEM_ATTR_E>& kind) { return kind == CONFIRM_POP || kind == CONFIRM_POP_BTN; }
+bool asks(const std::optional<tagITEM_ATTR_E>& kind) { return is_one_of(kind, {CONFIRM_POP, CONFIRM_POP_BTN}); }
 
 bool has_value(const std::optional<tagITEM_CTX_E>& context)
 {
-    return context == NAME_VAL || context == NAME_BAR_VAL || context == NAME_IP_VAL;
+    return is_one_of(context, {NAME_VAL, NAME_BAR_VAL, NAME_IP_VAL});
 }
 
 bool has_picture(const std::optional<tagITEM_CTX_E>& context)
 {
-    return context == ICON || context == ICON_TXT || context == ICON_TXT_KETH;
+    return is_one_of(context, {ICON, ICON_TXT, ICON_TXT_KETH});
 }
 
 bool is_misplaced(const Element& element)

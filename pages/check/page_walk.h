@@ -1,6 +1,8 @@
 // What the rules ask of pages and of the elements in them.
 #pragma once
 
+#include <algorithm>
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <vector>
@@ -21,6 +23,13 @@ std::optional<tagITEM_ATTR_E> kind_of(const Element& item);
 std::optional<tagITEM_CTX_E> context_of(const Element& item);
 /// The layout of the page on which an element stands.
 std::optional<tagPAGE_LAYOUT_E> layout_of(const Element& element);
+
+/// Whether there is a value, one of these.
+template <typename Value>
+bool is_one_of(const std::optional<Value>& value, std::initializer_list<Value> wanted)
+{
+    return value && std::find(wanted.begin(), wanted.end(), *value) != wanted.end();
+}
 
 bool is_question(const std::optional<tagPAGE_LAYOUT_E>& layout);
 bool has_options(const std::optional<tagITEM_ATTR_E>& kind);

@@ -59,7 +59,7 @@ std::optional<Wanted> wanted_by(const ResourceFolder& folder, const Element& ite
     if (has_options(kind)) {
         return Wanted{id, SettingKind::Option};
     }
-    if (kind == COMMON || kind == KEY_WITH_MSG) {
+    if (is_one_of(kind, {COMMON, KEY_WITH_MSG})) {
         return Wanted{id, !is_numerical(item) ? SettingKind::Option
                           : led               ? SettingKind::HexColor
                                               : SettingKind::Integer};

@@ -65,7 +65,7 @@ private:
 
     std::string remedy(XML_Error error) const
     {
-        if (error == XML_ERROR_TAG_MISMATCH) {
+        if (open_ != nullptr && (error == XML_ERROR_TAG_MISMATCH || error == XML_ERROR_NO_ELEMENTS)) {
             return ", expected </" + open_->name + ">";
         }
         for (const Remedy& row : remedies) {

@@ -70,6 +70,15 @@ std::string code_of(const std::string& language)
 /// The library behind gives its handlers no argument.
 std::vector<BadInput>* heard = nullptr;
 
+/// What the library complains of goes into the list, while this lives.
+class Hearing {
+public:
+    explicit Hearing(std::vector<BadInput>& mistakes) { heard = &mistakes; }
+    ~Hearing() { heard = nullptr; }
+    Hearing(const Hearing&) = delete;
+    Hearing& operator=(const Hearing&) = delete;
+};
+
 Place place_of(const char* file, std::size_t line, std::size_t column)
 {
     constexpr auto unknown = static_cast<std::size_t>(-1);
@@ -197,7 +206,7 @@ void write_po(const PoFile& content, const std::filesystem::path& path)
         insert(iterator.get(), entry);
     }
     std::vector<BadInput> mistakes;
-    heard = &mistakes;
+    const Hearing hearing(mistakes);
     (void)po_file_write(file.get(), path.c_str(), &handler);
     if (!mistakes.empty()) {
         throw BadInput(mistakes.front());
@@ -207,7 +216,7 @@ void write_po(const PoFile& content, const std::filesystem::path& path)
 PoFile read_po(const std::filesystem::path& path, std::vector<BadInput>& mistakes)
 {
     const std::vector<int> lines = entry_lines(read_text_file(path));
-    heard = &mistakes;
+    const Hearing hearing(mistakes);
     const File file(po_file_read(path.c_str(), &handler));
     if (file == nullptr) {
         throw BadInput(Place{path.string()}, "can't be read");
