@@ -104,6 +104,18 @@ private:
     std::vector<BadInput> mistakes_; ///< with the paths of files as they were opened
 };
 
+fs::path nearest_fonts(const fs::path& root)
+{
+    std::error_code ignored; // then there is none
+    const fs::path installed = fs::read_symlink("/proc/self/exe", ignored).parent_path() / OSD_PAGES_TO_FONTS;
+    for (const fs::path& folder : {root / "ttf", installed}) {
+        if (fs::is_directory(folder, ignored)) {
+            return folder;
+        }
+    }
+    return fs::path(OSD_RESOURCE_DIR) / "ttf";
+}
+
 } // namespace
 
 bool is_resource_folder(const fs::path& root)
@@ -120,9 +132,7 @@ ResourceFolder read_resource_folder(const fs::path& root, const fs::path& fonts)
     }
     ResourceFolder folder;
     folder.root = root.lexically_normal();
-    std::error_code ignored;
-    const fs::path own = root / "ttf";
-    folder.fonts = !fonts.empty() ? fonts : fs::is_directory(own, ignored) ? own : fs::path(OSD_RESOURCE_DIR) / "ttf";
+    folder.fonts = fonts.empty() ? nearest_fonts(root) : fonts;
     Reader(folder).read();
     return folder;
 }

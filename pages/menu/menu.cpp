@@ -113,12 +113,8 @@ void Menu::look(const View& view)
     }
     tagOSD_MENU_CFG_S config{{0.0F, 0.0F, 0.5F, 1.0F}, 2, view.uhd ? 1 : 0, view.style};
     if (OSD_MENU_InitSdkRes(&config, Camera::apply, Camera::parent_of_zone) != 0) {
-        std::string words =
-            "the menu doesn't start; are font.ttf and bold_font.ttf in " + camera().folder().fonts.string() + "?";
-        for (const std::string& line : take_lines()) {
-            words += " " + line;
-        }
-        throw std::runtime_error(words);
+        throw BadInput("the menu doesn't start, expected font.ttf and bold_font.ttf in " +
+                       camera().folder().fonts.string() + ", or another folder with --fonts");
     }
     Osd_GetVersionCallback(Camera::answer, nullptr);
     camera().set_drawing(true);

@@ -47,7 +47,7 @@ enum class Key { Menu, Advanced, Up, Down, Left, Right, Home, Return };
 /// defaults; what the menu hands to its host is stored, and nothing else happens.
 class Menu {
 public:
-    /// The folder must outlive the menu. Throws std::runtime_error when the menu doesn't start: a font is missing.
+    /// The folder must outlive the menu. Throws BadInput when a font is missing.
     Menu(const ResourceFolder& folder, const View& view);
     /// For reading pages alone, in a language: needs no font, can't draw.
     Menu(const ResourceFolder& folder, const std::string& language);

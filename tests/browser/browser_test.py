@@ -187,7 +187,7 @@ class PageTest(unittest.TestCase):
         self.wait_focus("image", "Saturation")
         last = camera.snapshot()
         file.write_text(good.replace('"Contrast"', '"Kontrast"').replace("<Item", "letters <Item", 1), "utf-8")
-        eventually(lambda: text("#problems-count") == "2 mistakes, 1 warning in 1 file", "the findings are counted")
+        eventually(lambda: text("#problems-count") == "2 errors, 1 warning in 1 file", "the findings are counted")
         found = text("#problems-list").split("\n")
         self.assertEqual(found[0], "pages/image_page.xml")
         self.assertEqual(len([line for line in found if re.fullmatch(r"\d+:\d+", line)]), 3, found)

@@ -38,3 +38,11 @@ for host in "$work/host-cmake/host" "$work/host-pkgconfig"; do
     LD_LIBRARY_PATH=$lib "$host" "$expected" || fail "$host with the installed library"
     LD_LIBRARY_PATH=$with_resources "$host" open || fail "$host with the library in $2"
 done
+
+# The page tools of the second build find their fonts wherever they are put.
+cmake --install "$with_resources" --prefix "$work/first" >/dev/null
+mv "$work/first" "$work/tools"
+[ -s "$work/tools/share/osdmenu/ttf/font.ttf" ] || fail "the page tools come without fonts"
+env -i "$work/tools/bin/osdmenu-pages" check "$here/../pages/good" || fail "the installed page tools"
+rm "$work/tools/share/osdmenu/ttf/font.ttf"
+! env -i "$work/tools/bin/osdmenu-pages" check "$here/../pages/good" >/dev/null 2>&1 || fail "a font's absence isn't told"

@@ -2,20 +2,19 @@
 
 import { byId, make } from "./dom.js";
 
-const words = { error: "mistake", warning: "warning" };
 let shown = "[]";
 
 const count = (number, word) => `${number} ${word}${number === 1 ? "" : "s"}`;
 
 function titleOf(problems, files) {
-  const parts = Object.entries(words).map(([severity, word]) =>
-    [problems.filter(problem => problem.severity === severity).length, word]);
+  const parts = ["error", "warning"].map(word => [problems.filter(({ severity }) => severity === word).length, word]);
   return `${parts.filter(([number]) => number).map(part => count(...part)).join(", ")} in ${count(files, "file")}`;
 }
 
 function rowOf({ line, column, severity, rule, reason }) {
   const place = make("b", {}, line ? [line, column].filter(Boolean).join(":") : "");
-  return make("li", { className: severity, title: rule }, place, make("em", {}, words[severity]), make("span", {}, reason));
+  return make("li", { className: severity }, place, make("em", {}, severity),
+    make("span", {}, `${reason} `, make("small", {}, `[${rule}]`))); // the name by which it can be allowed
 }
 
 /** Shows the findings as they are told, all of them; nothing at all when there are none. */
