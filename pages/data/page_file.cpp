@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <expat.h>
+#include <optional>
 #include <system_error>
 #include <utility>
 
@@ -35,13 +36,19 @@ public:
         XML_SetElementHandler(parser_.get(), start, end);
         XML_SetCharacterDataHandler(parser_.get(), text);
         XML_SetCommentHandler(parser_.get(), comment);
+        XML_SetStartDoctypeDeclHandler(parser_.get(), doctype);
     }
 
     /// Throws BadInput for a text that is not well formed.
     void build()
     {
         const std::string& words = page_.text;
-        if (XML_Parse(parser_.get(), words.data(), static_cast<int>(words.size()), XML_TRUE) != XML_STATUS_OK) {
+        const bool whole =
+            XML_Parse(parser_.get(), words.data(), static_cast<int>(words.size()), XML_TRUE) == XML_STATUS_OK;
+        if (declares_) {
+            throw BadInput(*declares_, "the menu doesn't read what a DOCTYPE declares, expected no [ ... ] in it");
+        }
+        if (!whole) {
             const std::string open =
                 open_ == nullptr ? "" : " (<" + open_->name + "> is open since " + place_words() + ")";
             const XML_Error error = XML_GetErrorCode(parser_.get());
@@ -61,6 +68,14 @@ private:
     {
         Builder& builder = of(data);
         builder.page_.comments.push_back({words, builder.here()});
+    }
+    static void doctype(void* data, const char* /*name*/, const char* /*system*/, const char* /*external*/, int declares)
+    {
+        Builder& builder = of(data);
+        if (declares != 0) {
+            builder.declares_ = builder.here();
+            (void)XML_StopParser(builder.parser_.get(), XML_FALSE); // what can be stopped is: it is being read
+        }
     }
 
     std::string remedy(XML_Error error) const
@@ -141,6 +156,7 @@ private:
     PageFile& page_;
     std::unique_ptr<XML_ParserStruct, decltype(&XML_ParserFree)> parser_;
     Element* open_ = nullptr;
+    std::optional<Place> declares_; ///< of a DOCTYPE with declarations
 };
 
 } // namespace

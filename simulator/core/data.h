@@ -32,6 +32,6 @@ using pages::SettingId;
 using pages::SettingKind;
 using pages::text_of;
 using pages::to_string;
-using pages::without_zeros;
+using pages::on_one_line;
 
 } // namespace sim
