@@ -127,6 +127,14 @@ void find_unknown(const ResourceFolder& folder, const Complain& complain)
     });
 }
 
+/// What stands there in place of the only attribute that an element can have: another one, with the same value in mind.
+const Attribute* stand_in(const Element& element)
+{
+    const std::vector<std::string> names = names_on(role_of(element));
+    const bool other = names.size() == 1 && element.attributes.size() == 1 && element.find(names.front()) == nullptr;
+    return other && !is_unknown(element.attributes.front().name) ? &element.attributes.front() : nullptr;
+}
+
 void find_missing(const ResourceFolder& folder, const Complain& complain)
 {
     const auto is_misspelt = [](const Element& element, const std::string& name) {
@@ -138,7 +146,10 @@ void find_missing(const ResourceFolder& folder, const Complain& complain)
             const std::string name = osdAttrName(one.id);
             if (one.on == role_of(element) && element.find(name) == nullptr && one.holds(element) &&
                 !is_misspelt(element, name)) {
-                complain(element.place, name + " is missing", name + "=\"...\", which " + one.words + " needs");
+                const Attribute* other = stand_in(element);
+                complain(element.place, name + " is missing",
+                         name + "=\"...\", which " + one.words + " needs" +
+                             (other == nullptr ? "" : ", in place of " + other->name));
             }
         }
     });
@@ -159,7 +170,7 @@ void find_idle(const ResourceFolder& folder, const Complain& complain)
         for (const Attribute& attribute : element.attributes) {
             const On role = role_of(element);
             const AttributeUse* use = find_use(role, attribute.name);
-            if (use == nullptr && !is_unknown(attribute.name)) {
+            if (use == nullptr && !is_unknown(attribute.name) && stand_in(element) == nullptr) {
                 complain(attribute.place, attribute.name + " does nothing in <" + element.name + ">",
                          "one of " + joined(names_on(role)));
             } else if (use != nullptr && !is_read(element, *use)) {

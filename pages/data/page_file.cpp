@@ -6,6 +6,8 @@
 #include <system_error>
 #include <utility>
 
+#include "pages/data/text_file.h"
+
 namespace pages {
 namespace {
 
@@ -190,11 +192,7 @@ std::filesystem::path page_folder(const std::filesystem::path& resources)
 bool is_page_file(const std::filesystem::path& path)
 {
     const std::string name = path.filename().string();
-    if (name.empty()) {
-        return false;
-    }
-    const bool of_an_editor = name.front() == '.' || name.front() == '#'; // a copy or a lock
-    return !of_an_editor && name.size() > ending.size() &&
+    return !is_of_editor(path) && name.size() > ending.size() &&
            name.compare(name.size() - ending.size(), ending.size(), ending) == 0;
 }
 

@@ -119,6 +119,9 @@ Picture read_bitmap(const std::filesystem::path& path)
 
 Picture read_picture(const std::filesystem::path& path)
 {
+    if (path.extension() != ".svg" && path.extension() != ".bmp") {
+        throw BadInput(Place{path.string()}, "nobody reads a picture of this kind, expected " + path.stem().string() + ".svg");
+    }
     return path.extension() == ".svg" ? draw_svg(path) : read_bitmap(path);
 }
 

@@ -9,25 +9,27 @@
 namespace pages {
 namespace {
 
-/// The Levenshtein distance; letters that differ in case alone count a quarter.
+bool are_alike(char one, char other)
+{
+    return std::tolower(static_cast<unsigned char>(one)) == std::tolower(static_cast<unsigned char>(other));
+}
+
+/// How many letters are too many, missing, others or swapped; those that differ in case alone count a quarter.
 double distance(const std::string& one, const std::string& other)
 {
-    std::vector<double> row(other.size() + 1);
-    std::iota(row.begin(), row.end(), 0.0);
+    std::vector<std::vector<double>> far(one.size() + 1, std::vector<double>(other.size() + 1));
+    std::iota(far.front().begin(), far.front().end(), 0.0);
     for (std::size_t i = 1; i <= one.size(); ++i) {
-        double diagonal = row[0];
-        row[0] = static_cast<double>(i);
+        far[i][0] = static_cast<double>(i);
         for (std::size_t j = 1; j <= other.size(); ++j) {
-            const char a = one[i - 1];
-            const char b = other[j - 1];
-            const bool alike =
-                std::tolower(static_cast<unsigned char>(a)) == std::tolower(static_cast<unsigned char>(b));
-            const double changed = diagonal + (a == b ? 0.0 : alike ? 0.25 : 1.0);
-            diagonal = row[j];
-            row[j] = std::min({changed, row[j] + 1.0, row[j - 1] + 1.0});
+            const double other_letter = one[i - 1] == other[j - 1] ? 0.0 : are_alike(one[i - 1], other[j - 1]) ? 0.25 : 1.0;
+            far[i][j] = std::min({far[i - 1][j - 1] + other_letter, far[i - 1][j] + 1.0, far[i][j - 1] + 1.0});
+            if (i > 1 && j > 1 && one[i - 1] == other[j - 2] && one[i - 2] == other[j - 1]) {
+                far[i][j] = std::min(far[i][j], far[i - 2][j - 2] + 1.0);
+            }
         }
     }
-    return row.back();
+    return far.back().back();
 }
 
 } // namespace
