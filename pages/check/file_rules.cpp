@@ -237,7 +237,11 @@ void find_bad_pictures(const ResourceFolder& folder, const Complain& complain)
 {
     for (const auto& [name, file] : folder.pictures) {
         try {
-            (void)read_picture(file);
+            const std::vector<std::uint32_t> pixels = read_picture(file).pixels;
+            if (std::none_of(pixels.begin(), pixels.end(), [](std::uint32_t pixel) { return pixel >> 24 != 0; })) {
+                complain({file.lexically_relative(folder.root).string()}, "nothing is seen of the picture",
+                         "shapes with a fill or a stroke in it; pictures in it aren't drawn");
+            }
         } catch (const BadInput& mistake) {
             const Place& place = mistake.place();
             tell(complain, {file.lexically_relative(folder.root).string(), place.line, place.column}, mistake.words());

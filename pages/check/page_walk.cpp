@@ -84,6 +84,13 @@ bool is_blind(const Element& element)
     return role_of(element) == On::Item && kind_of(element) && !has_options(kind_of(element));
 }
 
+bool is_idle_icon(const Element& item)
+{
+    const bool top = item.parent == nullptr || role_of(*item.parent) == On::Page;
+    return top && layout_of(item) == PAGE_LAYOUT_ICON && kind_of(item) && !asks(kind_of(item)) &&
+           !is_one_of(kind_of(item), {SUBPAGE, CONFIRM});
+}
+
 bool is_unusable(const ResourceFolder& folder, const std::string& file, const std::string& subject)
 {
     return std::any_of(folder.mistakes.begin(), folder.mistakes.end(), [&](const BadInput& mistake) {

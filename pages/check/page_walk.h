@@ -42,6 +42,9 @@ bool is_misplaced(const Element& element);
 /// Whether the menu doesn't look at what is below an item: its kind has no options.
 bool is_blind(const Element& element);
 
+/// Whether home does nothing on an item of a page of icons.
+bool is_idle_icon(const Element& item);
+
 /// Calls visit(element) for the element and all below it that the menu reads.
 template <typename Visit>
 void for_each_read(const Element& element, Visit&& visit)

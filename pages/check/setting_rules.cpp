@@ -1,32 +1,20 @@
 // What an item shows has something behind it: a setting of its kind, or a fact of the camera.
-#include "pages/check/rule_tables.h"
+#include "pages/check/setting_rules.h"
 
 #include <algorithm>
+#include <set>
+#include <sstream>
 
 #include "menu/core/led_color.h"
 #include "menu/core/value_status.h"
 #include "osd_types.h"
 #include "pages/check/page_walk.h"
+#include "pages/check/rule_tables.h"
 
 namespace pages {
 namespace {
 
 constexpr const char* settings_file = "settings.json";
-
-const char* name_of(SettingKind kind)
-{
-    switch (kind) {
-    case SettingKind::Option:
-        return "option";
-    case SettingKind::Integer:
-        return "integer";
-    case SettingKind::Text:
-        return "text";
-    case SettingKind::HexColor:
-        return "color";
-    }
-    return "";
-}
 
 std::string index_of(const Element& item) { return item.value(osdAttrName(ATTR_ITEM_INDEX)); }
 
@@ -139,12 +127,12 @@ void find_wrong_kinds(const ResourceFolder& folder, const Complain& complain)
 {
     for_each_item(folder, [&](const Element& item) {
         const auto wanted = wanted_by(folder, item);
-        const auto found = wanted ? folder.definitions.settings.find(wanted->id) : folder.definitions.settings.end();
-        const bool told = context_of(item) == NAME_BAR_VAL && !is_numerical(item); // by the rule for value types
-        if (found != folder.definitions.settings.end() && found->second.kind != wanted->kind && !told &&
+        const Setting* found = setting_of(folder, item);
+        const bool told = (context_of(item) == NAME_BAR_VAL) != is_numerical(item); // by the rule for value types
+        if (found != nullptr && found->kind != wanted->kind && !told &&
             !is_setting_unusable(folder, wanted->id.key)) {
             complain(item.place_of(osdAttrName(ATTR_ITEM_INDEX)),
-                     "setting " + to_string(wanted->id) + " is of kind " + name_of(found->second.kind),
+                     "setting " + to_string(wanted->id) + " is of kind " + name_of(found->kind),
                      std::string("kind ") + name_of(wanted->kind));
         }
     });
@@ -161,6 +149,33 @@ std::optional<std::vector<std::string>> offer_of(const Element& item)
         offered.push_back(option->value(osdAttrName(ATTR_MODE_INDEX)));
     }
     return offered;
+}
+
+bool is_address(const std::string& text)
+{
+    std::istringstream parts(text + ".");
+    int count = 0;
+    for (std::string part; std::getline(parts, part, '.'); ++count) {
+        if (part.empty() || part.size() > 3 || part.find_first_not_of("0123456789") != part.npos ||
+            std::stoi(part) > 255) {
+            return false;
+        }
+    }
+    return count == 4;
+}
+
+void find_no_addresses(const ResourceFolder& folder, const Complain& complain)
+{
+    for_each_item(folder, [&](const Element& item) {
+        const Setting* setting = setting_of(folder, item);
+        if (context_of(item) == NAME_IP_VAL && setting != nullptr && setting->kind == SettingKind::Text &&
+            !is_address(setting->default_text)) {
+            complain(setting->place,
+                     "the default '" + setting->default_text + "' of setting " + to_string(setting->id) +
+                         " is no address",
+                     "one such as 192.168.1.120");
+        }
+    });
 }
 
 /// Takes out words that no language has a text for, each with what it is meant to be: another rule tells of them.
@@ -194,15 +209,14 @@ bool are_the_same(const ResourceFolder& folder, std::vector<std::string> offered
 void find_other_options(const ResourceFolder& folder, const Complain& complain)
 {
     for_each_item(folder, [&](const Element& item) {
-        const auto wanted = wanted_by(folder, item);
-        const auto found = wanted ? folder.definitions.settings.find(wanted->id) : folder.definitions.settings.end();
+        const Setting* setting = setting_of(folder, item);
         const auto offered = offer_of(item);
-        if (!has_options(kind_of(item)) || found == folder.definitions.settings.end() || !offered ||
-            is_setting_unusable(folder, wanted->id.key)) {
+        if (!has_options(kind_of(item)) || setting == nullptr || !offered ||
+            is_setting_unusable(folder, setting->id.key)) {
             return;
         }
-        const std::vector<std::string>& options = found->second.options;
-        if (found->second.kind == SettingKind::Option && !are_the_same(folder, *offered, options)) {
+        const std::vector<std::string>& options = setting->options;
+        if (setting->kind == SettingKind::Option && !are_the_same(folder, *offered, options)) {
             complain(item.place,
                      "item '" + index_of(item) + "' offers " + (offered->empty() ? "nothing" : joined(*offered)),
                      joined(options) + ", as the setting has them");
@@ -300,12 +314,35 @@ void find_unlisted_languages(const ResourceFolder& folder, const Complain& compl
 
 } // namespace
 
+const char* name_of(SettingKind kind)
+{
+    switch (kind) {
+    case SettingKind::Option:
+        return "option";
+    case SettingKind::Integer:
+        return "integer";
+    case SettingKind::Text:
+        return "text";
+    case SettingKind::HexColor:
+        return "color";
+    }
+    return "";
+}
+
+const Setting* setting_of(const ResourceFolder& folder, const Element& item)
+{
+    const auto wanted = wanted_by(folder, item);
+    const auto found = wanted ? folder.definitions.settings.find(wanted->id) : folder.definitions.settings.end();
+    return found == folder.definitions.settings.end() ? nullptr : &found->second;
+}
+
 const std::vector<Rule>& setting_rules()
 {
     static const std::vector<Rule> rules = {
         {"zone", Severity::Error, "A DataZone is one of 'zones' in settings.json.", find_strange_zones, Told::Once},
         {"no-setting", Severity::Error, "An item that shows a value has a setting.", find_missing_settings},
         {"setting-kind", Severity::Error, "The setting is of the kind that the item shows.", find_wrong_kinds},
+        {"address", Severity::Error, "A setting that is shown as an address is one.", find_no_addresses, Told::Once},
         {"options", Severity::Error, "An item with options has those of its setting.", find_other_options},
         {"fact", Severity::Error, "A STATUS item shows something that the camera knows.", find_strange_facts},
         {"no-language", Severity::Error, "Each language of settings.json has its file.", find_missing_languages},

@@ -155,8 +155,8 @@ bool is_missed(const ResourceFolder& folder, const std::vector<Link>& links, con
     });
 }
 
-/// Whether all is known that leads from a page: it can be read, no item is passed over, and each that opens a page says
-/// which one.
+/// Whether all is known that leads from a page: it can be read, no item is passed over, and each that is to open
+/// a page says which one.
 bool is_plain(const PageFile& page)
 {
     bool plain = page.root != nullptr;
@@ -164,7 +164,8 @@ bool is_plain(const PageFile& page)
         for_each_element(*page.root, [&](const Element& element) {
             const bool opens = role_of(element) == On::Item && kind_of(element) == SUBPAGE;
             const bool asking = role_of(element) == On::Item && asks(kind_of(element));
-            plain = plain && !is_misplaced(element) && (!is_blind(element) || element.children.empty()) &&
+            const bool idle = role_of(element) == On::Item && is_idle_icon(element);
+            plain = plain && !idle && !is_misplaced(element) && (!is_blind(element) || element.children.empty()) &&
                     (!opens || element.find(osdAttrName(ATTR_SUB_PAGE)) != nullptr) &&
                     (!asking || element.find(osdAttrName(ATTR_CONFIRM_PAGE)) != nullptr);
         });

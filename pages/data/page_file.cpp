@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "pages/data/text_file.h"
+#include "pages/data/xml_slip.h"
 
 namespace pages {
 namespace {
@@ -20,12 +21,12 @@ struct Remedy {
     const char* expected;
 };
 constexpr Remedy remedies[] = {
-    {XML_ERROR_INVALID_TOKEN,
-     "both quotation marks of each value, &amp; for &, no comment in a tag, no -- in a comment"},
     {XML_ERROR_UNCLOSED_TOKEN, "the end of what begins here"},
     {XML_ERROR_DUPLICATE_ATTRIBUTE, "each attribute once"},
     {XML_ERROR_NO_ELEMENTS, "an element <Page>"},
     {XML_ERROR_JUNK_AFTER_DOC_ELEMENT, "one element <Page> around all others"},
+    {XML_ERROR_UNDEFINED_ENTITY, "a letter, or one of &amp; &lt; &gt; &quot; &apos;"},
+    {XML_ERROR_XML_DECL, "<?xml version=\"1.0\" encoding=\"UTF-8\"?>"},
     {XML_ERROR_MISPLACED_XML_PI, "<?xml ...?> at the begin of the file"},
 };
 
@@ -51,9 +52,9 @@ public:
             throw BadInput(*declares_, "the menu doesn't read what a DOCTYPE declares, expected no [ ... ] in it");
         }
         if (!whole) {
-            const std::string open =
-                open_ == nullptr ? "" : " (<" + open_->name + "> is open since " + place_words() + ")";
             const XML_Error error = XML_GetErrorCode(parser_.get());
+            const std::string open =
+                lacks_end(error) ? " (<" + open_->name + "> is open since " + place_words() + ")" : "";
             throw BadInput(here(), XML_ErrorString(error) + open + remedy(error));
         }
     }
@@ -80,10 +81,19 @@ private:
         }
     }
 
+    bool lacks_end(XML_Error error) const
+    {
+        return open_ != nullptr && (error == XML_ERROR_TAG_MISMATCH || error == XML_ERROR_NO_ELEMENTS);
+    }
+
     std::string remedy(XML_Error error) const
     {
-        if (open_ != nullptr && (error == XML_ERROR_TAG_MISMATCH || error == XML_ERROR_NO_ELEMENTS)) {
+        if (lacks_end(error)) {
             return ", expected </" + open_->name + ">";
+        }
+        if (error == XML_ERROR_INVALID_TOKEN || error == XML_ERROR_SYNTAX) {
+            const auto at = static_cast<std::size_t>(XML_GetCurrentByteIndex(parser_.get()));
+            return std::string(", expected ") + expected_in_xml(page_.text, at);
         }
         for (const Remedy& row : remedies) {
             if (row.error == error) {

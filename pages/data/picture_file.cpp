@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include "pages/data/errors.h"
+#include "pages/data/page_file.h"
 #include "pages/data/text_file.h"
 
 namespace pages {
@@ -37,12 +38,21 @@ int number_behind(std::string_view word, const std::string& message)
     return place == message.npos ? 0 : std::atoi(message.c_str() + place + word.size());
 }
 
-[[noreturn]] void fail(const std::filesystem::path& path, GError* error)
+/// In the words for page files where the drawing isn't well formed; the library's own are none for authors.
+[[noreturn]] void fail(const std::filesystem::path& path, const std::string& text, GError* error)
 {
     const std::unique_ptr<GError, FreeWith<g_error_free>> owner(error);
+    if (text.find_first_not_of(" \t\r\n") == text.npos) {
+        throw BadInput(Place{path.string()}, "no picture: the file is empty, expected a drawing");
+    }
+    std::vector<BadInput> mistakes;
+    (void)read_page(path, text, mistakes);
+    if (!mistakes.empty() && text.find("<!DOCTYPE") == text.npos) {
+        throw BadInput(mistakes.front().place(), "no picture: " + mistakes.front().words());
+    }
     const std::string words = error == nullptr ? "can't be drawn" : error->message;
     throw BadInput({path.string(), number_behind(" on line ", words), number_behind(" column ", words)},
-                   "no picture: " + words.substr(0, words.find('\n')));
+                   "no picture: " + words.substr(0, words.find('\n')) + ", expected a drawing in SVG");
 }
 
 std::uint32_t straight(std::uint32_t pixel)
@@ -79,7 +89,7 @@ Picture draw_svg(const std::filesystem::path& path)
     GError* error = nullptr;
     const Handle handle(rsvg_handle_new_from_data(reinterpret_cast<const guint8*>(text.data()), text.size(), &error));
     if (handle == nullptr) {
-        fail(path, error);
+        fail(path, text, error);
     }
     double width = 0;
     double height = 0;
@@ -93,7 +103,7 @@ Picture draw_svg(const std::filesystem::path& path)
     const Pen pen(cairo_create(canvas.get()));
     const RsvgRectangle place = {0, 0, std::ceil(width), std::ceil(height)};
     if (rsvg_handle_render_document(handle.get(), pen.get(), &place, &error) == 0) {
-        fail(path, error);
+        fail(path, text, error);
     }
     return pixels_of(canvas.get());
 }
@@ -104,7 +114,7 @@ Picture read_bitmap(const std::filesystem::path& path)
     const Surface argb(loaded == nullptr ? nullptr
                                          : SDL_ConvertSurfaceFormat(loaded.get(), SDL_PIXELFORMAT_ARGB8888, 0));
     if (argb == nullptr) {
-        throw BadInput(Place{path.string()}, std::string("no picture: ") + SDL_GetError());
+        throw BadInput(Place{path.string()}, std::string("no picture: ") + SDL_GetError() + ", expected a drawing in SVG or a BMP");
     }
     Picture picture{argb->w, argb->h, {}};
     for (int y = 0; y < argb->h; ++y) {
