@@ -233,18 +233,31 @@ void find_long_names(const ResourceFolder& folder, const Complain& complain)
     }
 }
 
+/// Why a picture can't be drawn: where a drawing isn't well formed, in the words for page files, as those of the drawing
+/// library are for programmers. A DOCTYPE is no mistake in a drawing.
+BadInput picture_mistake(const fs::path& file, const BadInput& told)
+{
+    std::vector<BadInput> mistakes;
+    const std::string text = file.extension() == ".svg" && told.place().line > 0 ? read_text_file(file) : "<svg/>";
+    (void)read_page(file, text, mistakes);
+    return mistakes.empty() || text.find("<!DOCTYPE") != text.npos
+               ? told
+               : BadInput(mistakes.front().place(), "no picture: " + mistakes.front().words());
+}
+
 void find_bad_pictures(const ResourceFolder& folder, const Complain& complain)
 {
     for (const auto& [name, file] : folder.pictures) {
+        const std::string below = file.lexically_relative(folder.root).string();
         try {
             const std::vector<std::uint32_t> pixels = read_picture(file).pixels;
             if (std::none_of(pixels.begin(), pixels.end(), [](std::uint32_t pixel) { return pixel >> 24 != 0; })) {
-                complain({file.lexically_relative(folder.root).string()}, "nothing is seen of the picture",
+                complain({below}, "nothing is seen of the picture",
                          "shapes with a fill or a stroke in it; pictures in it aren't drawn");
             }
-        } catch (const BadInput& mistake) {
-            const Place& place = mistake.place();
-            tell(complain, {file.lexically_relative(folder.root).string(), place.line, place.column}, mistake.words());
+        } catch (const BadInput& told) {
+            const BadInput mistake = picture_mistake(file, told);
+            tell(complain, {below, mistake.place().line, mistake.place().column}, mistake.words());
         }
     }
 }

@@ -10,7 +10,6 @@
 #include <string_view>
 
 #include "pages/data/errors.h"
-#include "pages/data/page_file.h"
 #include "pages/data/text_file.h"
 
 namespace pages {
@@ -38,17 +37,11 @@ int number_behind(std::string_view word, const std::string& message)
     return place == message.npos ? 0 : std::atoi(message.c_str() + place + word.size());
 }
 
-/// In the words for page files where the drawing isn't well formed; the library's own are none for authors.
 [[noreturn]] void fail(const std::filesystem::path& path, const std::string& text, GError* error)
 {
     const std::unique_ptr<GError, FreeWith<g_error_free>> owner(error);
     if (text.find_first_not_of(" \t\r\n") == text.npos) {
         throw BadInput(Place{path.string()}, "no picture: the file is empty, expected a drawing");
-    }
-    std::vector<BadInput> mistakes;
-    (void)read_page(path, text, mistakes);
-    if (!mistakes.empty() && text.find("<!DOCTYPE") == text.npos) {
-        throw BadInput(mistakes.front().place(), "no picture: " + mistakes.front().words());
     }
     const std::string words = error == nullptr ? "can't be drawn" : error->message;
     throw BadInput({path.string(), number_behind(" on line ", words), number_behind(" column ", words)},
