@@ -60,10 +60,10 @@ std::vector<Finding> run_rule(const Rule& rule, const ResourceFolder& folder)
 bool is_told_again(const Finding& finding, const std::vector<Finding>& later)
 {
     return finding.expected.rfind('\'', 0) == 0 && std::any_of(later.begin(), later.end(), [&](const Finding& other) {
-        return std::tie(finding.place.file, finding.place.line, finding.place.column) ==
-                   std::tie(other.place.file, other.place.line, other.place.column) &&
-               other.expected.compare(0, finding.expected.size(), finding.expected) == 0;
-    });
+               return std::tie(finding.place.file, finding.place.line, finding.place.column) ==
+                          std::tie(other.place.file, other.place.line, other.place.column) &&
+                      other.expected.compare(0, finding.expected.size(), finding.expected) == 0;
+           });
 }
 
 /// What all rules find, a finding for a cause.

@@ -95,14 +95,16 @@ void tell_unloadable(const PageFile& page, const tinyxml2::XMLDocument& document
             return;
         }
     }
-    complain(place, std::string("the menu can't load the file: ") + document.ErrorName(), "plain elements and comments");
+    complain(place, std::string("the menu can't load the file: ") + document.ErrorName(),
+             "plain elements and comments");
 }
 
 /// The menu reads the file by itself, the check by another reader: both must see the same.
 void tell_other_reading(const tinyxml2::XMLElement* read, const Element& element, const Complain& complain)
 {
     if (read == nullptr || read->Name() != element.name) {
-        complain(element.place, "the menu finds another element here", "<" + element.name + "> without entities around");
+        complain(element.place, "the menu finds another element here",
+                 "<" + element.name + "> without entities around");
         return;
     }
     for (const Attribute& attribute : element.attributes) {

@@ -275,8 +275,8 @@ const std::vector<Rule>& file_rules()
          find_bad_settings},
         {"no-file", Severity::Error, "There are pages, languages and pictures.", find_nothing},
         {"stray-file", Severity::Warning, "The folders hold nothing but pages, languages and pictures.", find_strays},
-        {"file-name", Severity::Error, "Names of pages and pictures have at most 31 bytes, in the letters that the menu looks for.",
-         find_long_names},
+        {"file-name", Severity::Error,
+         "Names of pages and pictures have at most 31 bytes, in the letters that the menu looks for.", find_long_names},
         {"picture", Severity::Error, "A picture can be drawn.", find_bad_pictures},
     };
     return rules;

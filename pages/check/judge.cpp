@@ -67,7 +67,8 @@ private:
             is_explained = is_explained || fault.element != nullptr;
         }
         if (refused && verdict_.refused.insert(page.name).second && !is_explained && !has_error(page.file)) {
-            verdict_.findings.push_back({{page.file}, Severity::Error, "xml-reader", "the menu can't show the page", ""});
+            verdict_.findings.push_back(
+                {{page.file}, Severity::Error, "xml-reader", "the menu can't show the page", ""});
         }
     }
 
@@ -97,7 +98,8 @@ private:
     bool is_text_told(const std::string& key) const
     {
         return std::any_of(told_.begin(), told_.end(), [&](const Finding& finding) {
-            const bool of_texts = finding.rule == "missing-text" || finding.rule == "translation" || finding.rule == "text";
+            const bool of_texts =
+                finding.rule == "missing-text" || finding.rule == "translation" || finding.rule == "text";
             return of_texts && words_of(finding).find("'" + key + "'") != std::string::npos;
         });
     }

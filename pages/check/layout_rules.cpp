@@ -122,7 +122,8 @@ void find_no_icons(const ResourceFolder& folder, const Complain& complain)
                      "Ctx=\"ICON_TXT\" with Pic and SelectPic");
         } else if (is_idle_icon(item) && item.find(osdAttrName(ATTR_SUB_PAGE)) == nullptr) { // or that is told as idle
             complain(item.place_of(osdAttrName(ATTR_ATTR)),
-                     "home does nothing on an icon with Attr '" + item.value(osdAttrName(ATTR_ATTR)) + "'", "'SUBPAGE'");
+                     "home does nothing on an icon with Attr '" + item.value(osdAttrName(ATTR_ATTR)) + "'",
+                     "'SUBPAGE'");
         }
     });
 }

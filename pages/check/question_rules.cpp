@@ -85,8 +85,8 @@ void find_opening_answers(const ResourceFolder& folder, const Complain& complain
         for (const auto& item : question.children) {
             const bool answers = key_of(*item) == OSD_KEY_NO || key_of(*item) == OSD_KEY_YES;
             if (is_question(layout_of(question)) && answers && (asks(kind_of(*item)) || kind_of(*item) == SUBPAGE)) {
-                complain(item->place_of(osdAttrName(ATTR_ATTR)), "'" + key_of(*item) + "' opens a page and answers nothing",
-                         "Attr=\"CONFIRM\"");
+                complain(item->place_of(osdAttrName(ATTR_ATTR)),
+                         "'" + key_of(*item) + "' opens a page and answers nothing", "Attr=\"CONFIRM\"");
             }
         }
     });

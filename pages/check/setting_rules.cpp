@@ -64,8 +64,8 @@ void find_strange_zones(const ResourceFolder& folder, const Complain& complain)
     for_each_item(folder, [&](const Element& item) {
         const Attribute* zone = item.find(osdAttrName(ATTR_DATA_ZONE));
         if (zone != nullptr && zones.count(zone->value) == 0) {
-            const auto of_parent = std::find_if(zones.begin(), zones.end(),
-                                                [&](const auto& row) { return row.second == zone->value; });
+            const auto of_parent =
+                std::find_if(zones.begin(), zones.end(), [&](const auto& row) { return row.second == zone->value; });
             complain(zone->place, "there is no zone '" + zone->value + "'",
                      of_parent == zones.end() ? one_of(zone->value, keys_of(zones))
                                               : "'" + of_parent->first + "', which has this parent");
@@ -129,8 +129,7 @@ void find_wrong_kinds(const ResourceFolder& folder, const Complain& complain)
         const auto wanted = wanted_by(folder, item);
         const Setting* found = setting_of(folder, item);
         const bool told = (context_of(item) == NAME_BAR_VAL) != is_numerical(item); // by the rule for value types
-        if (found != nullptr && found->kind != wanted->kind && !told &&
-            !is_setting_unusable(folder, wanted->id.key)) {
+        if (found != nullptr && found->kind != wanted->kind && !told && !is_setting_unusable(folder, wanted->id.key)) {
             complain(item.place_of(osdAttrName(ATTR_ITEM_INDEX)),
                      "setting " + to_string(wanted->id) + " is of kind " + name_of(found->kind),
                      std::string("kind ") + name_of(wanted->kind));
@@ -287,9 +286,9 @@ void find_missing_languages(const ResourceFolder& folder, const Complain& compla
     const std::vector<std::string> without = languages_without_file(folder);
     for (const auto& [option, language] : folder.definitions.languages) {
         if (std::count(without.begin(), without.end(), language) > 0 && !folder.languages.empty()) {
-            complain(place_in_settings(folder, "/languages/" + option), "there is no file lang/" + language + ".json",
-                     nearest_or(language, unlisted_languages(folder),
-                                "one of lang/: " + joined(keys_of(folder.languages))));
+            complain(
+                place_in_settings(folder, "/languages/" + option), "there is no file lang/" + language + ".json",
+                nearest_or(language, unlisted_languages(folder), "one of lang/: " + joined(keys_of(folder.languages))));
         }
     }
 }

@@ -150,8 +150,8 @@ bool is_missed(const ResourceFolder& folder, const std::vector<Link>& links, con
 {
     return std::any_of(links.begin(), links.end(), [&](const Link& link) {
         const bool turns = link.is_back() && link.page->name == page && folder.pages.count(link.target) > 0;
-        return turns ||
-               (folder.pages.count(link.target) == 0 && nearest_word(link.target, keys_of(folder.pages)) == page);
+        return turns || (folder.pages.count(link.target) == 0 &&
+                         nearest_word(page_name(link.target), keys_of(folder.pages)) == page);
     });
 }
 

@@ -194,7 +194,8 @@ void add_setting(const json& object, const JsonPlaces& places, const std::string
     const SettingId id = setting.id;
     const auto twin = definitions.settings.find(id);
     if (twin != definitions.settings.end()) {
-        throw BadInput(places.of(part + "/key"), "setting " + to_string(id) + " is defined twice, expected one of this and line " +
+        throw BadInput(places.of(part + "/key"), "setting " + to_string(id) +
+                                                     " is defined twice, expected one of this and line " +
                                                      std::to_string(twin->second.place.line));
     }
     if (mistakes.size() == before) {
@@ -235,9 +236,8 @@ std::map<std::string, std::string> read_facts(const json& object, const JsonPlac
 /// Whether a mistake with these words at its begin is told.
 bool is_told(const std::vector<BadInput>& mistakes, const std::string& begin)
 {
-    return std::any_of(mistakes.begin(), mistakes.end(), [&](const BadInput& mistake) {
-        return mistake.words().compare(0, begin.size(), begin) == 0;
-    });
+    return std::any_of(mistakes.begin(), mistakes.end(),
+                       [&](const BadInput& mistake) { return mistake.words().compare(0, begin.size(), begin) == 0; });
 }
 
 void check_languages(const Definitions& definitions, const JsonPlaces& places, std::vector<BadInput>& mistakes)

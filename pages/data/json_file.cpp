@@ -197,7 +197,8 @@ BadInput overflow(const json::exception& error, const std::string& text, const s
     const std::string words = error.what();
     const std::size_t first = words.find('\'');
     const std::string number = first == words.npos ? "" : words.substr(first + 1, words.rfind('\'') - first - 1);
-    return {place_at(text.find(number), text, file), "'" + number + "' is too large, expected a whole number of 32 bits"};
+    return {place_at(text.find(number), text, file),
+            "'" + number + "' is too large, expected a whole number of 32 bits"};
 }
 
 } // namespace
@@ -330,7 +331,8 @@ void FieldReader::tell_other_fields(std::vector<BadInput>& mistakes) const
 {
     for (const auto& [name, value] : object_.items()) {
         if (known_.count(name) == 0) {
-            mistakes.push_back(mistake(name, "unknown field '" + name + "'", one_of(name, {known_.begin(), known_.end()})));
+            mistakes.push_back(
+                mistake(name, "unknown field '" + name + "'", one_of(name, {known_.begin(), known_.end()})));
         }
     }
 }

@@ -72,7 +72,8 @@ private:
         Builder& builder = of(data);
         builder.page_.comments.push_back({words, builder.here()});
     }
-    static void doctype(void* data, const char* /*name*/, const char* /*system*/, const char* /*external*/, int declares)
+    static void doctype(void* data, const char* /*name*/, const char* /*system*/, const char* /*external*/,
+                        int declares)
     {
         Builder& builder = of(data);
         if (declares != 0) {

@@ -107,7 +107,8 @@ Picture read_bitmap(const std::filesystem::path& path)
     const Surface argb(loaded == nullptr ? nullptr
                                          : SDL_ConvertSurfaceFormat(loaded.get(), SDL_PIXELFORMAT_ARGB8888, 0));
     if (argb == nullptr) {
-        throw BadInput(Place{path.string()}, std::string("no picture: ") + SDL_GetError() + ", expected a drawing in SVG or a BMP");
+        throw BadInput(Place{path.string()},
+                       std::string("no picture: ") + SDL_GetError() + ", expected a drawing in SVG or a BMP");
     }
     Picture picture{argb->w, argb->h, {}};
     for (int y = 0; y < argb->h; ++y) {
@@ -123,7 +124,8 @@ Picture read_bitmap(const std::filesystem::path& path)
 Picture read_picture(const std::filesystem::path& path)
 {
     if (path.extension() != ".svg" && path.extension() != ".bmp") {
-        throw BadInput(Place{path.string()}, "nobody reads a picture of this kind, expected " + path.stem().string() + ".svg");
+        throw BadInput(Place{path.string()},
+                       "nobody reads a picture of this kind, expected " + path.stem().string() + ".svg");
     }
     return path.extension() == ".svg" ? draw_svg(path) : read_bitmap(path);
 }

@@ -22,7 +22,9 @@ double distance(const std::string& one, const std::string& other)
     for (std::size_t i = 1; i <= one.size(); ++i) {
         far[i][0] = static_cast<double>(i);
         for (std::size_t j = 1; j <= other.size(); ++j) {
-            const double other_letter = one[i - 1] == other[j - 1] ? 0.0 : are_alike(one[i - 1], other[j - 1]) ? 0.25 : 1.0;
+            const double other_letter = one[i - 1] == other[j - 1]            ? 0.0
+                                        : are_alike(one[i - 1], other[j - 1]) ? 0.25
+                                                                              : 1.0;
             far[i][j] = std::min({far[i - 1][j - 1] + other_letter, far[i - 1][j] + 1.0, far[i][j - 1] + 1.0});
             if (i > 1 && j > 1 && one[i - 1] == other[j - 2] && one[i - 2] == other[j - 1]) {
                 far[i][j] = std::min(far[i][j], far[i - 2][j - 2] + 1.0);
