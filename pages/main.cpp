@@ -2,6 +2,8 @@
 #include <CLI/CLI.hpp>
 #include <cstdio>
 #include <exception>
+#include <iostream>
+#include <stdexcept>
 
 #include "pages/command/commands.h"
 
@@ -17,6 +19,9 @@ int run(int argc, const char* const* argv)
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? 0 : pages::unusable;
+    }
+    if (!std::cout.flush()) {
+        throw std::runtime_error("can't write all that is to be told: the disk is full, or nobody reads it");
     }
     return status;
 }

@@ -2,6 +2,7 @@
 #include "pages/check/attribute_rules.h"
 
 #include <algorithm>
+#include <charconv>
 
 #include "osd_types.h"
 #include "pages/check/page_walk.h"
@@ -127,6 +128,14 @@ void find_unknown(const ResourceFolder& folder, const Complain& complain)
     });
 }
 
+/// What stands there in place of the only attribute that an element can have: another one, with the same value in mind.
+const Attribute* stand_in(const Element& element)
+{
+    const std::vector<std::string> names = names_on(role_of(element));
+    const bool other = names.size() == 1 && element.attributes.size() == 1 && element.find(names.front()) == nullptr;
+    return other && !is_unknown(element.attributes.front().name) ? &element.attributes.front() : nullptr;
+}
+
 void find_missing(const ResourceFolder& folder, const Complain& complain)
 {
     const auto is_misspelt = [](const Element& element, const std::string& name) {
@@ -138,7 +147,10 @@ void find_missing(const ResourceFolder& folder, const Complain& complain)
             const std::string name = osdAttrName(one.id);
             if (one.on == role_of(element) && element.find(name) == nullptr && one.holds(element) &&
                 !is_misspelt(element, name)) {
-                complain(element.place, name + " is missing", name + "=\"...\", which " + one.words + " needs");
+                const Attribute* other = stand_in(element);
+                complain(element.place, name + " is missing",
+                         name + "=\"...\", which " + one.words + " needs" +
+                             (other == nullptr ? "" : ", in place of " + other->name));
             }
         }
     });
@@ -153,18 +165,27 @@ void find_empty_buttons(const ResourceFolder& folder, const Complain& complain)
     });
 }
 
+void find_empty_values(const ResourceFolder& folder, const Complain& complain)
+{
+    for_each_item(folder, [&](const Element& item) {
+        if (is_text(item) && has_value(context_of(item)) && item.find(osdAttrName(ATTR_SHOW_VALUE)) == nullptr) {
+            complain(item.place, "the item shows no value", "ShowValue=\"1\", or Ctx=\"NAME\"");
+        }
+    });
+}
+
 void find_idle(const ResourceFolder& folder, const Complain& complain)
 {
     for_each_read(folder, [&](const Element& element) {
         for (const Attribute& attribute : element.attributes) {
             const On role = role_of(element);
             const AttributeUse* use = find_use(role, attribute.name);
-            if (use == nullptr && !is_unknown(attribute.name)) {
+            if (use == nullptr && !is_unknown(attribute.name) && stand_in(element) == nullptr) {
                 complain(attribute.place, attribute.name + " does nothing in <" + element.name + ">",
                          "one of " + joined(names_on(role)));
             } else if (use != nullptr && !is_read(element, *use)) {
                 complain(attribute.place, attribute.name + " does nothing here",
-                         std::string("it ") + find_case(element, use->id)->words);
+                         std::string("none: it works ") + find_case(element, use->id)->words);
             }
         }
     });
@@ -195,14 +216,34 @@ void find_strange_words(const ResourceFolder& folder, const Complain& complain)
     });
 }
 
+bool is_number(const std::string& text)
+{
+    std::int32_t number = 0;
+    const char* end = text.data() + text.size();
+    const auto result = std::from_chars(text.data(), end, number);
+    return result.ec == std::errc() && result.ptr == end && number >= 0;
+}
+
 void find_no_numbers(const ResourceFolder& folder, const Complain& complain)
 {
     for_each_use(folder, [&](const Element&, const Attribute& attribute, const AttributeUse& use) {
         const bool own_rule =
             use.id == ATTR_COUNT_PER_LINE || use.id == ATTR_ITEM_CNT || use.id == ATTR_ITEM_INDEX_ON_LINE;
-        if (use.holds == Holds::Number && !own_rule &&
-            (attribute.value.empty() || attribute.value.find_first_not_of("0123456789") != std::string::npos)) {
-            complain(attribute.place, attribute.name + " '" + attribute.value + "' is no number", "digits alone");
+        if (use.holds == Holds::Number && !own_rule && !is_number(attribute.value)) {
+            complain(attribute.place, attribute.name + " '" + attribute.value + "' is no number",
+                     "digits alone, at most 2147483647");
+        }
+    });
+}
+
+void find_refused_flags(const ResourceFolder& folder, const Complain& complain)
+{
+    for_each_use(folder, [&](const Element&, const Attribute& attribute, const AttributeUse& use) {
+        for (const char* no : {"0", "no", "No", "NO", "false", "False", "off", "Off"}) {
+            if (use.holds == Holds::Flag && attribute.value == no) {
+                complain(attribute.place, attribute.name + " '" + no + "' works as any other word does",
+                         "\"1\", or no " + attribute.name);
+            }
         }
     });
 }
@@ -232,9 +273,11 @@ const std::vector<Rule>& attribute_rules()
         {"unknown-attribute", Severity::Error, "The menu knows each attribute.", find_unknown},
         {"missing-attribute", Severity::Error, "Elements have the attributes that they need.", find_missing},
         {"empty-button", Severity::Warning, "A button that shows a value has a text on it.", find_empty_buttons},
+        {"empty-value", Severity::Warning, "A text with a value beside it has ShowValue.", find_empty_values},
         {"idle-attribute", Severity::Warning, "An attribute stands where the menu reads it.", find_idle},
         {"word", Severity::Error, "An attribute has one of its words.", find_strange_words},
         {"number", Severity::Warning, "A number consists of digits.", find_no_numbers},
+        {"flag", Severity::Warning, "What counts by being there doesn't say no.", find_refused_flags},
         {"length", Severity::Error, "Keys, and names of pages and pictures, have at most 31 bytes.", find_long},
     };
     return rules;

@@ -53,10 +53,34 @@ std::vector<Finding> run_rule(const Rule& rule, const ResourceFolder& folder)
             findings.push_back({place, rule.severity, rule.name, what, expected});
         });
     }
-    if (rule.told == Told::Once) {
-        unite_causes(findings);
-    }
     return findings;
+}
+
+/// Whether a later rule says more of the same misspelt word: at its place, with the same word in mind.
+bool is_told_again(const Finding& finding, const std::vector<Finding>& later)
+{
+    return finding.expected.rfind('\'', 0) == 0 && std::any_of(later.begin(), later.end(), [&](const Finding& other) {
+               return std::tie(finding.place.file, finding.place.line, finding.place.column) ==
+                          std::tie(other.place.file, other.place.line, other.place.column) &&
+                      other.expected.compare(0, finding.expected.size(), finding.expected) == 0;
+           });
+}
+
+/// What all rules find, a finding for a cause.
+std::vector<Finding> run_rules(const ResourceFolder& folder)
+{
+    std::vector<Finding> all;
+    const std::vector<Rule>& rules = all_rules();
+    for (auto rule = rules.rbegin(); rule != rules.rend(); ++rule) {
+        std::vector<Finding> findings = run_rule(*rule, folder);
+        const auto again = [&](const Finding& finding) { return is_told_again(finding, all); };
+        findings.erase(std::remove_if(findings.begin(), findings.end(), again), findings.end());
+        if (rule->told == Told::Once) {
+            unite_causes(findings);
+        }
+        all.insert(all.end(), findings.begin(), findings.end());
+    }
+    return all;
 }
 
 } // namespace
@@ -64,12 +88,10 @@ std::vector<Finding> run_rule(const Rule& rule, const ResourceFolder& folder)
 CheckResult check(const ResourceFolder& folder, const CheckOptions& options)
 {
     CheckResult result;
+    result.findings = run_rules(folder);
     const auto add = [&](const std::vector<Finding>& findings) {
         result.findings.insert(result.findings.end(), findings.begin(), findings.end());
     };
-    for (const Rule& rule : all_rules()) {
-        add(run_rule(rule, folder));
-    }
     Verdict verdict = judge_pages(folder, result.findings);
     add(verdict.findings);
     result.refused = std::move(verdict.refused);

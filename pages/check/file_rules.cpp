@@ -124,19 +124,24 @@ bool is_in_folder(const BadInput& mistake, const std::string& name)
     return mistake.place().file.compare(0, name.size(), name) == 0;
 }
 
-/// The mistakes in the files of a folder; what was expected stands in their words.
-void tell_mistakes(const ResourceFolder& folder, const std::string& name, const Complain& complain)
+/// What was expected stands in the words.
+void tell(const Complain& complain, const Place& place, const std::string& words)
 {
     static const std::string mark = ", expected ";
+    const std::size_t at = words.find(mark);
+    complain(place, words.substr(0, at), at == words.npos ? "" : words.substr(at + mark.size()));
+}
+
+/// The mistakes in the files of a folder.
+void tell_mistakes(const ResourceFolder& folder, const std::string& name, const Complain& complain)
+{
     for (const BadInput& mistake : folder.mistakes) {
         std::error_code gone;
         const fs::path file = folder.root / mistake.place().file;
         const bool other = folder.broken.count(mistake.place().file) > 0 && fs::is_regular_file(file, gone) &&
                            is_in_other_encoding(read_text_file(file));
         if (is_in_folder(mistake, name) && !other) {
-            const std::string& words = mistake.words();
-            const std::size_t at = words.rfind(mark);
-            complain(mistake.place(), words.substr(0, at), at == words.npos ? "" : words.substr(at + mark.size()));
+            tell(complain, mistake.place(), mistake.words());
         }
     }
 }
@@ -171,28 +176,42 @@ void find_nothing(const ResourceFolder& folder, const Complain& complain)
     if (folder.languages.empty() && !broken) {
         complain({"lang/"}, "no language", "files named LANGUAGE.json");
     }
+    if (folder.pictures.empty()) {
+        complain({"pic/"}, "no picture", "files named NAME.svg");
+    }
 }
 
 struct ReadFolder {
     std::string name;
     const char* expected;
-    bool (*is_read)(const fs::path& file);
+    bool (*is_read)(const ResourceFolder& folder, const fs::path& file);
 };
 
+/// Those that are meant to be pages or pictures are told of by other rules.
 void find_strays(const ResourceFolder& folder, const Complain& complain)
 {
-    const ReadFolder folders[] = {
-        {page_folder_name(folder), "a name that ends with _page.xml", is_page_file},
-        {"lang/", "a name that ends with .json", [](const fs::path& file) { return file.extension() == ".json"; }},
-        {"pic/", "a name that ends with .svg",
-         [](const fs::path& file) { return file.extension() == ".svg" || file.extension() == ".bmp"; }}};
+    const auto is_page = [](const ResourceFolder&, const fs::path& file) { return is_page_file(file); };
+    const auto is_language = [](const ResourceFolder&, const fs::path& file) { return file.extension() == ".json"; };
+    const auto is_picture = [](const ResourceFolder& all, const fs::path& file) {
+        const auto known = all.pictures.find(file.stem().string());
+        return file.extension() == ".svg" || file.extension() == ".bmp" ||
+               (known != all.pictures.end() && known->second.filename() == file.filename());
+    };
+    const ReadFolder folders[] = {{page_folder_name(folder), "a name that ends with _page.xml", is_page},
+                                  {"lang/", "a name that ends with .json", is_language},
+                                  {"pic/", "a name that ends with .svg", is_picture}};
     for (const ReadFolder& one : folders) {
         std::error_code none;
         for (const auto& entry : fs::directory_iterator(folder.root / one.name, none)) {
-            if (!one.is_read(entry.path())) {
-                complain({one.name + entry.path().filename().string()}, "nobody reads this file", one.expected);
+            const std::string file = one.name + entry.path().filename().string();
+            if (!is_of_editor(file) && !one.is_read(folder, entry.path()) && folder.broken.count(file) == 0) {
+                complain({file}, "nobody reads this file", one.expected);
             }
         }
+    }
+    std::error_code none;
+    if (page_folder_name(folder) != "menu/" && fs::is_directory(folder.root / "menu", none)) {
+        complain({"menu/"}, "nobody reads this folder", "all pages in " + page_folder_name(folder));
     }
 }
 
@@ -205,20 +224,40 @@ void find_long_names(const ResourceFolder& folder, const Complain& complain)
     };
     for (const auto& [name, page] : folder.pages) {
         judge(page.file, name);
+        if (!is_page_file(page.file)) {
+            complain({page.file}, "nobody reads a file of this name", name + "_page.xml");
+        }
     }
     for (const auto& [name, file] : folder.pictures) {
         judge(file.lexically_relative(folder.root).string(), name);
     }
 }
 
+/// Why a picture can't be drawn: where a drawing isn't well formed, in the words for page files, as those of the drawing
+/// library are for programmers. A DOCTYPE is no mistake in a drawing.
+BadInput picture_mistake(const fs::path& file, const BadInput& told)
+{
+    std::vector<BadInput> mistakes;
+    const std::string text = file.extension() == ".svg" && told.place().line > 0 ? read_text_file(file) : "<svg/>";
+    (void)read_page(file, text, mistakes);
+    return mistakes.empty() || text.find("<!DOCTYPE") != text.npos
+               ? told
+               : BadInput(mistakes.front().place(), "no picture: " + mistakes.front().words());
+}
+
 void find_bad_pictures(const ResourceFolder& folder, const Complain& complain)
 {
     for (const auto& [name, file] : folder.pictures) {
+        const std::string below = file.lexically_relative(folder.root).string();
         try {
-            (void)read_picture(file);
-        } catch (const BadInput& mistake) {
-            const Place& place = mistake.place();
-            complain({file.lexically_relative(folder.root).string(), place.line, place.column}, mistake.words(), "");
+            const std::vector<std::uint32_t> pixels = read_picture(file).pixels;
+            if (std::none_of(pixels.begin(), pixels.end(), [](std::uint32_t pixel) { return pixel >> 24 != 0; })) {
+                complain({below}, "nothing is seen of the picture",
+                         "shapes with a fill or a stroke in it; pictures in it aren't drawn");
+            }
+        } catch (const BadInput& told) {
+            const BadInput mistake = picture_mistake(file, told);
+            tell(complain, {below, mistake.place().line, mistake.place().column}, mistake.words());
         }
     }
 }
@@ -234,9 +273,10 @@ const std::vector<Rule>& file_rules()
         {"text", Severity::Error, "A language file holds keys and texts of 1 to 31 bytes.", find_bad_texts},
         {"setting", Severity::Error, "settings.json holds settings, facts, zones and languages that can be used.",
          find_bad_settings},
-        {"no-file", Severity::Error, "There are pages and languages.", find_nothing},
+        {"no-file", Severity::Error, "There are pages, languages and pictures.", find_nothing},
         {"stray-file", Severity::Warning, "The folders hold nothing but pages, languages and pictures.", find_strays},
-        {"file-name", Severity::Error, "Names of pages and pictures have at most 31 bytes.", find_long_names},
+        {"file-name", Severity::Error,
+         "Names of pages and pictures have at most 31 bytes, in the letters that the menu looks for.", find_long_names},
         {"picture", Severity::Error, "A picture can be drawn.", find_bad_pictures},
     };
     return rules;

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "pages/data/errors.h"
+#include "pages/data/words.h"
 
 namespace pages {
 
@@ -30,8 +31,5 @@ std::string line_of(const Finding& finding, const std::string& folder);
 
 /// {"findings": [{"file", "line", "column", "severity", "rule", "what", "expected"}]}, indented.
 std::string to_json(const std::vector<Finding>& findings);
-
-/// "'Lable', expected 'Label'" hints: the known word that is nearest to a misspelt one, or none of them, empty then.
-std::string nearest_word(const std::string& word, const std::vector<std::string>& known);
 
 } // namespace pages

@@ -36,7 +36,7 @@ PlaceKey key_of_place(const Place& place) { return {place.file, place.line, plac
 
 class Judge {
 public:
-    Judge(const ResourceFolder& folder, const std::vector<Finding>& told) : folder_(folder)
+    Judge(const ResourceFolder& folder, const std::vector<Finding>& told) : folder_(folder), told_(told)
     {
         for (const Finding& finding : told) {
             (finding.severity == Severity::Error ? wrong_ : odd_).insert(key_of_place(finding.place));
@@ -57,15 +57,26 @@ public:
 private:
     void hear(Menu& menu, const PageFile& page)
     {
-        if (page.root == nullptr || !menu.open(page.name)) {
-            verdict_.refused.insert(page.name);
-        }
+        const bool refused = page.root == nullptr || !menu.open(page.name);
         menu.close_all();
+        bool is_explained = false;
         for (const Fault& fault : menu.parse(page)) {
             if (fault.element != nullptr && !is_told(fault)) {
                 tell(fault);
             }
+            is_explained = is_explained || fault.element != nullptr;
         }
+        if (refused && verdict_.refused.insert(page.name).second && !is_explained && !has_error(page.file)) {
+            verdict_.findings.push_back(
+                {{page.file}, Severity::Error, "xml-reader", "the menu can't show the page", ""});
+        }
+    }
+
+    bool has_error(const std::string& file) const
+    {
+        return std::any_of(told_.begin(), told_.end(), [&](const Finding& finding) {
+            return finding.severity == Severity::Error && finding.place.file == file;
+        });
     }
 
     /// Whether the cause is known: an error at the element or one of its attributes, anything at the very place, a text
@@ -78,9 +89,19 @@ private:
             return true;
         }
         const bool long_page = fault.kind == PAGE_FAULT_TOO_LONG && folder_.pages.count(fault.value) > 0;
-        return long_page || fault.kind == PAGE_FAULT_NO_TEXT ||
+        return long_page || (fault.kind == PAGE_FAULT_NO_TEXT && is_text_told(fault.value)) ||
                std::any_of(element.attributes.begin(), element.attributes.end(),
                            [&](const Attribute& attribute) { return wrong_.count(key_of_place(attribute.place)) > 0; });
+    }
+
+    /// Whether the text of a key is told missing or unusable, at whatever place.
+    bool is_text_told(const std::string& key) const
+    {
+        return std::any_of(told_.begin(), told_.end(), [&](const Finding& finding) {
+            const bool of_texts =
+                finding.rule == "missing-text" || finding.rule == "translation" || finding.rule == "text";
+            return of_texts && words_of(finding).find("'" + key + "'") != std::string::npos;
+        });
     }
 
     /// Whether it is part of something that stands wrong.
@@ -102,6 +123,7 @@ private:
     }
 
     const ResourceFolder& folder_;
+    const std::vector<Finding>& told_;
     std::set<PlaceKey> wrong_; ///< places of errors
     std::set<PlaceKey> odd_;   ///< places of warnings
     Verdict verdict_;

@@ -6,6 +6,7 @@
 #include "comm/picture_names.h"
 #include "pages/check/attribute_rules.h"
 #include "pages/check/page_walk.h"
+#include "pages/check/setting_rules.h"
 
 namespace pages {
 namespace {
@@ -24,6 +25,9 @@ void find_no_grids(const ResourceFolder& folder, const Complain& complain)
 
 void find_missing_pictures(const ResourceFolder& folder, const Complain& complain)
 {
+    if (folder.pictures.empty()) {
+        return; // which is told
+    }
     for_each_read(folder, [&](const Element& element) {
         for (const Attribute& attribute : element.attributes) {
             const AttributeUse* use = find_use(role_of(element), attribute.name);
@@ -39,7 +43,7 @@ void find_missing_pictures(const ResourceFolder& folder, const Complain& complai
 void find_missing_own_pictures(const ResourceFolder& folder, const Complain& complain)
 {
     for (const char* name : c_apcPictureName) {
-        if (folder.pictures.count(name) == 0) {
+        if (folder.pictures.count(name) == 0 && !folder.pictures.empty()) {
             complain({"pic/"}, std::string("the menu draws a picture '") + name + "', which is missing",
                      std::string("pic/") + name + ".svg");
         }
@@ -116,8 +120,27 @@ void find_no_icons(const ResourceFolder& folder, const Complain& complain)
         if (top && layout_of(item) == PAGE_LAYOUT_ICON && context_of(item) && !has_picture(context_of(item))) {
             complain(item.place_of(osdAttrName(ATTR_CTX)), "an item without a picture isn't drawn in layout 'icon'",
                      "Ctx=\"ICON_TXT\" with Pic and SelectPic");
+        } else if (is_idle_icon(item) && item.find(osdAttrName(ATTR_SUB_PAGE)) == nullptr) { // or that is told as idle
+            complain(item.place_of(osdAttrName(ATTR_ATTR)),
+                     "home does nothing on an icon with Attr '" + item.value(osdAttrName(ATTR_ATTR)) + "'",
+                     "'SUBPAGE'");
         }
     });
+}
+
+/// What to change of an item whose type doesn't go with the rest: the type, or what it shows where the setting is of the
+/// given type.
+std::string type_remedy(const ResourceFolder& folder, const Element& item, const Pair& pair, tagITEM_VAL_TYPE_E type)
+{
+    const Setting* setting = setting_of(folder, item);
+    const auto* other = std::find_if(std::begin(pairs), std::end(pairs), [&](const Pair& one) {
+        return one.kind == pair.kind && one.type == type && has_value(one.context);
+    });
+    const bool is_number = setting != nullptr && setting->kind != SettingKind::Option;
+    return setting != nullptr && other != std::end(pairs) && is_number == (type == NUMERICAL)
+               ? "Ctx=\"" + word_of(c_astCtxWord, other->context) + "\", as the setting is of kind " +
+                     name_of(setting->kind)
+               : "'" + word_of(c_astValTypeWord, pair.type) + "'";
 }
 
 /// Of a pair that goes together; a value without its type is read as another one.
@@ -135,7 +158,7 @@ void find_odd_types(const ResourceFolder& folder, const Complain& complain)
                      "ValType '" + word_of(c_astValTypeWord, type) + "' doesn't go with Ctx '" +
                          word_of(c_astCtxWord, pair->context) + "' and Attr '" + word_of(c_astAttrWord, pair->kind) +
                          "'",
-                     "'" + word_of(c_astValTypeWord, pair->type) + "'");
+                     type_remedy(folder, item, *pair, type));
         }
     });
 }
@@ -200,7 +223,7 @@ const std::vector<Rule>& layout_rules()
         {"menu-picture", Severity::Error, "Pictures that the menu draws by itself are there.",
          find_missing_own_pictures},
         {"context", Severity::Warning, "What an item shows goes with its kind.", find_odd_contexts},
-        {"icon", Severity::Error, "Items of layout 'icon' have pictures.", find_no_icons},
+        {"icon", Severity::Error, "Items of layout 'icon' have pictures, and home does something.", find_no_icons},
         {"value-type", Severity::Error, "The type of a value goes with what the item shows.", find_odd_types},
         {"twin", Severity::Error, "No item stands twice among those that show together.", find_twins},
         {"hidden-cursor", Severity::Error, "A page in layout 'vertical_align_keth' doesn't begin with STATUS.",

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "menu/core/keyword.h"
-#include "pages/check/finding.h"
 
 namespace pages {
 namespace {
@@ -85,28 +84,11 @@ bool is_blind(const Element& element)
     return role_of(element) == On::Item && kind_of(element) && !has_options(kind_of(element));
 }
 
-std::string joined(const std::vector<std::string>& words)
+bool is_idle_icon(const Element& item)
 {
-    std::string all;
-    for (const std::string& word : words) {
-        all += (all.empty() ? "" : ", ") + word;
-    }
-    return all;
-}
-
-std::string one_of(const std::string& word, const std::vector<std::string>& known)
-{
-    const std::string nearest = nearest_word(word, known);
-    if (known.size() == 1) {
-        return "'" + known.front() + "'";
-    }
-    return nearest.empty() ? "one of " + joined(known) : "'" + nearest + "' (one of " + joined(known) + ")";
-}
-
-std::string nearest_or(const std::string& word, const std::vector<std::string>& known, const std::string& otherwise)
-{
-    const std::string nearest = nearest_word(word, known);
-    return nearest.empty() ? otherwise : "'" + nearest + "'";
+    const bool top = item.parent == nullptr || role_of(*item.parent) == On::Page;
+    return top && layout_of(item) == PAGE_LAYOUT_ICON && kind_of(item) && !asks(kind_of(item)) &&
+           !is_one_of(kind_of(item), {SUBPAGE, CONFIRM});
 }
 
 bool is_unusable(const ResourceFolder& folder, const std::string& file, const std::string& subject)

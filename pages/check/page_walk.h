@@ -42,6 +42,9 @@ bool is_misplaced(const Element& element);
 /// Whether the menu doesn't look at what is below an item: its kind has no options.
 bool is_blind(const Element& element);
 
+/// Whether home does nothing on an item of a page of icons.
+bool is_idle_icon(const Element& item);
+
 /// Calls visit(element) for the element and all below it that the menu reads.
 template <typename Visit>
 void for_each_read(const Element& element, Visit&& visit)
@@ -86,11 +89,6 @@ void for_each_item(const ResourceFolder& folder, Visit&& visit)
     });
 }
 
-/// What was expected in place of a word: "'Gain' (one of Gain, Hue)" with the nearest one, or "one of Gain, Hue".
-std::string one_of(const std::string& word, const std::vector<std::string>& known);
-/// "'Gain'" as the nearest of many words, or else the other words.
-std::string nearest_or(const std::string& word, const std::vector<std::string>& known, const std::string& otherwise);
-
 /// Whether something in a file couldn't be used that begins with this subject, as "'key'" or "setting 'key'".
 bool is_unusable(const ResourceFolder& folder, const std::string& file, const std::string& subject);
 /// Whether the settings can't be used at all, or a member of theirs: what follows from it is not told.
@@ -105,8 +103,5 @@ std::vector<std::string> keys_of(const Map& map)
     }
     return keys;
 }
-
-/// "a, b, c"
-std::string joined(const std::vector<std::string>& words);
 
 } // namespace pages

@@ -40,6 +40,14 @@ void find_mute_questions(const ResourceFolder& folder, const Complain& complain)
 
 void find_no_questions(const ResourceFolder& folder, const Complain& complain)
 {
+    for (const Link& link : all_links(folder)) {
+        const auto target = folder.pages.find(link.target);
+        if (link.attribute->name == osdAttrName(ATTR_SUB_PAGE) && target != folder.pages.end() &&
+            target->second.root != nullptr && is_question(layout_of(*target->second.root))) {
+            complain(link.attribute->place, "page '" + link.target + "' is a question, which nobody asks here",
+                     "ConfirmPage=\"" + link.target + "\" with Attr=\"CONFIRM_POP_BTN\"");
+        }
+    }
     for_each_question(folder, [&](const Link& link, const Element& question) {
         if (layout_of(question) && !is_question(layout_of(question))) {
             complain(link.attribute->place, "page '" + link.target + "' is no question",
@@ -67,6 +75,19 @@ void find_missing_answers(const ResourceFolder& folder, const Complain& complain
         }
         if (is_question(layout_of(question)) && !question.children.empty() && !missing.empty()) {
             complain(question.place, "the question has no button " + missing + "'", "items 'No' and 'Yes'");
+        }
+    });
+}
+
+void find_opening_answers(const ResourceFolder& folder, const Complain& complain)
+{
+    for_each_question(folder, [&](const Link&, const Element& question) {
+        for (const auto& item : question.children) {
+            const bool answers = key_of(*item) == OSD_KEY_NO || key_of(*item) == OSD_KEY_YES;
+            if (is_question(layout_of(question)) && answers && (asks(kind_of(*item)) || kind_of(*item) == SUBPAGE)) {
+                complain(item->place_of(osdAttrName(ATTR_ATTR)),
+                         "'" + key_of(*item) + "' opens a page and answers nothing", "Attr=\"CONFIRM\"");
+            }
         }
     });
 }
@@ -129,15 +150,50 @@ void find_never_stored(const ResourceFolder& folder, const Complain& complain)
     });
 }
 
+/// The item whose question stores the values of a page; null for none.
+const Element* storing_item(const Element& root)
+{
+    for (const auto& item : root.children) {
+        if (key_of(*item) == OSD_KEY_CONFIRM && asks(kind_of(*item))) {
+            return item.get();
+        }
+    }
+    return nullptr;
+}
+
 void find_no_way_to_store(const ResourceFolder& folder, const Complain& complain)
 {
     for_each_confirmed(folder, [&](const PageFile& page, const Element& root, bool stored) {
-        const bool has_button = std::any_of(root.children.begin(), root.children.end(), [](const auto& item) {
-            return key_of(*item) == OSD_KEY_CONFIRM && asks(kind_of(*item));
-        });
-        if (stored && !has_button) {
+        if (stored && storing_item(root) == nullptr) {
             complain(root.place, "nothing on page '" + page.name + "' asks whether values are to be stored",
                      "an item 'Confirm' with Attr=\"CONFIRM_POP_BTN\"");
+        }
+    });
+}
+
+void find_behind_store(const ResourceFolder& folder, const Complain& complain)
+{
+    for_each_confirmed(folder, [&](const PageFile&, const Element& root, bool stored) {
+        const Element* confirm = stored ? storing_item(root) : nullptr;
+        bool behind = false;
+        for (const auto& item : root.children) {
+            if (behind && (has_options(kind_of(*item)) || is_one_of(kind_of(*item), {COMMON, KEY_WITH_MSG}))) {
+                complain(item->place, "what is changed in '" + key_of(*item) + "' is never stored",
+                         "it before item 'Confirm' on line " + std::to_string(confirm->place.line));
+            }
+            behind = behind || item.get() == confirm;
+        }
+    });
+}
+
+void find_idle_stores(const ResourceFolder& folder, const Complain& complain)
+{
+    for_each_page(folder, [&](const PageFile& page, const Element& root) {
+        const std::vector<std::string> known = confirmed_pages();
+        if (std::count(known.begin(), known.end(), page.name) > 0 && storing_item(root) != nullptr &&
+            root.find(osdAttrName(ATTR_CONFIRM_BTN)) == nullptr) {
+            complain(root.place, "no value on page '" + page.name + "' waits for its item 'Confirm'",
+                     "ConfirmBtn=\"Yes\"");
         }
     });
 }
@@ -166,12 +222,16 @@ const std::vector<Rule>& question_rules()
          find_mute_questions},
         {"no-question", Severity::Warning, "A question is asked side by side, over the page below.", find_no_questions},
         {"no-answer", Severity::Error, "A question has the buttons No and Yes.", find_missing_answers},
+        {"answer", Severity::Error, "The buttons No and Yes open no page.", find_opening_answers},
         {"answer-place", Severity::Error, "Answers stand side by side.", find_heaped_answers},
         {"asks-nothing", Severity::Error, "A CONFIRM_POP has a value.", find_silent_buttons},
         {"confirmed-page", Severity::Warning,
          "Values wait for a question on those pages alone that the menu can store.", find_never_stored},
         {"confirm-button", Severity::Warning, "A page whose values wait for a question has a button that asks.",
          find_no_way_to_store},
+        {"behind-confirm", Severity::Warning, "No value stands behind the button that stores those of a page.",
+         find_behind_store},
+        {"idle-confirm", Severity::Warning, "Values wait on a page that has a button to store them.", find_idle_stores},
         {"edited-address", Severity::Warning, "Addresses are edited on page 'network', below an option.",
          find_lost_addresses},
     };

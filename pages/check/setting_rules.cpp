@@ -1,32 +1,20 @@
 // What an item shows has something behind it: a setting of its kind, or a fact of the camera.
-#include "pages/check/rule_tables.h"
+#include "pages/check/setting_rules.h"
 
 #include <algorithm>
+#include <set>
+#include <sstream>
 
 #include "menu/core/led_color.h"
 #include "menu/core/value_status.h"
 #include "osd_types.h"
 #include "pages/check/page_walk.h"
+#include "pages/check/rule_tables.h"
 
 namespace pages {
 namespace {
 
 constexpr const char* settings_file = "settings.json";
-
-const char* name_of(SettingKind kind)
-{
-    switch (kind) {
-    case SettingKind::Option:
-        return "option";
-    case SettingKind::Integer:
-        return "integer";
-    case SettingKind::Text:
-        return "text";
-    case SettingKind::HexColor:
-        return "color";
-    }
-    return "";
-}
 
 std::string index_of(const Element& item) { return item.value(osdAttrName(ATTR_ITEM_INDEX)); }
 
@@ -76,7 +64,11 @@ void find_strange_zones(const ResourceFolder& folder, const Complain& complain)
     for_each_item(folder, [&](const Element& item) {
         const Attribute* zone = item.find(osdAttrName(ATTR_DATA_ZONE));
         if (zone != nullptr && zones.count(zone->value) == 0) {
-            complain(zone->place, "there is no zone '" + zone->value + "'", one_of(zone->value, keys_of(zones)));
+            const auto of_parent =
+                std::find_if(zones.begin(), zones.end(), [&](const auto& row) { return row.second == zone->value; });
+            complain(zone->place, "there is no zone '" + zone->value + "'",
+                     of_parent == zones.end() ? one_of(zone->value, keys_of(zones))
+                                              : "'" + of_parent->first + "', which has this parent");
         }
     });
 }
@@ -85,9 +77,14 @@ void find_strange_zones(const ResourceFolder& folder, const Complain& complain)
 std::string advice(const Definitions& definitions, const SettingId& wanted)
 {
     std::vector<std::string> keys;
+    std::string otherwise = "one in settings.json";
     for (const auto& [id, setting] : definitions.settings) {
         if (id.key == wanted.key && id.parent.empty()) {
             return "no DataZone, as the setting has no parent";
+        }
+        if (id.key == wanted.key) {
+            otherwise = "\"parent\": \"" + wanted.parent + "\" on line " + std::to_string(setting.place.line) +
+                        " of settings.json";
         }
         for (const auto& [zone, parent] : definitions.zones) {
             if (id.key == wanted.key && id.parent == parent) {
@@ -98,7 +95,14 @@ std::string advice(const Definitions& definitions, const SettingId& wanted)
             keys.push_back(id.key);
         }
     }
-    return nearest_or(wanted.key, keys, "one in settings.json");
+    return nearest_or(wanted.key, keys, otherwise);
+}
+
+/// Whether a parent belongs to no setting at all: a mistake of the zone.
+bool is_parent_of_none(const Definitions& definitions, const std::string& parent)
+{
+    return !parent.empty() && std::none_of(definitions.settings.begin(), definitions.settings.end(),
+                                           [&](const auto& setting) { return setting.first.parent == parent; });
 }
 
 bool is_setting_unusable(const ResourceFolder& folder, const std::string& key)
@@ -112,7 +116,7 @@ void find_missing_settings(const ResourceFolder& folder, const Complain& complai
     for_each_item(folder, [&](const Element& item) {
         const auto wanted = wanted_by(folder, item);
         if (wanted && definitions.settings.count(wanted->id) == 0 && !is_setting_unusable(folder, wanted->id.key) &&
-            !is_unusable(folder, settings_file, "'zones'")) {
+            !is_unusable(folder, settings_file, "'zones'") && !is_parent_of_none(definitions, wanted->id.parent)) {
             complain(item.place_of(osdAttrName(ATTR_ITEM_INDEX)), "there is no setting " + to_string(wanted->id),
                      advice(definitions, wanted->id));
         }
@@ -123,12 +127,11 @@ void find_wrong_kinds(const ResourceFolder& folder, const Complain& complain)
 {
     for_each_item(folder, [&](const Element& item) {
         const auto wanted = wanted_by(folder, item);
-        const auto found = wanted ? folder.definitions.settings.find(wanted->id) : folder.definitions.settings.end();
-        const bool told = context_of(item) == NAME_BAR_VAL && !is_numerical(item); // by the rule for value types
-        if (found != folder.definitions.settings.end() && found->second.kind != wanted->kind && !told &&
-            !is_setting_unusable(folder, wanted->id.key)) {
+        const Setting* found = setting_of(folder, item);
+        const bool told = (context_of(item) == NAME_BAR_VAL) != is_numerical(item); // by the rule for value types
+        if (found != nullptr && found->kind != wanted->kind && !told && !is_setting_unusable(folder, wanted->id.key)) {
             complain(item.place_of(osdAttrName(ATTR_ITEM_INDEX)),
-                     "setting " + to_string(wanted->id) + " is of kind " + name_of(found->second.kind),
+                     "setting " + to_string(wanted->id) + " is of kind " + name_of(found->kind),
                      std::string("kind ") + name_of(wanted->kind));
         }
     });
@@ -147,19 +150,72 @@ std::optional<std::vector<std::string>> offer_of(const Element& item)
     return offered;
 }
 
+bool is_address(const std::string& text)
+{
+    std::istringstream parts(text + ".");
+    int count = 0;
+    for (std::string part; std::getline(parts, part, '.'); ++count) {
+        if (part.empty() || part.size() > 3 || part.find_first_not_of("0123456789") != part.npos ||
+            std::stoi(part) > 255) {
+            return false;
+        }
+    }
+    return count == 4;
+}
+
+void find_no_addresses(const ResourceFolder& folder, const Complain& complain)
+{
+    for_each_item(folder, [&](const Element& item) {
+        const Setting* setting = setting_of(folder, item);
+        if (context_of(item) == NAME_IP_VAL && setting != nullptr && setting->kind == SettingKind::Text &&
+            !is_address(setting->default_text)) {
+            complain(setting->place,
+                     "the default '" + setting->default_text + "' of setting " + to_string(setting->id) +
+                         " is no address",
+                     "one such as 192.168.1.120");
+        }
+    });
+}
+
+/// Takes out words that no language has a text for, each with what it is meant to be: another rule tells of them.
+void forgive_misspelt(const ResourceFolder& folder, std::vector<std::string>& words, std::vector<std::string>& others)
+{
+    for (auto word = words.begin(); word != words.end();) {
+        const auto has_text = [&](const auto& language) { return language.second.count(*word) > 0; };
+        const auto meant = std::find(others.begin(), others.end(), nearest_word(*word, others));
+        if (meant != others.end() && std::none_of(folder.languages.begin(), folder.languages.end(), has_text)) {
+            others.erase(meant);
+            word = words.erase(word);
+        } else {
+            ++word;
+        }
+    }
+}
+
+bool are_the_same(const ResourceFolder& folder, std::vector<std::string> offered, std::vector<std::string> options)
+{
+    std::sort(offered.begin(), offered.end());
+    std::sort(options.begin(), options.end());
+    std::vector<std::string> extra;
+    std::vector<std::string> lacking;
+    std::set_difference(offered.begin(), offered.end(), options.begin(), options.end(), std::back_inserter(extra));
+    std::set_difference(options.begin(), options.end(), offered.begin(), offered.end(), std::back_inserter(lacking));
+    forgive_misspelt(folder, extra, lacking);
+    forgive_misspelt(folder, lacking, extra);
+    return extra.empty() && lacking.empty();
+}
+
 void find_other_options(const ResourceFolder& folder, const Complain& complain)
 {
     for_each_item(folder, [&](const Element& item) {
-        const auto wanted = wanted_by(folder, item);
-        const auto found = wanted ? folder.definitions.settings.find(wanted->id) : folder.definitions.settings.end();
+        const Setting* setting = setting_of(folder, item);
         const auto offered = offer_of(item);
-        if (!has_options(kind_of(item)) || found == folder.definitions.settings.end() || !offered ||
-            is_setting_unusable(folder, wanted->id.key)) {
+        if (!has_options(kind_of(item)) || setting == nullptr || !offered ||
+            is_setting_unusable(folder, setting->id.key)) {
             return;
         }
-        const std::vector<std::string>& options = found->second.options;
-        if (found->second.kind == SettingKind::Option &&
-            !std::is_permutation(offered->begin(), offered->end(), options.begin(), options.end())) {
+        const std::vector<std::string>& options = setting->options;
+        if (setting->kind == SettingKind::Option && !are_the_same(folder, *offered, options)) {
             complain(item.place,
                      "item '" + index_of(item) + "' offers " + (offered->empty() ? "nothing" : joined(*offered)),
                      joined(options) + ", as the setting has them");
@@ -198,27 +254,57 @@ Place place_in_settings(const ResourceFolder& folder, const std::string& part)
     return place;
 }
 
+/// Languages that settings.json names and that have no file.
+std::vector<std::string> languages_without_file(const ResourceFolder& folder)
+{
+    std::vector<std::string> without;
+    for (const auto& [option, language] : folder.definitions.languages) {
+        if (folder.languages.count(language) == 0 && folder.broken.count("lang/" + language + ".json") == 0) {
+            without.push_back(language);
+        }
+    }
+    return without;
+}
+
+bool is_listed(const ResourceFolder& folder, const std::string& language)
+{
+    const auto& listed = folder.definitions.languages;
+    return std::any_of(listed.begin(), listed.end(), [&](const auto& row) { return row.second == language; });
+}
+
+std::vector<std::string> unlisted_languages(const ResourceFolder& folder)
+{
+    std::vector<std::string> unlisted = keys_of(folder.languages);
+    const auto listed = [&](const std::string& language) { return is_listed(folder, language); };
+    unlisted.erase(std::remove_if(unlisted.begin(), unlisted.end(), listed), unlisted.end());
+    return unlisted;
+}
+
+/// A file of another name may be meant.
 void find_missing_languages(const ResourceFolder& folder, const Complain& complain)
 {
+    const std::vector<std::string> without = languages_without_file(folder);
     for (const auto& [option, language] : folder.definitions.languages) {
-        const std::string file = "lang/" + language + ".json";
-        if (folder.languages.count(language) == 0 && folder.broken.count(file) == 0 && !folder.languages.empty()) {
+        if (std::count(without.begin(), without.end(), language) > 0 && !folder.languages.empty()) {
             complain(
-                place_in_settings(folder, "/languages/" + option), "there is no file " + file,
-                nearest_or(language, keys_of(folder.languages), "one of lang/: " + joined(keys_of(folder.languages))));
+                place_in_settings(folder, "/languages/" + option), "there is no file lang/" + language + ".json",
+                nearest_or(language, unlisted_languages(folder), "one of lang/: " + joined(keys_of(folder.languages))));
         }
     }
 }
 
 void find_unlisted_languages(const ResourceFolder& folder, const Complain& complain)
 {
-    const auto& listed = folder.definitions.languages;
     if (are_settings_broken(folder) || is_unusable(folder, settings_file, "'languages'")) {
         return;
     }
-    for (const auto& [language, texts] : folder.languages) {
-        const auto is_named = [name = language](const auto& row) { return row.second == name; };
-        if (std::none_of(listed.begin(), listed.end(), is_named)) {
+    const std::vector<std::string> unlisted = unlisted_languages(folder);
+    std::set<std::string> meant; // by names without file, of which another rule tells
+    for (const std::string& language : languages_without_file(folder)) {
+        meant.insert(nearest_word(language, unlisted));
+    }
+    for (const std::string& language : unlisted) {
+        if (meant.count(language) == 0) {
             complain({"lang/" + language + ".json"}, "nobody can choose the language '" + language + "'",
                      "a line for it in 'languages' of settings.json");
         }
@@ -227,12 +313,35 @@ void find_unlisted_languages(const ResourceFolder& folder, const Complain& compl
 
 } // namespace
 
+const char* name_of(SettingKind kind)
+{
+    switch (kind) {
+    case SettingKind::Option:
+        return "option";
+    case SettingKind::Integer:
+        return "integer";
+    case SettingKind::Text:
+        return "text";
+    case SettingKind::HexColor:
+        return "color";
+    }
+    return "";
+}
+
+const Setting* setting_of(const ResourceFolder& folder, const Element& item)
+{
+    const auto wanted = wanted_by(folder, item);
+    const auto found = wanted ? folder.definitions.settings.find(wanted->id) : folder.definitions.settings.end();
+    return found == folder.definitions.settings.end() ? nullptr : &found->second;
+}
+
 const std::vector<Rule>& setting_rules()
 {
     static const std::vector<Rule> rules = {
-        {"zone", Severity::Error, "A DataZone is one of 'zones' in settings.json.", find_strange_zones},
+        {"zone", Severity::Error, "A DataZone is one of 'zones' in settings.json.", find_strange_zones, Told::Once},
         {"no-setting", Severity::Error, "An item that shows a value has a setting.", find_missing_settings},
         {"setting-kind", Severity::Error, "The setting is of the kind that the item shows.", find_wrong_kinds},
+        {"address", Severity::Error, "A setting that is shown as an address is one.", find_no_addresses, Told::Once},
         {"options", Severity::Error, "An item with options has those of its setting.", find_other_options},
         {"fact", Severity::Error, "A STATUS item shows something that the camera knows.", find_strange_facts},
         {"no-language", Severity::Error, "Each language of settings.json has its file.", find_missing_languages},

@@ -2,6 +2,9 @@
 #include "pages/check/rule_tables.h"
 
 #include <algorithm>
+#include <cstring>
+#include <functional>
+#include <set>
 
 #include "menu/core/value_status.h"
 #include "menu/core/words.h"
@@ -59,23 +62,25 @@ private:
     std::vector<std::string> keys_; ///< in their order
 };
 
-void ask_of_pages(const ResourceFolder& folder, const Need& need)
+using Ask = std::function<void(const Place& place, const std::string& key)>;
+
+void ask_of_pages(const ResourceFolder& folder, const Ask& ask)
 {
     for_each_read(folder, [&](const Element& element) {
         for (const Attribute& attribute : element.attributes) {
             const AttributeUse* use = find_use(role_of(element), attribute.name);
             if (use != nullptr && (use->holds == Holds::Label || use->holds == Holds::Key) && is_read(element, *use)) {
-                need(attribute.place, attribute.value);
+                ask(attribute.place, attribute.value);
             }
         }
     });
 }
 
-void ask_of_settings(const ResourceFolder& folder, const Need& need)
+void ask_of_settings(const ResourceFolder& folder, const Ask& ask)
 {
     for (const auto& [id, setting] : folder.definitions.settings) {
         for (const std::string& option : setting.options) {
-            need(setting.place, option);
+            ask(setting.place, option);
         }
     }
     for (std::size_t i = 0; osdStatusKey(i).pcKey != nullptr; ++i) {
@@ -83,7 +88,7 @@ void ask_of_settings(const ResourceFolder& folder, const Need& need)
         if (osdStatusKey(i).bTranslated && fact != folder.definitions.facts.end()) {
             Place place = folder.definitions.places.of("/facts/" + fact->first);
             place.file = "settings.json";
-            need(place, fact->second);
+            ask(place, fact->second);
         }
     }
 }
@@ -92,31 +97,80 @@ void ask_of_settings(const ResourceFolder& folder, const Need& need)
 constexpr const char* own_words[] = {OSD_WORD_STATIC_IP, OSD_WORD_DHCP_IP, OSD_WORD_AUTO_MODE,
                                      OSD_WORD_CONFIRM,   OSD_WORD_FINISH,  OSD_WORD_LOADING};
 
+/// Calls ask(place, key) for each text that the menu may ask for.
+void for_each_asked(const ResourceFolder& folder, const Ask& ask)
+{
+    ask_of_pages(folder, ask);
+    ask_of_settings(folder, ask);
+    for (const char* word : own_words) {
+        ask({"lang/"}, word);
+    }
+}
+
 void find_missing_texts(const ResourceFolder& folder, const Complain& complain)
 {
-    if (folder.languages.empty()) {
-        return;
+    if (!folder.languages.empty()) {
+        for_each_asked(folder, Need(folder, complain));
     }
-    const Need need(folder, complain);
-    ask_of_pages(folder, need);
-    ask_of_settings(folder, need);
-    for (const char* word : own_words) {
-        need({"lang/"}, word);
+}
+
+/// The languages that lack a text; one that can't be used is told by its own rule.
+std::vector<std::string> languages_without(const ResourceFolder& folder, const std::string& key)
+{
+    std::vector<std::string> without;
+    for (const auto& [language, texts] : folder.languages) {
+        if (texts.count(key) == 0 && !is_unusable(folder, language_file(language), "'" + key + "'")) {
+            without.push_back(language);
+        }
+    }
+    return without;
+}
+
+/// By key, the languages that lack it.
+using Gaps = std::map<std::string, std::vector<std::string>>;
+
+/// A key that one language has, nobody asks for, and that is near to one that this language alone lacks is misspelt:
+/// one mistake, not two.
+void take_misspelt(const ResourceFolder& folder, Gaps& gaps, const Complain& complain)
+{
+    std::set<std::string> asked;
+    for_each_asked(folder, [&](const Place&, const std::string& key) { asked.insert(key); });
+    for (const auto& [language, texts] : folder.languages) {
+        std::vector<std::string> lacking;
+        for (const auto& [key, without] : gaps) {
+            if (without == std::vector<std::string>{language}) {
+                lacking.push_back(key);
+            }
+        }
+        for (const auto& [key, text] : texts) {
+            const auto gap = gaps.find(key);
+            const bool alone = gap != gaps.end() && gap->second.size() + 1 == folder.languages.size();
+            const std::string meant = alone && asked.count(key) == 0 ? nearest_word(key, lacking) : "";
+            if (!meant.empty()) {
+                complain(text.place, "no other language has a text '" + key + "'", "'" + meant + "'");
+                lacking.erase(std::find(lacking.begin(), lacking.end(), meant));
+                gaps.erase(key);
+                gaps.erase(meant);
+            }
+        }
     }
 }
 
 void find_untranslated(const ResourceFolder& folder, const Complain& complain)
 {
-    for (const auto& [key, place] : all_keys(folder)) {
-        std::vector<std::string> without;
-        for (const auto& [language, texts] : folder.languages) {
-            if (texts.count(key) == 0 && !is_unusable(folder, language_file(language), "'" + key + "'")) {
-                without.push_back(language);
-            }
-        }
+    const std::map<std::string, Place> keys = all_keys(folder);
+    Gaps gaps;
+    for (const auto& [key, place] : keys) {
+        const std::vector<std::string> without = languages_without(folder, key);
         if (!without.empty()) {
-            complain(place, "'" + key + "' has no text in " + joined(without), "the same keys in all languages");
+            gaps.emplace(key, without);
         }
+    }
+    take_misspelt(folder, gaps, complain);
+    for (const auto& [key, without] : gaps) {
+        const Place& known = keys.at(key);
+        complain({language_file(without.front())}, "'" + key + "' has no text in " + joined(without),
+                 "one as on line " + std::to_string(known.line) + " of " + known.file);
     }
 }
 
@@ -141,7 +195,13 @@ void find_empty_texts(const ResourceFolder& folder, const Complain& complain)
 void find_blank_texts(const ResourceFolder& folder, const Complain& complain)
 {
     const auto is_blank = [](const std::string& text) {
-        return !text.empty() && text.find_first_not_of(" \t") == text.npos;
+        std::string rest = text;
+        for (const char* blank : {" ", "\t", "\n", "\r", "\xC2\xA0", "\xE3\x80\x80"}) { // also those of other widths
+            for (std::size_t at = rest.find(blank); at != rest.npos; at = rest.find(blank)) {
+                rest.erase(at, std::strlen(blank));
+            }
+        }
+        return !text.empty() && rest.empty();
     };
     tell_texts(folder, complain, is_blank, "holds nothing but blanks");
 }

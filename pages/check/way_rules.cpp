@@ -18,7 +18,8 @@ void find_broken_links(const ResourceFolder& folder, const Complain& complain)
     for (const Link& link : all_links(folder)) {
         if (folder.pages.count(link.target) == 0) {
             complain(link.attribute->place, link.attribute->name + ": there is no page '" + link.target + "'",
-                     nearest_or(link.target, keys_of(folder.pages), "a file " + link.target + "_page.xml"));
+                     nearest_or(page_name(link.target), keys_of(folder.pages),
+                                "a file " + page_name(link.target) + "_page.xml"));
         }
     }
 }
@@ -43,9 +44,13 @@ public:
                 links_[link.page->name].push_back(link);
             }
         }
+        find_circles();
     }
 
-    /// Calls too_deep(link, stack) for a link that would open one page too many.
+    /// Links that open a page above itself, whatever leads there: of a circle, the one that leads back.
+    const std::vector<Link>& circles() const { return circles_; }
+
+    /// Calls too_deep(link, stack) for a link that would open one page too many, without those that lead back.
     template <typename TooDeep>
     void from(const std::string& first, TooDeep&& too_deep)
     {
@@ -55,6 +60,9 @@ public:
             for (const auto& [top, stack] : stacks) {
                 reached_.insert(top);
                 for (const Link& link : links_[top]) {
+                    if (leads_back(link)) {
+                        continue;
+                    }
                     if (stack.size() == OSD_PAGE_MAX) {
                         too_deep(link, stack);
                         continue;
@@ -71,7 +79,47 @@ public:
     const std::set<std::string>& reached() const { return reached_; }
 
 private:
+    bool leads_back(const Link& link) const
+    {
+        return std::any_of(circles_.begin(), circles_.end(),
+                           [&](const Link& circle) { return circle.attribute == link.attribute; });
+    }
+
+    /// How many links it takes to the pages that can be reached.
+    std::map<std::string, int> distances(const std::vector<std::string>& from) const
+    {
+        std::map<std::string, int> far;
+        std::vector<std::string> pages = from;
+        for (const std::string& page : from) {
+            far.emplace(page, 0);
+        }
+        for (std::size_t i = 0; i < pages.size(); ++i) { // which grows
+            const auto links = links_.find(pages[i]);
+            const int next = far.at(pages[i]) + 1;
+            for (std::size_t j = 0; links != links_.end() && j < links->second.size(); ++j) {
+                if (far.emplace(links->second[j].target, next).second) {
+                    pages.push_back(links->second[j].target);
+                }
+            }
+        }
+        return far;
+    }
+
+    void find_circles()
+    {
+        const std::map<std::string, int> far = distances({std::begin(first_pages), std::end(first_pages)});
+        for (const auto& [page, links] : links_) {
+            for (const Link& link : links) {
+                const bool backwards = far.count(page) > 0 && far.at(link.target) <= far.at(page);
+                if (backwards && distances({link.target}).count(page) > 0) {
+                    circles_.push_back(link);
+                }
+            }
+        }
+    }
+
     std::map<std::string, std::vector<Link>> links_;
+    std::vector<Link> circles_;
     std::set<std::string> reached_;
 };
 
@@ -79,6 +127,10 @@ void find_sixth_pages(const ResourceFolder& folder, const Complain& complain)
 {
     Walk walk(folder);
     std::set<const Attribute*> told;
+    for (const Link& link : walk.circles()) {
+        complain(link.attribute->place, "page '" + link.target + "' is opened again above itself",
+                 "a page that doesn't lead back to '" + link.page->name + "'");
+    }
     for (const char* first : first_pages) {
         walk.from(first, [&](const Link& link, const Walk::Stack& stack) {
             if (told.insert(link.attribute).second) {
@@ -86,8 +138,8 @@ void find_sixth_pages(const ResourceFolder& folder, const Complain& complain)
                 for (const std::string& page : stack) {
                     way += (way.empty() ? "" : " > ") + page;
                 }
-                complain(link.attribute->place, "page '" + link.target + "' would be number 6 above " + way,
-                         "at most 5 open pages");
+                complain(link.attribute->place, "a sixth page would open on the way " + stack[0] + " > " + stack[1],
+                         "at most 5, without page '" + link.target + "' above " + way);
             }
         });
     }
@@ -98,13 +150,13 @@ bool is_missed(const ResourceFolder& folder, const std::vector<Link>& links, con
 {
     return std::any_of(links.begin(), links.end(), [&](const Link& link) {
         const bool turns = link.is_back() && link.page->name == page && folder.pages.count(link.target) > 0;
-        return turns ||
-               (folder.pages.count(link.target) == 0 && nearest_word(link.target, keys_of(folder.pages)) == page);
+        return turns || (folder.pages.count(link.target) == 0 &&
+                         nearest_word(page_name(link.target), keys_of(folder.pages)) == page);
     });
 }
 
-/// Whether all is known that leads from a page: it can be read, no item is passed over, and each that opens a page says
-/// which one.
+/// Whether all is known that leads from a page: it can be read, no item is passed over, and each that is to open
+/// a page says which one.
 bool is_plain(const PageFile& page)
 {
     bool plain = page.root != nullptr;
@@ -112,7 +164,8 @@ bool is_plain(const PageFile& page)
         for_each_element(*page.root, [&](const Element& element) {
             const bool opens = role_of(element) == On::Item && kind_of(element) == SUBPAGE;
             const bool asking = role_of(element) == On::Item && asks(kind_of(element));
-            plain = plain && !is_misplaced(element) && (!is_blind(element) || element.children.empty()) &&
+            const bool idle = role_of(element) == On::Item && is_idle_icon(element);
+            plain = plain && !idle && !is_misplaced(element) && (!is_blind(element) || element.children.empty()) &&
                     (!opens || element.find(osdAttrName(ATTR_SUB_PAGE)) != nullptr) &&
                     (!asking || element.find(osdAttrName(ATTR_CONFIRM_PAGE)) != nullptr);
         });
@@ -188,7 +241,7 @@ const std::vector<Rule>& way_rules()
     static const std::vector<Rule> rules = {
         {"no-page", Severity::Error, "A page that another one opens has a file.", find_broken_links},
         {"main-page", Severity::Error, "The menu has its first page.", find_missing_main},
-        {"sixth-page", Severity::Error, "At most five pages are open.", find_sixth_pages},
+        {"sixth-page", Severity::Error, "At most five pages are open.", find_sixth_pages, Told::Once},
         {"unreached-page", Severity::Warning, "Keys lead to each page.", find_unreached},
         {"turn", Severity::Error, "Pages that turn to each other say so on both sides.", find_wrong_turns},
     };

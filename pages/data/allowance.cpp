@@ -11,7 +11,8 @@ void read_allowances(const nlohmann::json& root, const JsonPlaces& places, std::
     const std::string part = "/" + allowance_member;
     for (const auto& [subject, reason] : found->items()) {
         if (!found->is_object() || !reason.is_string()) {
-            throw BadInput(places.of(part), "'" + allowance_member + R"(' must hold "RULE KEY": "reason")");
+            throw BadInput(places.of(part + "/" + subject),
+                           "'" + allowance_member + R"(' is of another form, expected "RULE KEY": "reason")");
         }
         const std::size_t gap = subject.find(' ');
         allowances.push_back({places.of(part + "/" + subject), subject.substr(0, gap),

@@ -9,6 +9,7 @@
 #include "pages/data/errors.h"
 #include "pages/data/json_file.h"
 #include "pages/data/texts.h"
+#include "pages/data/words.h"
 
 namespace pages {
 namespace {
@@ -28,9 +29,16 @@ constexpr KindName kind_names[] = {{"option", SettingKind::Option},
                                    {"text", SettingKind::Text},
                                    {"color", SettingKind::HexColor}};
 
-constexpr const char* fact_names[] = {"FwVersion",   "IspVersion",     "AfVersion", "AiVersion",
-                                      "VideoFormat", "DeviceName",     "SN",        "Mac",
-                                      "NdiVersion",  "FullNdiVersion", "NdiStatus", "DeviceType"};
+const std::vector<std::string> fact_names = {"FwVersion",   "IspVersion",     "AfVersion", "AiVersion",
+                                             "VideoFormat", "DeviceName",     "SN",        "Mac",
+                                             "NdiVersion",  "FullNdiVersion", "NdiStatus", "DeviceType"};
+
+const std::vector<std::string> value_fields = {"options", "min", "max", "step", "unit", "default"};
+const std::vector<std::string> setting_fields = [] {
+    std::vector<std::string> fields = {"key", "parent", "kind"};
+    fields.insert(fields.end(), value_fields.begin(), value_fields.end());
+    return fields;
+}();
 
 /// Runs the body, whose mistake is one of several.
 template <typename Body>
@@ -43,12 +51,13 @@ void collect(std::vector<BadInput>& mistakes, Body body)
     }
 }
 
-std::map<std::string, std::string> read_text_map(const json& object, const Place& place, const std::string& name)
+std::map<std::string, std::string> read_text_map(const json& object, const JsonPlaces& places, const std::string& name,
+                                                 std::vector<BadInput>& mistakes)
 {
-    FieldReader reader(object, place, "'" + name + "'");
+    FieldReader reader(object, places, "/" + name, "'" + name + "'");
     std::map<std::string, std::string> texts;
     for (const auto& [key, value] : object.items()) {
-        texts[key] = reader.text(key, 0, max_text_bytes);
+        collect(mistakes, [&, key = key] { texts[key] = reader.text(key, 0, max_text_bytes); });
     }
     return texts;
 }
@@ -56,12 +65,15 @@ std::map<std::string, std::string> read_text_map(const json& object, const Place
 SettingKind read_kind(FieldReader& reader)
 {
     const std::string word = reader.text("kind", 1, max_text_bytes);
+    std::vector<std::string> words;
     for (const KindName& row : kind_names) {
         if (word == row.name) {
             return row.kind;
         }
+        words.emplace_back(row.name);
     }
-    reader.complain("unknown kind '" + word + "', expected option, integer, text or color");
+    reader.ignore(value_fields);
+    reader.complain("kind", "unknown kind '" + word + "'", one_of(word, words));
 }
 
 void check_option_list(const FieldReader& reader, const std::vector<std::string>& options)
@@ -70,24 +82,26 @@ void check_option_list(const FieldReader& reader, const std::vector<std::string>
     std::set<std::string> seen;
     for (const std::string& option : options) {
         if (option.empty() || option.size() > max_value_bytes || option.find_first_of(no_option_bytes) != option.npos) {
-            reader.complain("option '" + option + "' must have 1 to 15 bytes and neither ':' nor a zero byte");
+            reader.complain("options", "option '" + option + "' can't be used",
+                            "1 to 15 bytes and neither ':' nor a zero byte");
         }
         if (!seen.insert(option).second) {
-            reader.complain("option '" + option + "' stands twice");
+            reader.complain("options", "option '" + option + "' stands twice", "each once");
         }
         joined += option.size() + 1;
     }
     if (options.empty() || options.size() > OSD_OPTION_MAX || joined - 1 > max_list_bytes) {
-        reader.complain("'options' must hold 1 to 32 entries, together at most 271 bytes with ':' between them");
+        reader.complain("options", "'options' holds " + std::to_string(options.size()) + " entries",
+                        "1 to 32, together at most 271 bytes with ':' between them");
     }
 }
 
 std::vector<std::string> read_options(FieldReader& reader)
 {
-    const json& list = reader.field("options");
+    const json& list = reader.field("options", "a list of texts");
     const auto is_text = [](const json& entry) { return entry.is_string(); };
     if (!list.is_array() || !std::all_of(list.begin(), list.end(), is_text)) {
-        reader.complain("'options' must be a list of texts");
+        reader.complain("options", "'options' is no list of texts", "[\"Off\", \"On\"] or the like");
     }
     auto options = list.get<std::vector<std::string>>();
     check_option_list(reader, options);
@@ -98,32 +112,32 @@ std::int32_t read_step(FieldReader& reader)
 {
     const std::int32_t step = reader.integer("step");
     if (step < 1) {
-        reader.complain("expected a 'step' of 1 or more");
+        reader.complain("step", "'step' is " + std::to_string(step), "1 or more");
     }
     return step;
 }
 
-void read_range(FieldReader& reader, Setting& setting)
+void read_range(FieldReader& reader, Setting& setting, std::vector<BadInput>& mistakes)
 {
-    setting.min = reader.integer("min");
-    setting.max = reader.integer("max");
-    setting.step = read_step(reader);
-    if (reader.has("unit")) {
-        setting.unit = reader.text("unit", 0, max_value_bytes);
-    }
-    if (setting.min >= setting.max) {
-        reader.complain("expected 'min' below 'max'");
+    const std::size_t before = mistakes.size();
+    collect(mistakes, [&] { setting.min = reader.integer("min"); });
+    collect(mistakes, [&] { setting.max = reader.integer("max"); });
+    const bool is_range = mistakes.size() == before;
+    collect(mistakes, [&] { setting.step = read_step(reader); });
+    collect(mistakes, [&] { setting.unit = reader.has("unit") ? reader.text("unit", 0, max_value_bytes) : ""; });
+    if (is_range && setting.min >= setting.max) {
+        reader.complain("min", "'min' is " + std::to_string(setting.min), "'min' below 'max'");
     }
 }
 
-void read_kind_fields(FieldReader& reader, Setting& setting)
+void read_kind_fields(FieldReader& reader, Setting& setting, std::vector<BadInput>& mistakes)
 {
     switch (setting.kind) {
     case SettingKind::Option:
         setting.options = read_options(reader);
         break;
     case SettingKind::Integer:
-        read_range(reader, setting);
+        read_range(reader, setting, mistakes);
         break;
     case SettingKind::HexColor:
         setting.max = 0xFFFFFF;
@@ -134,35 +148,58 @@ void read_kind_fields(FieldReader& reader, Setting& setting)
     }
 }
 
-Setting read_setting(const json& object, const Place& place)
+void read_value_fields(FieldReader& reader, Setting& setting, std::vector<BadInput>& mistakes)
+{
+    collect(mistakes, [&] { read_kind_fields(reader, setting, mistakes); });
+    collect(mistakes, [&] {
+        setting.default_text = setting.kind == SettingKind::Integer ? std::to_string(reader.integer("default"))
+                                                                    : reader.text("default", 0, max_value_bytes);
+    });
+}
+
+/// All mistakes of a setting; it can be used only without one.
+Setting read_setting(const json& object, const JsonPlaces& places, const std::string& part,
+                     std::vector<BadInput>& mistakes)
 {
     Setting setting;
-    setting.place = place;
-    FieldReader first(object, place, "a setting");
+    setting.place = places.of(part);
+    FieldReader first(object, places, part, "a setting");
+    first.expect(setting_fields);
     setting.id.key = first.text("key", 1, max_text_bytes);
-    FieldReader reader(object, place, "setting '" + setting.id.key + "'");
-    (void)reader.field("key");
-    if (reader.has("parent")) {
-        setting.id.parent = reader.text("parent", 0, max_text_bytes);
-    }
-    setting.kind = read_kind(reader);
-    read_kind_fields(reader, setting);
-    setting.default_text = setting.kind == SettingKind::Integer ? std::to_string(reader.integer("default"))
-                                                                : reader.text("default", 0, max_value_bytes);
-    reader.refuse_other_fields();
-    const std::string problem = problem_with(setting, setting.default_text);
+    FieldReader reader(object, places, part, "setting '" + setting.id.key + "'");
+    reader.expect(setting_fields);
+    reader.ignore({"key"});
+    const std::size_t before = mistakes.size();
+    collect(mistakes, [&] {
+        setting.id.parent = reader.has("parent") ? reader.text("parent", 0, max_text_bytes) : "";
+        reader.ignore({"parent"});
+    });
+    collect(mistakes, [&] {
+        setting.kind = read_kind(reader);
+        read_value_fields(reader, setting, mistakes);
+    });
+    reader.tell_other_fields(mistakes);
+    const std::string problem = mistakes.size() > before ? "" : problem_with(setting, setting.default_text);
     if (!problem.empty()) {
-        reader.complain("'default': " + problem);
+        reader.complain("default", "'default': " + problem, "");
     }
     return setting;
 }
 
-void add_setting(const json& object, const Place& place, Definitions& definitions)
+void add_setting(const json& object, const JsonPlaces& places, const std::string& part, Definitions& definitions,
+                 std::vector<BadInput>& mistakes)
 {
-    Setting setting = read_setting(object, place);
+    const std::size_t before = mistakes.size();
+    Setting setting = read_setting(object, places, part, mistakes);
     const SettingId id = setting.id;
-    if (!definitions.settings.emplace(id, std::move(setting)).second) {
-        throw BadInput(place, "setting " + to_string(id) + " is defined twice");
+    const auto twin = definitions.settings.find(id);
+    if (twin != definitions.settings.end()) {
+        throw BadInput(places.of(part + "/key"), "setting " + to_string(id) +
+                                                     " is defined twice, expected one of this and line " +
+                                                     std::to_string(twin->second.place.line));
+    }
+    if (mistakes.size() == before) {
+        definitions.settings.emplace(id, std::move(setting));
     }
 }
 
@@ -170,10 +207,11 @@ void read_settings(const json& list, const JsonPlaces& places, Definitions& defi
                    std::vector<BadInput>& mistakes)
 {
     if (!list.is_array()) {
-        throw BadInput(places.of("/settings"), "'settings' must be a list, [ ... ]");
+        throw BadInput(places.of("/settings"), "'settings' is " + words_of_value(list) + ", expected a list, [ ... ]");
     }
     for (std::size_t i = 0; i < list.size(); ++i) {
-        collect(mistakes, [&] { add_setting(list[i], places.of("/settings/" + std::to_string(i)), definitions); });
+        collect(mistakes,
+                [&] { add_setting(list[i], places, "/settings/" + std::to_string(i), definitions, mistakes); });
     }
 }
 
@@ -182,34 +220,50 @@ constexpr const char* event_facts[] = {"AfVersion",   "IspVersion",     "AiVersi
                                        "VideoFormat", "DeviceName",     "SN",        "Mac",
                                        "NdiVersion",  "FullNdiVersion", "NdiStatus", custom_color};
 
-std::map<std::string, std::string> read_facts(const json& object, const Place& place)
+std::map<std::string, std::string> read_facts(const json& object, const JsonPlaces& places,
+                                              std::vector<BadInput>& mistakes)
 {
-    FieldReader reader(object, place, "'facts'");
+    FieldReader reader(object, places, "/facts", "'facts'");
+    reader.expect(fact_names);
     std::map<std::string, std::string> facts;
-    for (const char* name : fact_names) {
-        facts[name] = reader.text(name, 0, max_text_bytes);
+    for (const std::string& name : fact_names) {
+        collect(mistakes, [&] { facts[name] = reader.text(name, 0, max_text_bytes); });
     }
-    reader.refuse_other_fields();
+    reader.tell_other_fields(mistakes);
     return facts;
+}
+
+/// Whether a mistake with these words at its begin is told.
+bool is_told(const std::vector<BadInput>& mistakes, const std::string& begin)
+{
+    return std::any_of(mistakes.begin(), mistakes.end(),
+                       [&](const BadInput& mistake) { return mistake.words().compare(0, begin.size(), begin) == 0; });
 }
 
 void check_languages(const Definitions& definitions, const JsonPlaces& places, std::vector<BadInput>& mistakes)
 {
     const auto found = definitions.settings.find(language_setting);
+    if (is_told(mistakes, "'settings'") || is_told(mistakes, "setting 'Language'") ||
+        (is_told(mistakes, "'languages'") && definitions.languages.empty())) {
+        return;
+    }
     if (found == definitions.settings.end() || found->second.kind != SettingKind::Option) {
-        throw BadInput(places.of(""), "there must be a setting 'Language' of kind option, without parent");
+        throw BadInput(places.of("/settings"),
+                       "no setting chooses the language, expected a setting 'Language' of kind option, without parent");
     }
     const Setting& setting = found->second;
     for (const std::string& option : setting.options) {
-        if (definitions.languages.count(option) == 0) {
-            mistakes.emplace_back(setting.place,
-                                  "setting 'Language': option '" + option + "' is missing in 'languages'");
+        if (definitions.languages.count(option) == 0 && !is_told(mistakes, "'languages': '" + option + "'")) {
+            mistakes.emplace_back(setting.place, "setting 'Language': option '" + option +
+                                                     "' is missing in 'languages', expected \"" + option +
+                                                     "\": \"name of its file in lang/\"");
         }
     }
     for (const auto& [key, name] : definitions.languages) {
         if (std::count(setting.options.begin(), setting.options.end(), key) == 0) {
             mistakes.emplace_back(places.of("/languages/" + key),
-                                  "'languages': '" + key + "' is no option of the setting 'Language'");
+                                  "'languages': '" + key + "' is no option of the setting 'Language', expected " +
+                                      one_of(key, setting.options));
         }
     }
 }
@@ -218,12 +272,15 @@ void check_zones(const Definitions& definitions, const JsonPlaces& places, std::
 {
     std::set<std::string> parents;
     for (const auto& [id, setting] : definitions.settings) {
-        parents.insert(id.parent);
+        if (!id.parent.empty()) {
+            parents.insert(id.parent);
+        }
     }
     for (const auto& [zone, parent] : definitions.zones) {
-        if (parents.count(parent) == 0) {
+        if (parents.count(parent) == 0 && !is_told(mistakes, "'settings'")) {
             mistakes.emplace_back(places.of("/zones/" + zone),
-                                  "zone '" + zone + "': no setting has the parent '" + parent + "'");
+                                  "zone '" + zone + "': no setting has the parent '" + parent + "', expected " +
+                                      nearest_or(parent, {parents.begin(), parents.end()}, "the parent of a setting"));
         }
     }
 }
@@ -252,19 +309,19 @@ Definitions read_definitions(const std::filesystem::path& path, std::vector<BadI
 {
     JsonPlaces places(path.string());
     const json root = load_json_object(path, &places);
-    FieldReader reader(root, places.of(""));
+    FieldReader reader(root, places, "", "");
+    reader.expect({"languages", "facts", "zones", "settings", allowance_member});
+    reader.ignore({allowance_member});
     Definitions definitions;
     collect(mistakes, [&] {
-        definitions.languages = read_text_map(reader.field("languages"), places.of("/languages"), "languages");
+        definitions.languages = read_text_map(reader.field("languages", "an object"), places, "languages", mistakes);
     });
-    collect(mistakes, [&] { definitions.facts = read_facts(reader.field("facts"), places.of("/facts")); });
-    collect(mistakes, [&] { definitions.zones = read_text_map(reader.field("zones"), places.of("/zones"), "zones"); });
-    collect(mistakes, [&] { read_settings(reader.field("settings"), places, definitions, mistakes); });
+    collect(mistakes, [&] { definitions.facts = read_facts(reader.field("facts", "an object"), places, mistakes); });
+    collect(mistakes,
+            [&] { definitions.zones = read_text_map(reader.field("zones", "an object"), places, "zones", mistakes); });
+    collect(mistakes, [&] { read_settings(reader.field("settings", "a list"), places, definitions, mistakes); });
     collect(mistakes, [&] { read_allowances(root, places, definitions.allowances); });
-    if (reader.has(allowance_member)) {
-        (void)reader.field(allowance_member);
-    }
-    collect(mistakes, [&] { reader.refuse_other_fields(); });
+    reader.tell_other_fields(mistakes);
     collect(mistakes, [&] { check_languages(definitions, places, mistakes); });
     collect(mistakes, [&] { check_zones(definitions, places, mistakes); });
     definitions.places = std::move(places);

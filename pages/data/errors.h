@@ -1,10 +1,11 @@
 // What can't be used, and where it stands.
 #pragma once
 
-#include <algorithm>
 #include <stdexcept>
 #include <string>
 #include <utility>
+
+#include "pages/data/words.h"
 
 namespace pages {
 
@@ -28,21 +29,14 @@ inline std::string to_string(const Place& place)
     return words;
 }
 
-/// Words with a mark for each zero byte, at which what() would end.
-inline std::string without_zeros(std::string words)
-{
-    std::replace(words.begin(), words.end(), '\0', '?');
-    return words;
-}
-
 /// What the user gave can't be used. The text is one line: where, what is wrong, what was expected. Exit status 2.
 /// Anything else that is thrown is a failure of the program itself, exit status 1.
 class BadInput : public std::runtime_error {
 public:
     explicit BadInput(const std::string& words) : BadInput(Place(), words) {}
     BadInput(Place place, const std::string& words)
-        : std::runtime_error((place.file.empty() ? "" : to_string(place) + ": ") + without_zeros(words)),
-          place_(std::move(place)), words_(without_zeros(words))
+        : std::runtime_error((place.file.empty() ? "" : to_string(place) + ": ") + on_one_line(words)),
+          place_(std::move(place)), words_(on_one_line(words))
     {
     }
 

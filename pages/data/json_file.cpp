@@ -1,16 +1,19 @@
 #include "pages/data/json_file.h"
 
 #include <algorithm>
-#include <cstring>
+#include <cctype>
 #include <functional>
 #include <istream>
+#include <optional>
 #include <set>
 #include <sstream>
+#include <string_view>
 #include <utility>
 #include <vector>
 
 #include "pages/data/errors.h"
 #include "pages/data/text_file.h"
+#include "pages/data/words.h"
 
 namespace pages {
 namespace {
@@ -119,30 +122,83 @@ private:
     int line_ = 1;
 };
 
-/// What stands behind a mark in the parser's message; all of it when the mark is missing.
-std::string words_behind(const char* mark, const json::exception& error)
+/// What to say in place of the parser's words.
+struct Slip {
+    std::string_view words; ///< a part of the parser's
+    const char* what;
+};
+constexpr Slip slips[] = {
+    {"control character U+000A", "the text doesn't end on its line, expected a quotation mark at its end"},
+    {"missing closing quote", "the text doesn't end on its line, expected a quotation mark at its end"},
+    {"object key - invalid literal", "this is no key, expected a text in quotation marks"},
+    {"invalid literal", "this is no value, expected a text in quotation marks, a number, true or false"},
+};
+
+constexpr std::string_view json_blanks = " \t\r\n";
+
+Place place_at(std::size_t at, const std::string& text, const std::string& file)
+{
+    const std::size_t end = std::min(at, text.size());
+    const std::size_t line_end = end == 0 ? text.npos : text.rfind('\n', end - 1);
+    return {file, static_cast<int>(1 + std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(end), '\n')),
+            static_cast<int>(line_end == text.npos ? end : end - line_end - 1) + 1};
+}
+
+/// The mistakes that are made most: a comma that is missing, one too many, a comment.
+std::optional<BadInput> common_mistake(const std::string& words, std::size_t at, const std::string& text,
+                                       const std::string& file)
+{
+    const auto is_letter = [&](std::size_t i) { return std::isalnum(static_cast<unsigned char>(text[i])) != 0; };
+    if (at >= text.size()) {
+        return std::nullopt;
+    }
+    if (text[at] == '/' || text[at] == '#' || (at > 0 && text[at - 1] == '/')) {
+        return BadInput(place_at(at, text, file), "a JSON file can't hold comments, expected none");
+    }
+    std::size_t begin = token_begin(text, at + 1);
+    while (begin > 0 && is_letter(begin) && is_letter(begin - 1)) {
+        --begin;
+    }
+    const std::size_t before = begin == 0 ? text.npos : text.find_last_not_of(json_blanks, begin - 1);
+    const bool closes = text[begin] == '}' || text[begin] == ']';
+    if (closes && before != text.npos && text[before] == ',') {
+        return BadInput(place_at(before, text, file),
+                        "there is a comma too many, expected none before '" + text.substr(begin, 1) + "'");
+    }
+    const bool between = words.find("parsing object -") != words.npos || words.find("parsing array -") != words.npos;
+    if (between && !closes && text[begin] != ':' && before != text.npos) {
+        return BadInput(place_at(before + 1, text, file), "a comma is missing, expected ',' before what follows");
+    }
+    return std::nullopt;
+}
+
+BadInput syntax_error(const json::parse_error& error, const std::string& text, const std::string& file)
+{
+    const std::string all = error.what();
+    const std::size_t begin = all.find(": ");
+    std::string words = all.substr(begin == all.npos ? 0 : begin + 2);
+    const std::size_t at = error.byte == 0 ? text.size() : error.byte - 1; // the byte in question counts as read
+    if (const auto common = common_mistake(words, at, text, file)) {
+        return *common;
+    }
+    for (const Slip& slip : slips) {
+        if (words.find(slip.words) != words.npos) {
+            return {place_at(at, text, file), slip.what};
+        }
+    }
+    words = words.substr(0, words.find("; last read"));
+    const std::size_t expected = words.find("; expected ");
+    return {place_at(at, text, file), expected == words.npos ? words : words.replace(expected, 1, ",")};
+}
+
+/// Well formed, but no value of this machine: 1e999.
+BadInput overflow(const json::exception& error, const std::string& text, const std::string& file)
 {
     const std::string words = error.what();
-    const std::size_t place = words.find(mark);
-    return place == std::string::npos ? words : words.substr(place + std::strlen(mark));
-}
-
-/// The parser's words for a syntax error, or what to do about the commonest one.
-std::string words_of(const json::parse_error& error, const std::string& text)
-{
-    const std::size_t at = error.byte == 0 ? text.size() : error.byte - 1;
-    const bool comment = at < text.size() && (text[at] == '/' || text[at] == '#' || (at > 0 && text[at - 1] == '/'));
-    return comment ? "a JSON file can't hold comments, expected none" : words_behind(": ", error);
-}
-
-/// Where the parser met a syntax error; it counts the byte in question as read.
-Place place_of(const json::parse_error& error, const std::string& text, const std::string& file)
-{
-    const std::size_t at = std::min(error.byte == 0 ? 0 : error.byte - 1, text.size());
-    const auto end = text.begin() + static_cast<std::ptrdiff_t>(at);
-    const std::size_t line_end = at == 0 ? text.npos : text.rfind('\n', at - 1);
-    return {file, static_cast<int>(1 + std::count(text.begin(), end, '\n')),
-            static_cast<int>(line_end == text.npos ? at : at - line_end - 1) + 1};
+    const std::size_t first = words.find('\'');
+    const std::string number = first == words.npos ? "" : words.substr(first + 1, words.rfind('\'') - first - 1);
+    return {place_at(text.find(number), text, file),
+            "'" + number + "' is too large, expected a whole number of 32 bits"};
 }
 
 } // namespace
@@ -150,7 +206,10 @@ Place place_of(const json::parse_error& error, const std::string& text, const st
 Place JsonPlaces::of(const std::string& part) const
 {
     const auto found = places_.find(part);
-    return found == places_.end() ? Place{file_} : found->second;
+    if (found != places_.end()) {
+        return found->second;
+    }
+    return part.empty() ? Place{file_} : of(part.substr(0, part.rfind('/')));
 }
 
 json load_json_object(const std::filesystem::path& path, JsonPlaces* places)
@@ -166,76 +225,128 @@ json parse_json_object(const std::string& text, const std::string& file, JsonPla
         Follower follower(text, stream, file, places);
         root = json::parse(stream, std::ref(follower)); // by reference: the parser copies its callback
     } catch (const json::parse_error& error) {
-        throw BadInput(place_of(error, text, file), words_of(error, text));
-    } catch (const json::exception& error) { // well formed, but no value of this machine: 1e999
-        throw BadInput(Place{file}, words_behind("] ", error));
+        throw BadInput(syntax_error(error, text, file));
+    } catch (const json::exception& error) {
+        throw BadInput(overflow(error, text, file));
     }
+    const Place begin = place_at(text.find_first_not_of(json_blanks), text, file);
     if (!root.is_object()) {
-        throw BadInput(Place{file}, "expected one object, { ... }");
+        throw BadInput(begin, "the file is " + words_of_value(root) + ", expected one object, { ... }");
+    }
+    if (places != nullptr) {
+        places->add("", begin.line, begin.column);
     }
     return root;
+}
+
+std::string words_of_value(const json& value)
+{
+    if (value.is_structured()) {
+        return value.is_array() ? "a list" : "an object";
+    }
+    return value.dump(-1, ' ', false, json::error_handler_t::replace);
 }
 
 FieldReader::FieldReader(const json& object, Place place, std::string subject)
     : object_(object), place_(std::move(place)), subject_(std::move(subject))
 {
     if (!object_.is_object()) {
-        complain("must be an object, { ... }");
+        throw BadInput(place_, subject_ + " is " + words_of_value(object) + ", expected an object, { ... }");
     }
 }
 
-const json& FieldReader::field(const std::string& name)
+FieldReader::FieldReader(const json& object, const JsonPlaces& places, std::string part, std::string subject)
+    : FieldReader(object, places.of(part), std::move(subject))
+{
+    places_ = &places;
+    part_ = std::move(part);
+}
+
+std::string FieldReader::misspelt(const std::string& name) const
+{
+    for (const auto& [other, value] : object_.items()) {
+        const bool known = known_.count(other) > 0 || std::count(expected_.begin(), expected_.end(), other) > 0;
+        if (!known && nearest_word(other, expected_) == name) {
+            return other;
+        }
+    }
+    return "";
+}
+
+const json& FieldReader::field(const std::string& name, const std::string& form)
 {
     known_.insert(name);
     const auto found = object_.find(name);
-    if (found == object_.end()) {
-        complain("'" + name + "' is missing");
+    if (found != object_.end()) {
+        return *found;
     }
-    return *found;
+    const std::string other = misspelt(name);
+    if (!other.empty()) {
+        known_.insert(other);
+        complain(other, "unknown field '" + other + "'", "'" + name + "'");
+    }
+    complain(name, "'" + name + "' is missing", form);
 }
 
 std::string FieldReader::text(const std::string& name, std::size_t min_bytes, std::size_t max_bytes)
 {
-    const json& value = field(name);
+    const std::string bytes = std::to_string(min_bytes) + " to " + std::to_string(max_bytes);
+    const json& value = field(name, "a text of " + bytes + " bytes");
     if (!value.is_string()) {
-        complain("'" + name + "' must be a text");
+        complain(name, "'" + name + "' is " + words_of_value(value), "a text of " + bytes + " bytes");
     }
     const auto text = value.get<std::string>();
-    if (text.size() < min_bytes || text.size() > max_bytes || text.find('\0') != std::string::npos) {
-        complain("'" + name + "' has " + std::to_string(text.size()) + " bytes, expected " + std::to_string(min_bytes) +
-                 " to " + std::to_string(max_bytes));
+    if (text.size() < min_bytes || text.size() > max_bytes) {
+        complain(name, "'" + name + "' has " + std::to_string(text.size()) + " bytes", bytes);
+    }
+    if (text.find('\0') != std::string::npos) {
+        complain(name, "'" + name + "' holds a zero byte", "letters alone");
     }
     return text;
 }
 
 std::int32_t FieldReader::integer(const std::string& name)
 {
-    const json& value = field(name);
+    static const std::string form = "a whole number of 32 bits";
+    const json& value = field(name, form);
     const bool small =
         value.is_number_integer() && (value.is_number_unsigned() ? value.get<std::uint64_t>() < (1U << 31)
                                                                  : value.get<std::int64_t>() >= -(1LL << 31));
     if (!small) {
-        complain("'" + name + "' must be a whole number of 32 bits");
+        complain(name, "'" + name + "' is " + words_of_value(value), form);
     }
     return value.get<std::int32_t>();
 }
 
 void FieldReader::refuse_other_fields() const
 {
-    std::string known;
-    for (const std::string& name : known_) {
-        known += (known.empty() ? "" : ", ") + name;
+    std::vector<BadInput> mistakes;
+    tell_other_fields(mistakes);
+    if (!mistakes.empty()) {
+        throw BadInput(mistakes.front());
     }
+}
+
+void FieldReader::tell_other_fields(std::vector<BadInput>& mistakes) const
+{
     for (const auto& [name, value] : object_.items()) {
         if (known_.count(name) == 0) {
-            complain("unknown field '" + name + "', expected only " + known);
+            mistakes.push_back(
+                mistake(name, "unknown field '" + name + "'", one_of(name, {known_.begin(), known_.end()})));
         }
     }
 }
 
-void FieldReader::complain(const std::string& what) const
+void FieldReader::complain(const std::string& field, const std::string& what, const std::string& expected) const
 {
-    throw BadInput(place_, (subject_.empty() ? "" : subject_ + ": ") + what);
+    throw BadInput(mistake(field, what, expected));
+}
+
+BadInput FieldReader::mistake(const std::string& field, const std::string& what, const std::string& expected) const
+{
+    const bool is_there = places_ != nullptr && has(field);
+    return {is_there ? places_->of(part_ + "/" + field) : place_,
+            (subject_.empty() ? "" : subject_ + ": ") + what + (expected.empty() ? "" : ", expected " + expected)};
 }
 
 } // namespace pages

@@ -2,8 +2,12 @@
 
 #include <algorithm>
 #include <expat.h>
+#include <optional>
 #include <system_error>
 #include <utility>
+
+#include "pages/data/text_file.h"
+#include "pages/data/xml_slip.h"
 
 namespace pages {
 namespace {
@@ -17,12 +21,12 @@ struct Remedy {
     const char* expected;
 };
 constexpr Remedy remedies[] = {
-    {XML_ERROR_INVALID_TOKEN,
-     "both quotation marks of each value, &amp; for &, no comment in a tag, no -- in a comment"},
     {XML_ERROR_UNCLOSED_TOKEN, "the end of what begins here"},
     {XML_ERROR_DUPLICATE_ATTRIBUTE, "each attribute once"},
     {XML_ERROR_NO_ELEMENTS, "an element <Page>"},
     {XML_ERROR_JUNK_AFTER_DOC_ELEMENT, "one element <Page> around all others"},
+    {XML_ERROR_UNDEFINED_ENTITY, "a letter, or one of &amp; &lt; &gt; &quot; &apos;"},
+    {XML_ERROR_XML_DECL, "<?xml version=\"1.0\" encoding=\"UTF-8\"?>"},
     {XML_ERROR_MISPLACED_XML_PI, "<?xml ...?> at the begin of the file"},
 };
 
@@ -35,16 +39,22 @@ public:
         XML_SetElementHandler(parser_.get(), start, end);
         XML_SetCharacterDataHandler(parser_.get(), text);
         XML_SetCommentHandler(parser_.get(), comment);
+        XML_SetStartDoctypeDeclHandler(parser_.get(), doctype);
     }
 
     /// Throws BadInput for a text that is not well formed.
     void build()
     {
         const std::string& words = page_.text;
-        if (XML_Parse(parser_.get(), words.data(), static_cast<int>(words.size()), XML_TRUE) != XML_STATUS_OK) {
-            const std::string open =
-                open_ == nullptr ? "" : " (<" + open_->name + "> is open since " + place_words() + ")";
+        const bool whole =
+            XML_Parse(parser_.get(), words.data(), static_cast<int>(words.size()), XML_TRUE) == XML_STATUS_OK;
+        if (declares_) {
+            throw BadInput(*declares_, "the menu doesn't read what a DOCTYPE declares, expected no [ ... ] in it");
+        }
+        if (!whole) {
             const XML_Error error = XML_GetErrorCode(parser_.get());
+            const std::string open =
+                lacks_end(error) ? " (<" + open_->name + "> is open since " + place_words() + ")" : "";
             throw BadInput(here(), XML_ErrorString(error) + open + remedy(error));
         }
     }
@@ -62,11 +72,29 @@ private:
         Builder& builder = of(data);
         builder.page_.comments.push_back({words, builder.here()});
     }
+    static void doctype(void* data, const char* /*name*/, const char* /*system*/, const char* /*external*/,
+                        int declares)
+    {
+        Builder& builder = of(data);
+        if (declares != 0) {
+            builder.declares_ = builder.here();
+            (void)XML_StopParser(builder.parser_.get(), XML_FALSE); // what can be stopped is: it is being read
+        }
+    }
+
+    bool lacks_end(XML_Error error) const
+    {
+        return open_ != nullptr && (error == XML_ERROR_TAG_MISMATCH || error == XML_ERROR_NO_ELEMENTS);
+    }
 
     std::string remedy(XML_Error error) const
     {
-        if (open_ != nullptr && (error == XML_ERROR_TAG_MISMATCH || error == XML_ERROR_NO_ELEMENTS)) {
+        if (lacks_end(error)) {
             return ", expected </" + open_->name + ">";
+        }
+        if (error == XML_ERROR_INVALID_TOKEN || error == XML_ERROR_SYNTAX) {
+            const auto at = static_cast<std::size_t>(XML_GetCurrentByteIndex(parser_.get()));
+            return std::string(", expected ") + expected_in_xml(page_.text, at);
         }
         for (const Remedy& row : remedies) {
             if (row.error == error) {
@@ -141,6 +169,7 @@ private:
     PageFile& page_;
     std::unique_ptr<XML_ParserStruct, decltype(&XML_ParserFree)> parser_;
     Element* open_ = nullptr;
+    std::optional<Place> declares_; ///< of a DOCTYPE with declarations
 };
 
 } // namespace
@@ -174,11 +203,7 @@ std::filesystem::path page_folder(const std::filesystem::path& resources)
 bool is_page_file(const std::filesystem::path& path)
 {
     const std::string name = path.filename().string();
-    if (name.empty()) {
-        return false;
-    }
-    const bool of_an_editor = name.front() == '.' || name.front() == '#'; // a copy or a lock
-    return !of_an_editor && name.size() > ending.size() &&
+    return !is_of_editor(path) && name.size() > ending.size() &&
            name.compare(name.size() - ending.size(), ending.size(), ending) == 0;
 }
 

@@ -37,12 +37,15 @@ int number_behind(std::string_view word, const std::string& message)
     return place == message.npos ? 0 : std::atoi(message.c_str() + place + word.size());
 }
 
-[[noreturn]] void fail(const std::filesystem::path& path, GError* error)
+[[noreturn]] void fail(const std::filesystem::path& path, const std::string& text, GError* error)
 {
     const std::unique_ptr<GError, FreeWith<g_error_free>> owner(error);
+    if (text.find_first_not_of(" \t\r\n") == text.npos) {
+        throw BadInput(Place{path.string()}, "no picture: the file is empty, expected a drawing");
+    }
     const std::string words = error == nullptr ? "can't be drawn" : error->message;
     throw BadInput({path.string(), number_behind(" on line ", words), number_behind(" column ", words)},
-                   "no picture: " + words.substr(0, words.find('\n')));
+                   "no picture: " + words.substr(0, words.find('\n')) + ", expected a drawing in SVG");
 }
 
 std::uint32_t straight(std::uint32_t pixel)
@@ -79,7 +82,7 @@ Picture draw_svg(const std::filesystem::path& path)
     GError* error = nullptr;
     const Handle handle(rsvg_handle_new_from_data(reinterpret_cast<const guint8*>(text.data()), text.size(), &error));
     if (handle == nullptr) {
-        fail(path, error);
+        fail(path, text, error);
     }
     double width = 0;
     double height = 0;
@@ -93,7 +96,7 @@ Picture draw_svg(const std::filesystem::path& path)
     const Pen pen(cairo_create(canvas.get()));
     const RsvgRectangle place = {0, 0, std::ceil(width), std::ceil(height)};
     if (rsvg_handle_render_document(handle.get(), pen.get(), &place, &error) == 0) {
-        fail(path, error);
+        fail(path, text, error);
     }
     return pixels_of(canvas.get());
 }
@@ -104,7 +107,8 @@ Picture read_bitmap(const std::filesystem::path& path)
     const Surface argb(loaded == nullptr ? nullptr
                                          : SDL_ConvertSurfaceFormat(loaded.get(), SDL_PIXELFORMAT_ARGB8888, 0));
     if (argb == nullptr) {
-        throw BadInput(Place{path.string()}, std::string("no picture: ") + SDL_GetError());
+        throw BadInput(Place{path.string()},
+                       std::string("no picture: ") + SDL_GetError() + ", expected a drawing in SVG or a BMP");
     }
     Picture picture{argb->w, argb->h, {}};
     for (int y = 0; y < argb->h; ++y) {
@@ -119,6 +123,10 @@ Picture read_bitmap(const std::filesystem::path& path)
 
 Picture read_picture(const std::filesystem::path& path)
 {
+    if (path.extension() != ".svg" && path.extension() != ".bmp") {
+        throw BadInput(Place{path.string()},
+                       "nobody reads a picture of this kind, expected " + path.stem().string() + ".svg");
+    }
     return path.extension() == ".svg" ? draw_svg(path) : read_bitmap(path);
 }
 

@@ -1,5 +1,8 @@
 #include "pages/data/resource_folder.h"
 
+#include <algorithm>
+#include <cctype>
+#include <iterator>
 #include <system_error>
 #include <utility>
 
@@ -10,16 +13,28 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The files of a folder in the order of their names; none for a folder that isn't there.
+/// The files of a folder in the order of their names, without those of editors; none for a folder that isn't there.
 std::set<fs::path> files_in(const fs::path& folder)
 {
     std::set<fs::path> files;
     std::error_code error;
     for (const auto& entry : fs::directory_iterator(folder, error)) {
-        files.insert(entry.path());
+        if (!is_of_editor(entry.path())) {
+            files.insert(entry.path());
+        }
     }
     return files;
 }
+
+std::string in_small_letters(std::string name)
+{
+    std::transform(name.begin(), name.end(), name.begin(),
+                   [](unsigned char letter) { return static_cast<char>(std::tolower(letter)); });
+    return name;
+}
+
+constexpr const char* drawn[] = {".svg", ".bmp"};
+constexpr const char* not_drawn[] = {".svg", ".bmp", ".png", ".jpg", ".jpeg", ".gif", ".webp"}; ///< in capitals as well
 
 class Reader {
 public:
@@ -33,6 +48,11 @@ public:
                 attempt(file, [&] { read_page_file(file); });
             }
         }
+        for (const fs::path& file : files_in(page_folder(root))) {
+            if (!is_page_file(file) && is_page_file(in_small_letters(file.string()))) {
+                take_misnamed_page(file);
+            }
+        }
         for (const fs::path& file : files_in(root / "lang")) {
             if (file.extension() == ".json") {
                 attempt(file, [&] { read_language(file); });
@@ -40,11 +60,8 @@ public:
         }
         const fs::path settings = root / "settings.json";
         attempt(settings, [&] { read_settings(settings); });
-        for (const fs::path& file : files_in(root / "pic")) {
-            if (file.extension() == ".svg" || file.extension() == ".bmp") {
-                folder_.pictures.emplace(file.stem().string(), file);
-            }
-        }
+        take_pictures(drawn, [](std::string extension) { return extension; });
+        take_pictures(not_drawn, in_small_letters); // their names are known, that they can't be drawn is told
         for (Allowance& allowance : folder_.allowances) {
             allowance.place = below(allowance.place);
         }
@@ -65,14 +82,37 @@ private:
         }
     }
 
+    template <std::size_t N, typename Change>
+    void take_pictures(const char* const (&endings)[N], Change change)
+    {
+        for (const fs::path& file : files_in(folder_.root / "pic")) {
+            if (std::count(std::begin(endings), std::end(endings), change(file.extension().string())) > 0) {
+                folder_.pictures.emplace(file.stem().string(), file);
+            }
+        }
+    }
+
+    /// A page that can't be read is a broken one.
     void read_page_file(const fs::path& file)
     {
-        const std::string text = read_text_file(file);
-        PageFile page = read_page(below({file.string()}).file, text, folder_.mistakes);
+        PageFile& page = folder_.pages[page_name(file)];
+        page.name = page_name(file);
+        page.file = below({file.string()}).file;
+        page = read_page(page.file, read_text_file(file), folder_.mistakes);
         if (page.root == nullptr) {
             folder_.broken.insert(page.file);
         }
-        folder_.pages.emplace(page.name, std::move(page));
+    }
+
+    /// "image_page.XML" is meant to be a page, and the menu won't find it.
+    void take_misnamed_page(const fs::path& file)
+    {
+        const std::string name = file.filename().string();
+        const std::string page = page_name(in_small_letters(name));
+        const std::string below_root = below({file.string()}).file;
+        if (folder_.pages.emplace(page, PageFile{page, below_root, "", nullptr, {}}).second) {
+            folder_.broken.insert(below_root);
+        }
     }
 
     void read_language(const fs::path& file)

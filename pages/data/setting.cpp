@@ -6,6 +6,7 @@
 #include <tuple>
 
 #include "osd_types.h"
+#include "pages/data/words.h"
 
 namespace pages {
 namespace {
@@ -17,22 +18,13 @@ bool parse_whole(const std::string& text, int base, std::int32_t& number)
     return result.ec == std::errc() && result.ptr == end;
 }
 
-std::string joined(const std::vector<std::string>& words)
-{
-    std::string all;
-    for (const std::string& word : words) {
-        all += (all.empty() ? "" : ", ") + word;
-    }
-    return all;
-}
-
 std::string problem_with_number(const Setting& setting, const std::string& text)
 {
     std::int32_t number = 0;
     if (parse_whole(text, 10, number) && number >= setting.min && number <= setting.max) {
         return "";
     }
-    return "'" + text + "' is no whole number from " + std::to_string(setting.min) + " to " +
+    return "'" + text + "' can't be used, expected a whole number from " + std::to_string(setting.min) + " to " +
            std::to_string(setting.max);
 }
 
@@ -52,15 +44,15 @@ std::string problem_with(const Setting& setting, const std::string& text)
     case SettingKind::Option:
         return std::count(setting.options.begin(), setting.options.end(), text) > 0
                    ? ""
-                   : "'" + text + "' is none of " + joined(setting.options);
+                   : "'" + text + "' is no option, expected " + one_of(text, setting.options);
     case SettingKind::Integer:
         return problem_with_number(setting, text);
     case SettingKind::Text:
-        return text.size() < OSD_CFG_VALUE_LEN ? "" : "'" + text + "' has more than 15 bytes";
+        return text.size() < OSD_CFG_VALUE_LEN ? "" : "'" + text + "' is too long, expected at most 15 bytes";
     case SettingKind::HexColor:
         return text.size() == 6 && parse_whole(text, 16, number) && number >= 0
                    ? ""
-                   : "'" + text + "' is no color of six hexadecimal digits";
+                   : "'" + text + "' is no color, expected six hexadecimal digits";
     }
     return "unknown kind";
 }

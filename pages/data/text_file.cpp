@@ -9,6 +9,12 @@
 
 namespace pages {
 
+bool is_of_editor(const std::filesystem::path& path)
+{
+    const std::string name = path.filename().string();
+    return !name.empty() && (name.front() == '.' || name.front() == '#' || name.back() == '~');
+}
+
 std::string read_text_file(const std::filesystem::path& path)
 {
     std::error_code ignored; // what can't be looked at can't be opened either

@@ -6,6 +6,9 @@
 
 namespace pages {
 
+/// Whether an editor keeps a copy or a lock under such a name.
+bool is_of_editor(const std::filesystem::path& path);
+
 /// The content of a file. Throws BadInput with the file and the reason.
 std::string read_text_file(const std::filesystem::path& path);
 

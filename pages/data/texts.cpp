@@ -12,9 +12,9 @@ namespace {
 std::string problem_with_text(const std::string& text)
 {
     if (text.size() > max_text_bytes) {
-        return words_of_length(text) + ", at most " + std::to_string(max_text_bytes) + " bytes fit";
+        return words_of_length(text) + ", expected at most " + std::to_string(max_text_bytes) + " bytes";
     }
-    return text.find('\0') == text.npos ? "" : "'" + without_zeros(text) + "' holds a zero byte";
+    return text.find('\0') == text.npos ? "" : "'" + text + "' holds a zero byte, expected letters alone";
 }
 
 void add_text(const std::string& key, const nlohmann::json& value, const Place& place, Texts& texts)
@@ -24,7 +24,7 @@ void add_text(const std::string& key, const nlohmann::json& value, const Place& 
         throw BadInput(place, "key " + key_problem);
     }
     if (!value.is_string()) {
-        throw BadInput(place, "'" + key + "' must be a text, expected \"...\" behind the colon");
+        throw BadInput(place, "'" + key + "' is " + words_of_value(value) + ", expected a text, \"...\"");
     }
     const auto text = value.get<std::string>();
     const std::string problem = problem_with_text(text);

@@ -32,7 +32,7 @@ std::string presses(std::size_t count) { return std::to_string(count) + (count =
 std::string cell(const std::string& text) { return "<td>" + escaped(text) + "</td>"; }
 std::string number_cell(std::size_t number) { return "<td class=\"number\">" + std::to_string(number) + "</td>"; }
 
-std::string joined(const std::vector<std::string>& stack)
+std::string chain_of(const std::vector<std::string>& stack)
 {
     std::string words;
     for (const std::string& page : stack) {
@@ -104,7 +104,7 @@ std::string findings(const Atlas& atlas)
 {
     std::vector<std::string> deep;
     for (const auto& stack : atlas.walk.too_deep) {
-        deep.push_back(joined(stack));
+        deep.push_back(chain_of(stack));
     }
     std::vector<std::string> ends;
     for (const DeadEnd& end : atlas.walk.ends) {
@@ -123,7 +123,7 @@ std::string page_rows(const Atlas& atlas)
     std::string rows;
     for (const Reach& reach : atlas.walk.pages) {
         rows += "<tr>" + cell(reach.page) + number_cell(reach.keys.size()) + cell(words_of(reach.keys)) +
-                cell(joined(reach.stack)) + "</tr>\n";
+                cell(chain_of(reach.stack)) + "</tr>\n";
     }
     return rows;
 }

@@ -20,6 +20,7 @@ using pages::language_setting;
 using pages::load_definitions;
 using pages::load_json_object;
 using pages::number_of;
+using pages::on_one_line;
 using pages::option_of_language;
 using pages::page_folder;
 using pages::page_name;
@@ -32,6 +33,5 @@ using pages::SettingId;
 using pages::SettingKind;
 using pages::text_of;
 using pages::to_string;
-using pages::without_zeros;
 
 } // namespace sim

@@ -55,13 +55,13 @@ ScenarioOptions read_options(const std::filesystem::path& path)
         options.style = static_cast<std::uint32_t>(reader.integer("style"));
     }
     if (options.style > last_style) {
-        reader.complain("'style' must be 0, 1 or 2");
+        reader.complain("style", "'style' is " + std::to_string(options.style), "0, 1 or 2");
     }
     if (reader.has("page")) {
         options.page = reader.text("page", 1, OSD_TEXT_LEN - 1);
     }
     if (reader.has("settings")) {
-        options.settings = read_settings(reader.field("settings"), Place{path.string()});
+        options.settings = read_settings(reader.field("settings", "an object"), Place{path.string()});
     }
     reader.refuse_other_fields();
     return options;

@@ -16,7 +16,7 @@ namespace sim {
 /// The answer to a request that can't be served, in words for the person who wrote it.
 class HttpError : public std::runtime_error {
 public:
-    HttpError(int status, const std::string& words) : std::runtime_error(without_zeros(words)), status_(status) {}
+    HttpError(int status, const std::string& words) : std::runtime_error(on_one_line(words)), status_(status) {}
     int status() const { return status_; }
 
 private:

@@ -239,6 +239,7 @@ TEST(Check, TellsByItsExitStatus)
     EXPECT_EQ(status((cases / "bad/stray_page_file").string()), 1);
     EXPECT_EQ(status((cases / "none").string()), 2);
     EXPECT_EQ(status("--unknown"), 2);
+    EXPECT_EQ(WEXITSTATUS(std::system((program + "--rules > /dev/full 2>&1").c_str())), 2);
 }
 
 TEST(Check, TellsTheSameAsJson)

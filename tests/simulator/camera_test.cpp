@@ -67,7 +67,8 @@ TEST_F(CameraTest, TakesSettingsOverAsAWholeOrNotAtAll)
               nlohmann::json::parse(R"({"A.Gain": "7", "B.Gain": "1E90FF", "B.Mode": "Off", "Language": "English",
         "LedCustomColor": "1E90FF"})"));
     const std::pair<const char*, const char*> bad[] = {
-        {R"({"B.Mode": "On", "A.Gain": 11})", "bad.json: setting 'A.Gain': '11' is no whole number from -7 to 10"},
+        {R"({"B.Mode": "On", "A.Gain": 11})",
+         "bad.json: setting 'A.Gain': '11' can't be used, expected a whole number from -7 to 10"},
         {R"({"A.Gain": 8, "B.Mode": true})", "setting 'B.Mode': a value must be a text or a whole number"},
         {R"({"A.Gain": 8, "Mode": "On", "B.Mode": "On"})", "setting 'Mode' stands there twice, as 'B.Mode'"},
         {R"({"A.Gain": 8, "Gain": 1})", "expected one of A.Gain, B.Gain"},

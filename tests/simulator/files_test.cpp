@@ -16,9 +16,9 @@ TEST(Definitions, AreRefusedInWords)
         long_list += ", \"" + std::string(13, 'x') + std::to_string(i) + "\"";
     }
     const std::tuple<const char*, std::string, const char*> cases[] = {
-        {"settings.json", "{\n\"languages\": {},\n oops}", "settings.json:3:2: syntax error"},
+        {"settings.json", "{\n\"languages\": {},\n oops}", "settings.json:3:2: this is no key"},
         {"settings.json", R"({"a": 1, "a": 2})", "'a' stands twice"},
-        {"settings.json", R"({"a": 1e999})", "settings.json: number overflow parsing '1e999'"},
+        {"settings.json", R"({"a": 1e999})", "settings.json:1:7: '1e999' is too large"},
         {"settings.json", definitions_with("", R"({"Image": "Nowhere"})"), "no setting has the parent 'Nowhere'"},
         {"settings.json", definitions_with("", "{}", R"("Latin": "Latin", )"), "'languages': 'Latin' is no option of"},
         {"settings.json", setting(R"("kind": "text", "default": "", "min": 0)"),
@@ -26,11 +26,14 @@ TEST(Definitions, AreRefusedInWords)
         {"settings.json", setting(R"("kind": "text", "default": "1234567890123456")"), "has 16 bytes, expected 0 to"},
         {"settings.json", setting(R"("kind": "integer", "min": 5, "max": 5, "step": 1, "default": 5)"), "'min' below"},
         {"settings.json", setting(R"("kind": "integer", "min": 0, "max": 5, "step": 1, "default": 6)"), "from 0 to 5"},
-        {"settings.json", setting(R"("kind": "integer", "min": 0, "max": 3000000000)"), "'max' must be a whole number"},
-        {"settings.json", setting(R"("kind": "option", "options": ["Red\u0000x"])"), "'Red?x' must have 1 to 15 bytes"},
+        {"settings.json", setting(R"("kind": "integer", "min": 0, "max": 3000000000)"),
+         "'max' is 3000000000, expected a whole number"},
+        {"settings.json", setting(R"("kind": "option", "options": ["Red\u0000x"])"),
+         "'Red\\x00x' can't be used, expected 1 to 15 bytes"},
         {"settings.json", setting(R"("kind": "option", "options": [)" + long_list + "]"), "at most 271 bytes"},
         {"settings.json", setting(R"("kind": "color", "default": "-12345")"), "six hexadecimal digits"},
-        {"settings.json", setting(R"("kind": "color", "default": "000000", "step": 0)"), "a 'step' of 1 or more"},
+        {"settings.json", setting(R"("kind": "color", "default": "000000", "step": 0)"),
+         "'step' is 0, expected 1 or more"},
         {"Deutsch.json", "{\n\"Title\": \"Bildeinstellungen: Helligkeit 12\"}", "Deutsch.json:2:1: 'Title'"},
         {"Deutsch.json/x", "", "Deutsch.json: is a folder, expected a file"},
     };
