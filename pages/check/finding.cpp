@@ -46,6 +46,8 @@ std::string line_of(const Finding& finding, const std::string& folder)
     return to_string(place) + ": " + name_of(finding.severity) + ": " + words_of(finding) + " [" + finding.rule + "]";
 }
 
+std::string more_places(int count) { return std::to_string(count) + (count == 1 ? " more place" : " more places"); }
+
 std::string to_json(const std::vector<Finding>& findings)
 {
     nlohmann::json list = nlohmann::json::array();
