@@ -46,7 +46,10 @@ std::string line_of(const Finding& finding, const std::string& folder)
     return to_string(place) + ": " + name_of(finding.severity) + ": " + words_of(finding) + " [" + finding.rule + "]";
 }
 
-std::string more_places(int count) { return std::to_string(count) + (count == 1 ? " more place" : " more places"); }
+std::string counted(int count, const std::string& things)
+{
+    return std::to_string(count) + " " + things + (count == 1 ? "" : "s");
+}
 
 std::string to_json(const std::vector<Finding>& findings)
 {

@@ -29,8 +29,8 @@ std::string words_of(const Finding& finding);
 /// "FOLDER/FILE:LINE:COLUMN: error: what, expected ... [rule]"
 std::string line_of(const Finding& finding, const std::string& folder);
 
-/// "3 more places"
-std::string more_places(int count);
+/// "1 more place", "3 more places"
+std::string counted(int count, const std::string& things);
 
 /// {"findings": [{"file", "line", "column", "severity", "rule", "what", "expected"}]}, indented.
 std::string to_json(const std::vector<Finding>& findings);

@@ -12,8 +12,6 @@ constexpr const char* cut_rule = "text-cut";
 constexpr const char* overlap_rule = "text-overlap";
 constexpr const char* foot_rule = "below-foot";
 
-std::string pixels(int count) { return std::to_string(count) + (count == 1 ? " pixel" : " pixels"); }
-
 std::string quoted(const std::string& text) { return "'" + text + "'"; }
 
 /// "German, French": all of them are none worth a word.
@@ -225,33 +223,44 @@ Finding Judge::finding_of(const Cut& cut) const
     const TextRoom& worst = cut.worst;
     const int more = static_cast<int>(cut.elements.size()) - 1;
     const bool cut_by_number = worst.lost > 0;
-    const std::string misfit = cut_by_number ? std::to_string(worst.lost) + " bytes too long with the number of the page"
-                                             : pixels(-worst.left()) + " too wide";
+    const std::string misfit = cut_by_number ? counted(worst.lost, "byte") + " too long with the number behind it"
+                                             : counted(-worst.left(), "pixel") + " too wide";
     const std::string fit = cut_by_number ? std::to_string(max_text_bytes) + " bytes with two blanks and the number"
                                           : std::to_string(worst.room) + " at " + (worst.view.uhd ? "4k" : "1080p");
     return {cut.place,
             Severity::Error,
             cut_rule,
             "the " + std::string(name_of(worst.role)) + " " + quoted(worst.text) + " is " + misfit + " on page " +
-                worst.page + words_of(cut.looks) + (more > 0 ? ", and at " + more_places(more) : ""),
+                worst.page + words_of(cut.looks) + (more > 0 ? ", and at " + counted(more, "more place") : ""),
             "at most " + fit + (cut.expected.empty() ? "" : ", " + cut.expected),
             cut.place.file == worst.element->place.file ? "" : worst.key};
 }
 
-std::map<std::string, Judge::Cut> Judge::cuts() const
+std::set<const Attribute*> Judge::tight_limits() const
 {
-    std::map<const Attribute*, std::set<std::string>> languages; // in which a page's don't fit
+    std::map<const Attribute*, std::set<std::string>> languages; // in which they don't fit
     for (const auto& [place, room] : rooms_) {
         const PageLimit limit = limit_of(room.worst);
         if (!room.worst.fits() && limit.attribute != nullptr) {
             languages[limit.attribute].insert(room.worst.view.language);
         }
     }
+    std::set<const Attribute*> tight;
+    for (const auto& [limit, cut] : languages) {
+        if (cut.size() > 1 && 2 * cut.size() > folder_.languages.size()) {
+            tight.insert(limit);
+        }
+    }
+    return tight;
+}
+
+std::map<std::string, Judge::Cut> Judge::cuts() const
+{
+    const std::set<const Attribute*> tight = tight_limits();
     std::map<std::string, Cut> cuts;
     for (const auto& [place, room] : rooms_) {
         if (!room.worst.fits()) {
-            const auto found = languages.find(limit_of(room.worst).attribute);
-            add_cut(room, found != languages.end() && found->second.size() == folder_.languages.size(), cuts);
+            add_cut(room, tight.count(limit_of(room.worst).attribute) > 0, cuts);
         }
     }
     return cuts;
@@ -260,12 +269,17 @@ std::map<std::string, Judge::Cut> Judge::cuts() const
 std::vector<Finding> Judge::findings() const
 {
     std::vector<Finding> findings;
+    std::set<std::string> crowded; // files whose icons stand too close
     for (const auto& [cause, cut] : cuts()) {
         findings.push_back(finding_of(cut));
+        crowded.insert(cut.expected.empty() ? "" : cut.place.file);
     }
     for (const auto& [cause, fault] : faults_) {
+        if (fault.rule == overlap_rule && crowded.count(fault.element->place.file) > 0) {
+            continue;
+        }
         findings.push_back({fault.element->place, Severity::Error, fault.rule,
-                            fault.what + ", by " + pixels(fault.pixels) + words_of(fault.looks), "", ""});
+                            fault.what + ", by " + counted(fault.pixels, "pixel") + words_of(fault.looks), "", ""});
     }
     const auto order = [](const Finding& finding) {
         return std::tie(finding.place.file, finding.place.line, finding.place.column, finding.what);

@@ -53,6 +53,8 @@ private:
     void take_overlaps(const PageFile& page, const View& view, const Shown& shown);
     void take_overlap(const PageFile& page, const View& view, const Shown& shown, const ShownText& text,
                       std::size_t other);
+    /// By the page's limit on texts, whose cause it is that they don't fit in most languages.
+    std::set<const Attribute*> tight_limits() const;
     std::map<std::string, Cut> cuts() const;
     void add_cut(const Room& room, bool of_page, std::map<std::string, Cut>& cuts) const;
     Finding finding_of(const Cut& cut) const;

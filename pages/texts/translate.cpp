@@ -73,9 +73,9 @@ PoEntry entry_for(const SourceText& text, const std::map<std::string, std::strin
 std::string words_of_misfit(const TextRoom& room)
 {
     return room.lost > 0
-               ? std::to_string(room.lost) + " bytes too long with the number of page " + room.page + ", which shows '" +
+               ? counted(room.lost, "byte") + " too long with the number of page " + room.page + ", which shows '" +
                      room.text + "': both and two blanks have at most " + std::to_string(max_text_bytes)
-               : std::to_string(-room.left()) + " pixels too wide: '" + room.text + "' has " +
+               : counted(-room.left(), "pixel") + " too wide: '" + room.text + "' has " +
                      std::to_string(room.width) + " on page " + room.page + " (" + to_string(room.view) + "), " +
                      std::to_string(room.room) + " fit";
 }
