@@ -106,6 +106,8 @@ private:
 
 } // namespace
 
+std::string language_file(const std::string& language) { return "lang/" + language + ".json"; }
+
 bool is_resource_folder(const fs::path& root)
 {
     std::error_code ignored; // what can't be looked at can't be used

@@ -63,12 +63,11 @@ public:
     explicit Walk(const ResourceFolder& folder) : menu_(folder, folder.languages.begin()->first)
     {
         std::uint32_t style = 1;
-        for (const auto& [language, texts] : folder.languages) { // all languages, all styles, both sizes
-            menu_.look({language, style % style_count, style == big_style});
+        for (const auto& [language, texts] : folder.languages) {
+            menu_.look({language, style++ % style_count, false});
             seen_.clear();
             start(folder, "main", Key::Menu);
             start(folder, "advanced", Key::Advanced);
-            ++style;
         }
     }
 
@@ -177,8 +176,6 @@ private:
         }
     }
 
-    static constexpr std::uint32_t big_style = 3;
-
     Menu menu_;
     std::set<std::string> seen_;
     std::vector<std::string> failures_;
@@ -240,12 +237,8 @@ TEST(Check, FindsNothingWhereAllIsWellAndAllPagesAreDrawn)
     for (const fs::path& path : {cases / "good", fs::path(OSD_SHIPPED_DIR)}) {
         const ResourceFolder folder = read_resource_folder(path, fonts);
         EXPECT_THAT(told(check(folder, {path.filename() == "good", {}})), IsEmpty());
-        auto t0 = std::chrono::steady_clock::now();
         Walk walk(folder);
-        auto t1 = std::chrono::steady_clock::now();
         walk.draw_all(folder);
-        auto t2 = std::chrono::steady_clock::now();
-        std::cerr << std::chrono::duration<double>(t1 - t0).count() << " " << std::chrono::duration<double>(t2 - t1).count() << "\n";
         EXPECT_THAT(walk.failures(), IsEmpty());
         EXPECT_EQ(walk.seen().size(), folder.pages.size());
     }
