@@ -56,14 +56,19 @@ static int osdIconNext(int s32Whole, float f32Gap, int s32At, int s32Size)
     return osdTrunc(osdF32(s32Whole) * f32Gap + osdF32(osdClampS32(int64_t{s32At} + s32Size)));
 }
 
+SDL_Rect osdIconFirst(const SDL_Rect& stMenu, int32_t s32PerLine)
+{
+    return {osdTrunc(osdF32(stMenu.w) * c_f32Left), osdTrunc(osdF32(stMenu.h) * c_f32Top),
+            osdIconCell(stMenu.w, c_f32MarginX, c_f32GapX, s32PerLine),
+            osdIconCell(stMenu.h, c_f32MarginY, c_f32GapY, s32PerLine)};
+}
+
 void osdIconPage(tagPAGE_NODE_S* pstPage)
 {
     const SDL_Rect& stMenu = gstMenuMgr.stCanvas.stMenuRect;
     const int32_t s32PerLine = pstPage->s32CountPerLine;
-    const int s32Left = osdTrunc(osdF32(stMenu.w) * c_f32Left);
-    SDL_Rect stCell = {s32Left, osdTrunc(osdF32(stMenu.h) * c_f32Top),
-                       osdIconCell(stMenu.w, c_f32MarginX, c_f32GapX, s32PerLine),
-                       osdIconCell(stMenu.h, c_f32MarginY, c_f32GapY, s32PerLine)};
+    SDL_Rect stCell = osdIconFirst(stMenu, s32PerLine);
+    const int s32Left = stCell.x;
     int32_t s32Pos = 0;
     for (tagITEM_NODE_S* pstItem : osdItems(&pstPage->stItemList)) {
         pstItem->stRect = stCell;

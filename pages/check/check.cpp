@@ -22,35 +22,25 @@ void sort_findings(std::vector<Finding>& findings)
     findings.erase(std::unique(findings.begin(), findings.end(), same), findings.end());
 }
 
-/// Leaves the first of those with the same words, with the number of the others.
-void unite_causes(std::vector<Finding>& findings)
+/// Of the rules that pass the test.
+std::set<std::string> names_of(bool (*test)(const Rule& rule))
 {
-    sort_findings(findings);
-    std::vector<Finding> causes;
-    std::map<std::string, std::pair<std::size_t, int>> seen; // where it stands, how many more there are
-    for (Finding& finding : findings) {
-        const auto [first, is_new] = seen.emplace(finding.what, std::pair{causes.size(), 0});
-        if (is_new) {
-            causes.push_back(std::move(finding));
-        } else {
-            ++first->second.second;
+    std::set<std::string> names;
+    for (const Rule& rule : all_rules()) {
+        if (test(rule)) {
+            names.insert(rule.name);
         }
     }
-    for (const auto& [what, cause] : seen) {
-        if (cause.second > 0) {
-            causes[cause.first].what +=
-                " (the same at " + std::to_string(cause.second) + " more place" + (cause.second > 1 ? "s" : "") + ")";
-        }
-    }
-    findings = std::move(causes);
+    return names;
 }
 
+/// What a rule finds; what other parts find has their names.
 std::vector<Finding> run_rule(const Rule& rule, const ResourceFolder& folder)
 {
     std::vector<Finding> findings;
     if (rule.check != nullptr) {
         rule.check(folder, [&](const Place& place, const std::string& what, const std::string& expected) {
-            findings.push_back({place, rule.severity, rule.name, what, expected});
+            findings.push_back({place, rule.severity, rule.name, what, expected, ""});
         });
     }
     return findings;
@@ -66,7 +56,7 @@ bool is_told_again(const Finding& finding, const std::vector<Finding>& later)
            });
 }
 
-/// What all rules find, a finding for a cause.
+/// What all rules find, the later ones first.
 std::vector<Finding> run_rules(const ResourceFolder& folder)
 {
     std::vector<Finding> all;
@@ -75,15 +65,49 @@ std::vector<Finding> run_rules(const ResourceFolder& folder)
         std::vector<Finding> findings = run_rule(*rule, folder);
         const auto again = [&](const Finding& finding) { return is_told_again(finding, all); };
         findings.erase(std::remove_if(findings.begin(), findings.end(), again), findings.end());
-        if (rule->told == Told::Once) {
-            unite_causes(findings);
-        }
         all.insert(all.end(), findings.begin(), findings.end());
     }
     return all;
 }
 
+/// What is wanted of all but the pages that are not drawn as they are meant to be: what shows on these follows from it.
+Wanted without_distorted(const Wanted& wanted, const std::vector<Finding>& findings)
+{
+    static const std::set<std::string> distorting = names_of([](const Rule& rule) { return rule.distorts; });
+    std::set<std::string> distorted;
+    for (const Finding& finding : findings) {
+        if (distorting.count(finding.rule) > 0) {
+            distorted.insert(finding.place.file);
+        }
+    }
+    return [=](const PageFile& page, const std::string& language) {
+        return distorted.count(page.file) == 0 && (!wanted || wanted(page, language));
+    };
+}
+
 } // namespace
+
+std::vector<Finding> by_cause(std::vector<Finding> findings)
+{
+    static const std::set<std::string> told_once = names_of([](const Rule& rule) { return rule.told == Told::Once; });
+    sort_findings(findings);
+    std::vector<Finding> causes;
+    std::map<std::pair<std::string, std::string>, std::pair<std::size_t, int>> seen; // where it stands, how many more
+    for (Finding& finding : findings) {
+        const bool once = told_once.count(finding.rule) > 0;
+        const auto [first, is_new] = seen.emplace(std::pair{finding.rule, finding.what}, std::pair{causes.size(), 0});
+        if (is_new || !once) {
+            causes.push_back(std::move(finding));
+        } else {
+            ++first->second.second;
+        }
+    }
+    for (const auto& [words, cause] : seen) {
+        causes[cause.first].what +=
+            cause.second > 0 ? " (the same at " + counted(cause.second, "more place") + ")" : "";
+    }
+    return causes;
+}
 
 CheckResult check(const ResourceFolder& folder, const CheckOptions& options)
 {
@@ -95,11 +119,15 @@ CheckResult check(const ResourceFolder& folder, const CheckOptions& options)
     Verdict verdict = judge_pages(folder, result.findings);
     add(verdict.findings);
     result.refused = std::move(verdict.refused);
+    Mutes mutes(folder);
+    mutes.apply(result.findings);
     if (options.measure) {
-        add(measure(folder, {options.measured_pages, {}}).findings);
+        std::vector<Finding> measured = measure(folder, without_distorted(options.measured, result.findings)).findings;
+        mutes.apply(measured);
+        add(measured);
     }
-    apply_mutes(folder, options.measure && options.measured_pages.empty(), result.findings);
-    sort_findings(result.findings);
+    add(mutes.remarks(options.measure && !options.measured));
+    result.findings = by_cause(std::move(result.findings));
     return result;
 }
 

@@ -6,12 +6,13 @@
 #include <vector>
 
 #include "pages/check/rule.h"
+#include "pages/measure/measure.h"
 
 namespace pages {
 
 struct CheckOptions {
-    bool measure = true;                  ///< draw and measure as well
-    std::set<std::string> measured_pages; ///< only these; empty for all
+    bool measure = true; ///< draw and measure as well
+    Wanted measured;     ///< what of it; null for all
 };
 
 struct CheckResult {
@@ -21,6 +22,9 @@ struct CheckResult {
 
 /// Everything that can be known of a folder. Any thread, one at a time: others wait.
 CheckResult check(const ResourceFolder& folder, const CheckOptions& options);
+
+/// In the order of their places, those of one cause united.
+std::vector<Finding> by_cause(std::vector<Finding> findings);
 
 /// All rules, for the documents.
 const std::vector<Rule>& all_rules();

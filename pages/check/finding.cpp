@@ -21,6 +21,11 @@ std::string line_of(const Finding& finding, const std::string& folder)
            finding.rule + "]";
 }
 
+std::string counted(int count, const std::string& things)
+{
+    return std::to_string(count) + " " + things + (count == 1 ? "" : "s");
+}
+
 std::string to_json(const std::vector<Finding>& findings)
 {
     nlohmann::json list = nlohmann::json::array();

@@ -21,6 +21,7 @@ struct Finding {
     std::string rule; ///< its name, by which a finding can be muted
     std::string what;
     std::string expected; ///< may be empty
+    std::string key{};    ///< of the text or the setting that it is about, where the words don't name it
 };
 
 /// "what, expected ...": the words without place and rule.
@@ -28,6 +29,9 @@ std::string words_of(const Finding& finding);
 
 /// "FOLDER/FILE:LINE:COLUMN: error: what, expected ... [rule]"
 std::string line_of(const Finding& finding, const std::string& folder);
+
+/// "1 more place", "3 more places"
+std::string counted(int count, const std::string& things);
 
 /// {"findings": [{"file", "line", "column", "severity", "rule", "what", "expected"}]}, indented.
 std::string to_json(const std::vector<Finding>& findings);

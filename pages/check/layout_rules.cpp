@@ -4,21 +4,39 @@
 #include <algorithm>
 
 #include "comm/picture_names.h"
+#include "menu/render/icon_grid.h"
 #include "pages/check/attribute_rules.h"
 #include "pages/check/page_walk.h"
 #include "pages/check/setting_rules.h"
+#include "pages/menu/menu.h"
 
 namespace pages {
 namespace {
 
+/// So many icons have a place beside each other.
+int most_icons()
+{
+    int count = 1;
+    for (SDL_Rect cell = osdIconFirst(View().menu(), 2); cell.w > 0 && cell.h > 0;) {
+        ++count;
+        cell = osdIconFirst(View().menu(), count + 1);
+    }
+    return count;
+}
+
 void find_no_grids(const ResourceFolder& folder, const Complain& complain)
 {
+    std::vector<std::string> counts;
+    for (int count = most_icons(); count > 0; --count) {
+        counts.push_back(std::to_string(count));
+    }
     for_each_page(folder, [&](const PageFile&, const Element& page) {
         const Attribute* count = page.find(osdAttrName(ATTR_COUNT_PER_LINE));
         if (layout_of(page) == PAGE_LAYOUT_ICON && count != nullptr &&
-            (count->value.empty() || count->value.size() > 2 || count->value.front() == '0' ||
-             count->value.find_first_not_of("0123456789") != std::string::npos)) {
-            complain(count->place, "CountPerLine '" + count->value + "' is no number of icons", "1 to 99");
+            std::count(counts.begin(), counts.end(), count->value) == 0) {
+            complain(count->place,
+                     "CountPerLine '" + count->value + "' is no number of icons that fit beside each other",
+                     "1 to " + counts.front());
         }
     });
 }
@@ -218,12 +236,13 @@ void find_empty_pages(const ResourceFolder& folder, const Complain& complain)
 const std::vector<Rule>& layout_rules()
 {
     static const std::vector<Rule> rules = {
-        {"grid", Severity::Error, "Icons have a number of columns.", find_no_grids},
+        {"grid", Severity::Error, "Icons have a number of columns that fit.", find_no_grids, Told::Each, true},
         {"no-picture", Severity::Error, "Pictures that a page names are there.", find_missing_pictures},
         {"menu-picture", Severity::Error, "Pictures that the menu draws by itself are there.",
          find_missing_own_pictures},
-        {"context", Severity::Warning, "What an item shows goes with its kind.", find_odd_contexts},
-        {"icon", Severity::Error, "Items of layout 'icon' have pictures, and home does something.", find_no_icons},
+        {"context", Severity::Warning, "What an item shows goes with its kind.", find_odd_contexts, Told::Each, true},
+        {"icon", Severity::Error, "Items of layout 'icon' have pictures, and home does something.", find_no_icons,
+         Told::Each, true},
         {"value-type", Severity::Error, "The type of a value goes with what the item shows.", find_odd_types},
         {"twin", Severity::Error, "No item stands twice among those that show together.", find_twins},
         {"hidden-cursor", Severity::Error, "A page in layout 'vertical_align_keth' doesn't begin with STATUS.",

@@ -6,6 +6,7 @@
 #include "pages/check/check.h"
 #include "pages/check/page_walk.h"
 #include "pages/check/rule_tables.h"
+#include "pages/measure/judge.h"
 
 namespace pages {
 namespace {
@@ -13,15 +14,6 @@ namespace {
 constexpr std::string_view begin_mark = "osdmenu-pages:";
 constexpr std::string_view allow_word = "allow ";
 constexpr std::string_view blanks = " \t\r\n";
-
-struct Mute {
-    Place place;
-    std::string rule;
-    std::string reason;
-    std::string key;                  ///< of a text or a setting; empty for all
-    const Element* element = nullptr; ///< null for the whole file
-    bool is_used = false;
-};
 
 std::string trimmed(const std::string& text)
 {
@@ -84,14 +76,12 @@ bool holds(const Mute& mute, const Finding& finding)
     if (mute.element != nullptr) {
         return !is_before(finding.place, mute.element->place) && finding.place.line <= mute.element->last_line;
     }
-    return mute.key.empty() || finding.what.find("'" + mute.key + "'") != std::string::npos;
+    return mute.key.empty() || mute.key == finding.key || finding.what.find("'" + mute.key + "'") != std::string::npos;
 }
 
-const Rule* find_rule(const std::string& name)
+bool is_among(const std::vector<Rule>& rules, const std::string& name)
 {
-    const auto& rules = all_rules();
-    const auto found = std::find_if(rules.begin(), rules.end(), [&](const Rule& rule) { return rule.name == name; });
-    return found == rules.end() ? nullptr : &*found;
+    return std::any_of(rules.begin(), rules.end(), [&](const Rule& rule) { return rule.name == name; });
 }
 
 void tell(const Mute& mute, bool measured, std::vector<Finding>& findings)
@@ -99,10 +89,9 @@ void tell(const Mute& mute, bool measured, std::vector<Finding>& findings)
     const auto warn = [&](const std::string& what, const std::string& expected) {
         findings.push_back({mute.place, Severity::Warning, allowance_rule, what, expected});
     };
-    const Rule* rule = find_rule(mute.rule);
     if (mute.rule.empty()) {
         warn("this allows nothing", "osdmenu-pages: allow RULE: reason");
-    } else if (rule == nullptr) {
+    } else if (!is_among(all_rules(), mute.rule)) {
         std::vector<std::string> names;
         for (const Rule& one : all_rules()) {
             names.emplace_back(one.name);
@@ -110,19 +99,20 @@ void tell(const Mute& mute, bool measured, std::vector<Finding>& findings)
         warn("there is no rule '" + mute.rule + "'", nearest_or(mute.rule, names, "one of 'check --rules'"));
     } else if (mute.reason.empty()) {
         warn("no reason is given to allow '" + mute.rule + "'", "RULE: reason");
-    } else if (!mute.is_used && (measured || rule->told != Told::Measured)) {
+    } else if (!mute.is_used && (measured || !is_among(measure_rules(), mute.rule))) {
         warn("there is nothing here that rule '" + mute.rule + "' complains of", "");
     }
 }
 
 } // namespace
 
-void apply_mutes(const ResourceFolder& folder, bool measured, std::vector<Finding>& findings)
+Mutes::Mutes(const ResourceFolder& folder) : mutes_(read_mutes(folder)) {}
+
+void Mutes::apply(std::vector<Finding>& findings)
 {
-    std::vector<Mute> mutes = read_mutes(folder);
     const auto is_muted = [&](const Finding& finding) {
         bool muted = false;
-        for (Mute& mute : mutes) {
+        for (Mute& mute : mutes_) {
             if (holds(mute, finding)) {
                 mute.is_used = true;
                 muted = true;
@@ -131,9 +121,15 @@ void apply_mutes(const ResourceFolder& folder, bool measured, std::vector<Findin
         return muted;
     };
     findings.erase(std::remove_if(findings.begin(), findings.end(), is_muted), findings.end());
-    for (const Mute& mute : mutes) {
+}
+
+std::vector<Finding> Mutes::remarks(bool measured) const
+{
+    std::vector<Finding> findings;
+    for (const Mute& mute : mutes_) {
         tell(mute, measured, findings);
     }
+    return findings;
 }
 
 } // namespace pages

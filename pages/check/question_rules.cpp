@@ -223,7 +223,7 @@ const std::vector<Rule>& question_rules()
         {"no-question", Severity::Warning, "A question is asked side by side, over the page below.", find_no_questions},
         {"no-answer", Severity::Error, "A question has the buttons No and Yes.", find_missing_answers},
         {"answer", Severity::Error, "The buttons No and Yes open no page.", find_opening_answers},
-        {"answer-place", Severity::Error, "Answers stand side by side.", find_heaped_answers},
+        {"answer-place", Severity::Error, "Answers stand side by side.", find_heaped_answers, Told::Each, true},
         {"asks-nothing", Severity::Error, "A CONFIRM_POP has a value.", find_silent_buttons},
         {"confirmed-page", Severity::Warning,
          "Values wait for a question on those pages alone that the menu can store.", find_never_stored},

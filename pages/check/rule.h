@@ -16,9 +16,8 @@ using Complain = std::function<void(const Place& place, const std::string& what,
 
 /// How its findings are told.
 enum class Told {
-    Each,     ///< one by one
-    Once,     ///< those with the same words are one cause: at the first place, with the number of the others
-    Measured, ///< one by one, and only where pages are drawn
+    Each, ///< one by one
+    Once, ///< those with the same words are one cause: at the first place, with the number of the others
 };
 
 struct Rule {
@@ -27,6 +26,7 @@ struct Rule {
     const char* meaning;                                                   ///< a sentence for the documents
     void (*check)(const ResourceFolder& folder, const Complain& complain); ///< null where another part finds it
     Told told = Told::Each;
+    bool distorts = false; ///< what it finds draws a page otherwise than meant, which is not measured then
 };
 
 } // namespace pages

@@ -14,8 +14,6 @@
 namespace pages {
 namespace {
 
-std::string language_file(const std::string& language) { return "lang/" + language + ".json"; }
-
 /// By key, the first place where the text stands; English first, as translators start from it.
 std::map<std::string, Place> all_keys(const ResourceFolder& folder)
 {

@@ -5,6 +5,7 @@
 #include <iostream>
 #include <memory>
 
+#include "pages/check/check.h"
 #include "pages/command/commands.h"
 #include "pages/measure/report.h"
 
@@ -14,7 +15,8 @@ namespace {
 struct MeasureCommand {
     std::string folder;
     std::string fonts;
-    MeasureOptions measure;
+    std::set<std::string> pages;
+    std::set<std::string> languages;
     bool json = false;
 };
 
@@ -37,9 +39,15 @@ void refuse_unknown(const std::set<std::string>& wanted, const Map& known, const
 int run_measure(const MeasureCommand& options)
 {
     const ResourceFolder folder = read_resource_folder(options.folder, options.fonts);
-    refuse_unknown(options.measure.pages, folder.pages, "page");
-    refuse_unknown(options.measure.languages, folder.languages, "language");
-    const Measures measures = measure(folder, options.measure);
+    refuse_unknown(options.pages, folder.pages, "page");
+    refuse_unknown(options.languages, folder.languages, "language");
+    const auto is_one = [](const std::set<std::string>& wanted, const std::string& name) {
+        return wanted.empty() || wanted.count(name) > 0;
+    };
+    Measures measures = measure(folder, [&](const PageFile& page, const std::string& language) {
+        return is_one(options.pages, page.name) && is_one(options.languages, language);
+    });
+    measures.findings = by_cause(std::move(measures.findings));
     if (options.json) {
         std::cout << to_json(measures) << '\n';
     } else {
@@ -59,8 +67,8 @@ void add_measure_command(CLI::App& app, int& status)
     CLI::App* command = app.add_subcommand("measure", "Tell what doesn't fit, and how many pixels each text has left");
     command->add_option("FOLDER", options->folder, "folder with pages/, lang/, pic/ and settings.json")->required();
     command->add_option("--fonts", options->fonts, "folder with font.ttf, bold_font.ttf and tcfont.ttf");
-    command->add_option("--page", options->measure.pages, "only this page; may be given again");
-    command->add_option("--language", options->measure.languages, "only this language; may be given again");
+    command->add_option("--page", options->pages, "only this page; may be given again");
+    command->add_option("--language", options->languages, "only this language; may be given again");
     command->add_flag("--json", options->json, "as JSON");
     command->callback([options, &status] { status = run_measure(*options); });
 }

@@ -158,6 +158,8 @@ fs::path nearest_fonts(const fs::path& root)
 
 } // namespace
 
+std::string language_file(const std::string& language) { return "lang/" + language + ".json"; }
+
 bool is_resource_folder(const fs::path& root)
 {
     std::error_code ignored; // what can't be looked at can't be used

@@ -25,6 +25,9 @@ struct ResourceFolder {
     std::set<std::string> broken;                          ///< files that can't be used at all, below the root
 };
 
+/// "lang/German.json"
+std::string language_file(const std::string& language);
+
 /// Whether it looks like a folder of resources at all.
 bool is_resource_folder(const std::filesystem::path& root);
 

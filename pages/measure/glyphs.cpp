@@ -1,12 +1,13 @@
 #include "pages/measure/glyphs.h"
 
 #include <SDL_ttf.h>
-#include <algorithm>
 #include <array>
 #include <cstdio>
-#include <map>
+#include <functional>
 #include <memory>
+#include <unordered_map>
 
+#include "pages/check/page_walk.h"
 #include "pages/measure/letters.h"
 
 namespace pages {
@@ -21,26 +22,52 @@ struct Font {
     std::unique_ptr<TTF_Font, Close> font;
 };
 
-struct Use {
-    const Text* first; ///< text that has the character
-    std::string letter;
-    int times = 0;
-};
+using Said = std::function<void(const Place& place, const std::string& key, const std::string& text)>;
 
-using Uses = std::map<char32_t, Use>;
-
-Uses uses_of(const Texts& texts)
+/// Whatever the menu can draw: the texts, what pages and facts say literally, and what settings hold.
+void for_each_said(const ResourceFolder& folder, const Said& say)
 {
-    Uses uses;
-    for (const auto& [key, text] : texts) {
-        const Text& here = text;
-        for_each_letter(text.text, [&](char32_t code, std::string_view bytes) {
-            Use& use = uses.try_emplace(code, Use{&here, std::string(bytes)}).first->second;
-            use.first = use.first->place.line > here.place.line ? &here : use.first;
-            ++use.times;
-        });
+    for (const auto& [language, texts] : folder.languages) {
+        for (const auto& [key, text] : texts) {
+            say(text.place, key, text.text);
+        }
     }
-    return uses;
+    for_each_read(folder, [&](const Element& element) {
+        for (const Attribute& attribute : element.attributes) {
+            const AttributeUse* use = find_use(role_of(element), attribute.name);
+            if (use != nullptr && use->holds == Holds::Literal) {
+                say(attribute.place, attribute.name, attribute.value);
+            }
+        }
+    });
+    for (const auto& [name, fact] : folder.definitions.facts) {
+        Place place = folder.definitions.places.of("/facts/" + name);
+        place.file = "settings.json";
+        say(place, name, fact);
+    }
+    for (const auto& [id, setting] : folder.definitions.settings) {
+        if (setting.kind == SettingKind::Text) {
+            say(setting.place, id.key, setting.default_text);
+        }
+    }
+}
+
+/// The names of the fonts that lack a character.
+std::string lacking(const std::vector<Font>& fonts, char32_t code)
+{
+    std::string names;
+    for (const Font& font : fonts) {
+        const bool lacks = font.font != nullptr && TTF_GlyphIsProvided32(font.font.get(), code) == 0;
+        names += lacks ? (names.empty() ? "" : ", ") + font.name : "";
+    }
+    return names;
+}
+
+std::string words_of_code(char32_t code)
+{
+    std::array<char, 16> number{};
+    (void)std::snprintf(number.data(), number.size(), "U+%04X", static_cast<unsigned>(code));
+    return number.data();
 }
 
 } // namespace
@@ -52,26 +79,21 @@ std::vector<Finding> missing_glyphs(const ResourceFolder& folder)
         fonts.push_back({name, std::unique_ptr<TTF_Font, Close>(TTF_OpenFont((folder.fonts / name).c_str(), 16))});
     }
     std::vector<Finding> findings;
-    for (const auto& [language, texts] : folder.languages) {
-        for (const auto& [code, use] : uses_of(texts)) {
-            std::string lacking;
-            for (const Font& font : fonts) {
-                const bool lacks = font.font != nullptr && TTF_GlyphIsProvided32(font.font.get(), code) == 0;
-                lacking += lacks ? (lacking.empty() ? "" : ", ") + font.name : "";
+    std::unordered_map<char32_t, std::string> known;
+    for_each_said(folder, [&](const Place& place, const std::string& key, const std::string& text) {
+        for_each_letter(text, [&](char32_t code, std::string_view bytes) {
+            const auto [found, is_new] = known.try_emplace(code);
+            if (is_new) {
+                found->second = lacking(fonts, code);
             }
-            if (!lacking.empty()) {
-                std::array<char, 16> number{};
-                (void)std::snprintf(number.data(), number.size(), "U+%04X", static_cast<unsigned>(code));
-                const std::string times =
-                    use.times == 1 ? "" : ", which is used " + std::to_string(use.times) + " times";
-                findings.push_back({{"lang/" + language + ".json", use.first->place.line, use.first->place.column},
-                                    Severity::Error,
-                                    "missing-glyph",
-                                    lacking + ": no picture of '" + use.letter + "' (" + number.data() + ")" + times,
-                                    "another character"});
+            if (!found->second.empty()) {
+                findings.push_back({place, Severity::Error, "missing-glyph",
+                                    found->second + ": no picture of '" + std::string(bytes) + "' (" +
+                                        words_of_code(code) + ")",
+                                    "another character", key});
             }
-        }
-    }
+        });
+    });
     return findings;
 }
 

@@ -1,4 +1,4 @@
-// Whether the fonts have all characters of all texts.
+// Whether the fonts have all characters that can be drawn.
 #pragma once
 
 #include <vector>
@@ -8,7 +8,7 @@
 
 namespace pages {
 
-/// A finding for each character of a language that a font lacks, at the first text that has it. SDL_ttf must be started.
+/// A finding for each character that a font lacks in each text that has it. SDL_ttf must be started.
 std::vector<Finding> missing_glyphs(const ResourceFolder& folder);
 
 } // namespace pages

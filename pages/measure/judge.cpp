@@ -3,14 +3,14 @@
 #include <algorithm>
 #include <utility>
 
+#include "menu/core/attr.h"
+
 namespace pages {
 namespace {
 
 constexpr const char* cut_rule = "text-cut";
 constexpr const char* overlap_rule = "text-overlap";
 constexpr const char* foot_rule = "below-foot";
-
-std::string pixels(int count) { return std::to_string(count) + (count == 1 ? " pixel" : " pixels"); }
 
 std::string quoted(const std::string& text) { return "'" + text + "'"; }
 
@@ -29,6 +29,24 @@ bool is_below(const ShownText& text, const Shown& shown)
     return text.node != nullptr && bottom_of(shown.marks[text.mark].rect) > shown.foot;
 }
 
+/// What of a page leaves its texts so much room, and what helps where no language fits.
+struct PageLimit {
+    const Attribute* attribute; ///< null where it is the text itself
+    std::string expected;
+};
+
+PageLimit limit_of(const TextRoom& room)
+{
+    const Element* page = room.element;
+    while (page->parent != nullptr) {
+        page = page->parent;
+    }
+    if (room.role == Role::Caption) {
+        return {page->find(osdAttrName(ATTR_COUNT_PER_LINE)), "by fewer icons in a line or shorter texts"};
+    }
+    return {room.lost > 0 ? page->find(osdAttrName(ATTR_CUR_PAGES_NUM)) : nullptr, "by a shorter CurPagesNum"};
+}
+
 } // namespace
 
 const char* name_of(Role role)
@@ -40,11 +58,11 @@ const char* name_of(Role role)
 const std::vector<Rule>& measure_rules()
 {
     static const std::vector<Rule> rules = {
-        {cut_rule, Severity::Error, "A text is wider than its place: its end is cut, or runs over what stands there.",
+        {cut_rule, Severity::Error, "A text is longer than its place: its end is cut, or runs over what stands there.",
          nullptr},
         {overlap_rule, Severity::Error, "A text lies over another, a line or a picture.", nullptr},
         {foot_rule, Severity::Error, "Rows lie below the menu, or over its hints or its message line.", nullptr},
-        {"missing-glyph", Severity::Error, "A font has no picture of a character.", nullptr},
+        {"missing-glyph", Severity::Error, "A font has no picture of a character.", nullptr, Told::Once},
     };
     return rules;
 }
@@ -60,14 +78,15 @@ void Judge::take_rooms(const PageFile& page, const View& view, const Shown& show
 {
     for (const ShownText& text : shown.texts) {
         const Mark& mark = shown.marks[text.mark];
-        const TextRoom room{text.key, mark.name, page.name, text.element, text.role, view, mark.rect.w, text.room};
+        const TextRoom room{text.key, mark.name, page.name, text.element, text.role, view, mark.rect.w, text.room,
+                            text.lost};
         const auto [entry, added] =
             rooms_.try_emplace({text.element, text.role, text.key, view.language}, Room{room, {}});
         Room& known = entry->second;
-        if (!added && room.left() < known.worst.left()) {
+        if (!added && is_tighter(room, known.worst)) {
             known.worst = room;
         }
-        if (room.left() < 0) {
+        if (!room.fits()) {
             known.too_narrow.insert({view.language, view.style, view.uhd});
         }
     }
@@ -179,23 +198,69 @@ std::vector<TextRoom> Judge::rooms() const
     return rooms;
 }
 
-std::map<std::string, Judge::Room> Judge::cuts() const
+/// A text of a page alone is a cause; of the languages' texts one is, wherever it shows in that role.
+void Judge::add_cut(const Room& room, bool of_page, std::map<std::string, Cut>& cuts) const
 {
-    std::map<std::string, Room> cuts;
+    const TextRoom& text = room.worst;
+    const PageLimit limit = limit_of(text);
+    const Texts& texts = folder_.languages.at(text.view.language);
+    const auto known_text = texts.find(text.key);
+    const bool own = of_page || known_text == texts.end();
+    const Place& place = of_page ? limit.attribute->place : own ? text.element->place : known_text->second.place;
+    const std::string what = of_page ? limit.expected : own ? text.text : text.view.language + '\n' + text.key;
+    const std::string cause = (own ? text.page + '\n' : "") + name_of(text.role) + '\n' + what;
+    Cut& cut = cuts.try_emplace(cause, Cut{text, {}, {}, place, of_page ? limit.expected : ""}).first->second;
+    cut.looks.insert(room.too_narrow.begin(), room.too_narrow.end());
+    cut.elements.insert(text.element);
+    const auto line = [](const TextRoom& one) { return std::tie(one.page, one.element->place.line); };
+    if (is_tighter(text, cut.worst) || (!is_tighter(cut.worst, text) && line(text) < line(cut.worst))) {
+        cut.worst = text;
+    }
+}
+
+Finding Judge::finding_of(const Cut& cut) const
+{
+    const TextRoom& worst = cut.worst;
+    const int more = static_cast<int>(cut.elements.size()) - 1;
+    const bool cut_by_number = worst.lost > 0;
+    const std::string misfit = cut_by_number ? counted(worst.lost, "byte") + " too long with the number behind it"
+                                             : counted(-worst.left(), "pixel") + " too wide";
+    const std::string fit = cut_by_number ? std::to_string(max_text_bytes) + " bytes with two blanks and the number"
+                                          : std::to_string(worst.room) + " at " + (worst.view.uhd ? "4k" : "1080p");
+    return {cut.place,
+            Severity::Error,
+            cut_rule,
+            "the " + std::string(name_of(worst.role)) + " " + quoted(worst.text) + " is " + misfit + " on page " +
+                worst.page + words_of(cut.looks) + (more > 0 ? ", and at " + counted(more, "more place") : ""),
+            "at most " + fit + (cut.expected.empty() ? "" : ", " + cut.expected),
+            cut.place.file == worst.element->place.file ? "" : worst.key};
+}
+
+std::set<const Attribute*> Judge::tight_limits() const
+{
+    std::map<const Attribute*, std::set<std::string>> languages; // in which they don't fit
     for (const auto& [place, room] : rooms_) {
-        const TextRoom& worst = room.worst;
-        if (worst.left() >= 0) {
-            continue;
+        const PageLimit limit = limit_of(room.worst);
+        if (!room.worst.fits() && limit.attribute != nullptr) {
+            languages[limit.attribute].insert(room.worst.view.language);
         }
-        const std::string text = worst.key.empty() ? worst.text : worst.view.language + '\n' + worst.key;
-        const auto [entry, added] = cuts.try_emplace(worst.page + '\n' + name_of(worst.role) + '\n' + text, room);
-        Room& known = entry->second;
-        known.too_narrow.insert(room.too_narrow.begin(), room.too_narrow.end());
-        const auto order = [](const TextRoom& one) {
-            return std::make_tuple(one.left(), one.element->place.line, one.element->place.column);
-        };
-        if (order(worst) < order(known.worst)) {
-            known.worst = worst;
+    }
+    std::set<const Attribute*> tight;
+    for (const auto& [limit, cut] : languages) {
+        if (cut.size() > 1 && 2 * cut.size() > folder_.languages.size()) {
+            tight.insert(limit);
+        }
+    }
+    return tight;
+}
+
+std::map<std::string, Judge::Cut> Judge::cuts() const
+{
+    const std::set<const Attribute*> tight = tight_limits();
+    std::map<std::string, Cut> cuts;
+    for (const auto& [place, room] : rooms_) {
+        if (!room.worst.fits()) {
+            add_cut(room, tight.count(limit_of(room.worst).attribute) > 0, cuts);
         }
     }
     return cuts;
@@ -204,16 +269,17 @@ std::map<std::string, Judge::Room> Judge::cuts() const
 std::vector<Finding> Judge::findings() const
 {
     std::vector<Finding> findings;
+    std::set<std::string> crowded; // files whose icons stand too close
     for (const auto& [cause, cut] : cuts()) {
-        const TextRoom& worst = cut.worst;
-        findings.push_back({worst.element->place, Severity::Error, cut_rule,
-                            "the " + std::string(name_of(worst.role)) + " " + quoted(worst.text) + " is " +
-                                pixels(-worst.left()) + " too wide" + words_of(cut.too_narrow),
-                            "at most " + std::to_string(worst.room) + " at " + (worst.view.uhd ? "4k" : "1080p")});
+        findings.push_back(finding_of(cut));
+        crowded.insert(cut.expected.empty() ? "" : cut.place.file);
     }
     for (const auto& [cause, fault] : faults_) {
+        if (fault.rule == overlap_rule && crowded.count(fault.element->place.file) > 0) {
+            continue;
+        }
         findings.push_back({fault.element->place, Severity::Error, fault.rule,
-                            fault.what + ", by " + pixels(fault.pixels) + words_of(fault.looks), ""});
+                            fault.what + ", by " + counted(fault.pixels, "pixel") + words_of(fault.looks), "", ""});
     }
     const auto order = [](const Finding& finding) {
         return std::tie(finding.place.file, finding.place.line, finding.place.column, finding.what);

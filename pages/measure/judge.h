@@ -32,6 +32,14 @@ private:
         TextRoom worst;
         Looks too_narrow;
     };
+    /// Texts that don't fit for one cause.
+    struct Cut {
+        TextRoom worst;
+        Looks looks;
+        std::set<const Element*> elements;
+        Place place;
+        std::string expected; ///< of a page, on which no language fits; empty for a text
+    };
     struct Fault {
         const char* rule;
         const Element* element;
@@ -45,8 +53,11 @@ private:
     void take_overlaps(const PageFile& page, const View& view, const Shown& shown);
     void take_overlap(const PageFile& page, const View& view, const Shown& shown, const ShownText& text,
                       std::size_t other);
-    /// Texts that are too wide, by cause: a text that stands below several options is one.
-    std::map<std::string, Room> cuts() const;
+    /// By the page's limit on texts, whose cause it is that they don't fit in most languages.
+    std::set<const Attribute*> tight_limits() const;
+    std::map<std::string, Cut> cuts() const;
+    void add_cut(const Room& room, bool of_page, std::map<std::string, Cut>& cuts) const;
+    Finding finding_of(const Cut& cut) const;
     void add(const std::string& cause, const View& view, Fault fault);
     std::string words_of(const Looks& looks) const;
 

@@ -7,30 +7,35 @@
 namespace pages {
 namespace {
 
-bool is_wanted(const std::set<std::string>& wanted, const std::string& name)
-{
-    return wanted.empty() || wanted.count(name) == 1;
-}
-
 /// A start of the menu costs more than a page: language by language in each style and size.
-std::vector<View> views_of(const ResourceFolder& folder, const MeasureOptions& options)
+std::vector<View> views_of(const ResourceFolder& folder)
 {
     std::vector<View> views;
     for (std::uint32_t look = 0; look < 2 * style_count; ++look) {
         for (const auto& [language, texts] : folder.languages) {
-            if (is_wanted(options.languages, language)) {
-                views.push_back({language, look % style_count, look >= style_count});
-            }
+            views.push_back({language, look % style_count, look >= style_count});
         }
     }
     return views;
 }
 
-void measure_page(Menu& menu, Recorder& recorder, const PageFile& page, Judge& judge)
+std::vector<const PageFile*> pages_of(const ResourceFolder& folder, const std::string& language, const Wanted& wanted)
+{
+    std::vector<const PageFile*> pages;
+    for (const auto& [name, page] : folder.pages) {
+        if (page.root != nullptr && (!wanted || wanted(page, language))) {
+            pages.push_back(&page);
+        }
+    }
+    return pages;
+}
+
+void measure_page(Menu& menu, Recorder& recorder, const PageFile& page, const std::vector<std::string>& answers,
+                  Judge& judge)
 {
     menu.close_all();
     (void)menu.open(page.name); // a page that can't be read as a whole is told of by others, its beginning shows
-    const Nodes nodes = tree_of(*menu.top(), *page.root);
+    const Nodes nodes = tree_of(*menu.top(), *page.root, answers);
     for_each_state(*menu.top(), nodes, [&] {
         judge.take(page, menu.view(), explain(*menu.top(), nodes, *page.root, recorder.draw(menu)));
     });
@@ -38,21 +43,23 @@ void measure_page(Menu& menu, Recorder& recorder, const PageFile& page, Judge& j
 
 } // namespace
 
-Measures measure(const ResourceFolder& folder, const MeasureOptions& options)
+Measures measure(const ResourceFolder& folder, const Wanted& wanted)
 {
-    Judge judge(folder);
-    const std::vector<View> views = views_of(folder, options);
+    const std::vector<View> views = views_of(folder);
     if (views.empty()) {
         return {};
     }
+    Judge judge(folder);
+    const std::vector<std::string> answers = host_answers(folder);
     Menu menu(folder, views.front());
     Recorder recorder;
     for (const View& view : views) {
-        menu.look(view);
-        for (const auto& [name, page] : folder.pages) {
-            if (page.root != nullptr && is_wanted(options.pages, name)) {
-                measure_page(menu, recorder, page, judge);
-            }
+        const std::vector<const PageFile*> pages = pages_of(folder, view.language, wanted);
+        if (!pages.empty()) {
+            menu.look(view);
+        }
+        for (const PageFile* page : pages) {
+            measure_page(menu, recorder, *page, answers, judge);
         }
     }
     menu.close_all();
@@ -64,7 +71,7 @@ Measures measure(const ResourceFolder& folder, const MeasureOptions& options)
 
 std::vector<TextRoom> text_rooms(const ResourceFolder& folder, const std::string& language)
 {
-    return measure(folder, {{}, {language}}).rooms;
+    return measure(folder, [&](const PageFile&, const std::string& other) { return other == language; }).rooms;
 }
 
 } // namespace pages

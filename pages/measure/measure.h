@@ -1,7 +1,7 @@
 // Draws the pages as the camera would, in every language, style and size, and tells what doesn't fit.
 #pragma once
 
-#include <set>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -11,10 +11,8 @@
 
 namespace pages {
 
-struct MeasureOptions {
-    std::set<std::string> pages;     ///< only these; empty for all
-    std::set<std::string> languages; ///< only these; empty for all
-};
+/// Whether a page is to be drawn in a language; null for all pages in all languages.
+using Wanted = std::function<bool(const PageFile& page, const std::string& language)>;
 
 /// What a text does on its page.
 enum class Role { Title, Label, Value, Message, Caption };
@@ -29,23 +27,31 @@ struct TextRoom {
     View view;
     int width; ///< in pixels
     int room;  ///< so many pixels it may have
+    int lost;  ///< bytes that it loses where its page puts a number behind it
 
-    int left() const { return room - width; } ///< below 0 it doesn't fit
+    int left() const { return room - width; }
+    bool fits() const { return left() >= 0 && lost == 0; }
 };
+
+/// Whether the first has less room than the other.
+inline bool is_tighter(const TextRoom& one, const TextRoom& other)
+{
+    return one.lost != other.lost ? one.lost > other.lost : one.left() < other.left();
+}
 
 /// "label", "value" ...
 const char* name_of(Role role);
 
 struct Measures {
-    std::vector<Finding> findings; ///< by cause, muted ones as well
+    std::vector<Finding> findings; ///< muted ones as well, and each that by_cause() unites
     std::vector<TextRoom> rooms;   ///< of each text of each place and language
 };
 
 /// Draws and judges the pages. Takes the menu: any thread, one at a time.
-Measures measure(const ResourceFolder& folder, const MeasureOptions& options);
+Measures measure(const ResourceFolder& folder, const Wanted& wanted);
 
 /// Where the texts of a language are shown, and the room that they have there. A translation that doesn't fit is found by
-/// putting it into folder.languages first: its left() is below 0.
+/// putting it into folder.languages first: it is one that fits() not.
 std::vector<TextRoom> text_rooms(const ResourceFolder& folder, const std::string& language);
 
 } // namespace pages

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "osd_records.h"
-#include "pages/data/page_file.h"
+#include "pages/data/resource_folder.h"
 
 namespace pages {
 
@@ -21,12 +21,17 @@ struct Node {
     std::vector<Nodes> options; ///< what each option holds
     std::string value_key;      ///< of the text that its value shows now; empty for what isn't translated
     std::string own_button;     ///< the text of a button, as it was read
+    std::vector<std::string> answers{}; ///< keys of the texts that the host can tell of a STATUS item
 
     const Element& element_of_value() const;
 };
 
+/// The keys of the texts that the camera can tell where it tells one: that of settings.json, and all that nothing else
+/// uses and that begin with the same word, as NdiActive and NdiInactive do.
+std::vector<std::string> host_answers(const ResourceFolder& folder);
+
 /// The items that could be read.
-Nodes tree_of(tagPAGE_NODE_S& page, const Element& root);
+Nodes tree_of(tagPAGE_NODE_S& page, const Element& root, const std::vector<std::string>& answers);
 
 /// Calls visit(node) for all nodes, those above first.
 template <typename Visit>

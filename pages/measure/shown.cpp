@@ -76,7 +76,15 @@ private:
 
     void add(std::size_t i, const Node* node, Role role, const std::string& key, const Element& element)
     {
-        shown_.texts.push_back({i, node, role, key, &element, 0, {}});
+        shown_.texts.push_back({i, node, role, key, &element, 0, {}, role == Role::Title ? lost_of_title(shown_.marks[i]) : 0});
+    }
+
+    /// The menu joins title and number in a text of its own, whose end is cut.
+    int lost_of_title(const Mark& mark) const
+    {
+        const std::string title = page_.acTitle;
+        const std::string joined = page_.stTurn.bCurPagesNum == 0 ? title : title + "  " + page_.stTurn.acCurPagesNum;
+        return static_cast<int>(joined.size() - std::min(joined.size(), mark.name.size()));
     }
 
     bool is_last_text(std::size_t i) const
@@ -183,7 +191,7 @@ private:
                              (text.node != nullptr && text.node->item->enItemPos == ITEM_POS_CENTER);
         if (over > 0) {
             core.x += centred ? over / 2 : 0;
-            core.w = text.room;
+            core.w = std::max(1, text.room);
         }
         return core;
     }

@@ -18,6 +18,7 @@ struct ShownText {
     const Element* element;
     int room;      ///< pixels that it may be wide
     SDL_Rect core; ///< what its letters fill, cut to that room
+    int lost;      ///< bytes that it loses to the page's number
 };
 
 struct Shown {

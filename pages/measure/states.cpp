@@ -50,6 +50,9 @@ int steps_of(const Node& node)
     if (item.enValType == NUMERICAL) {
         return 2;
     }
+    if (!node.answers.empty()) {
+        return static_cast<int>(node.answers.size());
+    }
     const Setting* live = live_setting(item);
     const int options = live != nullptr ? static_cast<int>(live->options.size()) : osdItemOptionCnt(&item);
     return std::max(1, options);
@@ -70,6 +73,14 @@ void set_text(char (&field)[N], const std::string& text)
     osdTextSet(field, text.c_str());
 }
 
+void choose_word(Node& node, const std::string& key)
+{
+    node.value_key = key;
+    OSD_TEXT text = "";
+    (void)osdCfgTranslate(camera().view().language.c_str(), key.c_str(), text); // empty without a translation
+    set_text(node.item->acValue[0], text);
+}
+
 void choose_button(Node& node, int step)
 {
     tagITEM_NODE_S& item = *node.item;
@@ -81,10 +92,7 @@ void choose_button(Node& node, int step)
         set_text(item.acValue[0], node.own_button);
         return;
     }
-    node.value_key = word;
-    OSD_TEXT text = "";
-    (void)osdCfgTranslate(camera().view().language.c_str(), word.c_str(), text); // empty without a translation
-    set_text(item.acValue[0], text);
+    choose_word(node, word);
 }
 
 void choose_live(Node& node, const Setting& setting, int step)
@@ -106,10 +114,6 @@ void choose_text(Node& node)
             set_text(*field, widest_address);
         }
     }
-    const auto& facts = camera().folder().definitions.facts;
-    if (item.enAttr == STATUS && osdTextEqual(item.acItemIndex, "NdiStatus") && facts.count("NdiStatus") == 1) {
-        node.value_key = facts.at("NdiStatus");
-    }
 }
 
 void choose_plain(Node& node, int step)
@@ -123,6 +127,8 @@ void choose_plain(Node& node, int step)
         choose_button(node, step);
     } else if (item.enValType == NUMERICAL) {
         item.s32Cur = step == 0 ? item.s32Min : item.s32Max;
+    } else if (!node.answers.empty()) {
+        choose_word(node, node.answers[static_cast<std::size_t>(step)]);
     } else if (live != nullptr) {
         choose_live(node, *live, step);
     } else if (item.enAttr == STATUS || item.enAttr == EDITABLE) {

@@ -16,7 +16,7 @@ std::map<std::string, TextRoom> narrowest_rooms(ResourceFolder& folder, const st
     std::map<std::string, TextRoom> narrowest;
     for (const TextRoom& room : text_rooms(folder, language)) {
         const auto [known, added] = narrowest.emplace(room.key, room);
-        if (!added && room.left() < known->second.left()) {
+        if (!added && is_tighter(room, known->second)) {
             known->second = room;
         }
     }

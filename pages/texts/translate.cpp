@@ -70,6 +70,16 @@ PoEntry entry_for(const SourceText& text, const std::map<std::string, std::strin
     return entry;
 }
 
+std::string words_of_misfit(const TextRoom& room)
+{
+    return room.lost > 0
+               ? counted(room.lost, "byte") + " too long with the number of page " + room.page + ", which shows '" +
+                     room.text + "': both and two blanks have at most " + std::to_string(max_text_bytes)
+               : counted(-room.left(), "pixel") + " too wide: '" + room.text + "' has " +
+                     std::to_string(room.width) + " on page " + room.page + " (" + to_string(room.view) + "), " +
+                     std::to_string(room.room) + " fit";
+}
+
 std::string words_of_language(const PoFile& content, const std::string& language)
 {
     return "the file is for " + (content.language.empty() ? "no language" : content.language) + ", expected " +
@@ -169,10 +179,8 @@ public:
         std::map<std::string, std::string> tried = texts;
         tried.insert(english_.begin(), english_.end());
         for (const auto& [key, room] : narrowest_rooms(folder, language_, tried)) {
-            if (texts.count(key) != 0 && room.left() < 0) {
-                refuse(places_[key], "'" + key + "' is " + std::to_string(-room.left()) + " pixels too wide: '" +
-                                         room.text + "' has " + std::to_string(room.width) + " on page " + room.page +
-                                         " (" + to_string(room.view) + "), " + std::to_string(room.room) + " fit");
+            if (texts.count(key) != 0 && !room.fits()) {
+                refuse(places_[key], "'" + key + "' is " + words_of_misfit(room));
             }
         }
     }

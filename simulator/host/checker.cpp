@@ -29,10 +29,16 @@ bool is_before(const Finding& one, const Finding& other) { return order_of(one) 
 
 bool are_equal(const Finding& one, const Finding& other) { return order_of(one) == order_of(other); }
 
-/// What shows when pages are drawn: all that isn't said without that. Empty: all pages.
-std::vector<Finding> measure_pages(const Verdict& quick, const std::set<std::string>& pages)
+/// What shows when pages are drawn: all that isn't said without that. Empty: all pages in all languages, else these
+/// pages, and all pages in these languages.
+std::vector<Finding> measure_files(const Verdict& quick, const std::set<std::string>& files)
 {
-    const std::vector<Finding> all = check_honestly(quick.resources->folder, {true, pages}).findings;
+    const pages::ResourceFolder& folder = quick.resources->folder;
+    const auto is_one = [&](const pages::PageFile& page, const std::string& language) {
+        return files.count(page.file) > 0 || files.count(pages::language_file(language)) > 0;
+    };
+    const pages::Wanted wanted = files.empty() ? pages::Wanted() : is_one;
+    const std::vector<Finding> all = check_honestly(folder, {true, wanted}).findings;
     std::vector<Finding> found;
     std::set_difference(all.begin(), all.end(), quick.findings.begin(), quick.findings.end(), std::back_inserter(found),
                         is_before);
@@ -142,14 +148,15 @@ void Checker::look()
     const std::shared_ptr<const Resources> earlier = quick_.resources;
     quick_ = judge(resources_);
     rest_ = Clock::now() + time_until_rest;
-    choose_pages(earlier.get());
+    choose_files(earlier.get());
     if (!is_asked()) { // else it may tell of what has been mended since
         tell();
     }
 }
 
-/// A changed page is drawn at once, and so is one with findings: it may have been mended by a change elsewhere.
-void Checker::choose_pages(const Resources* earlier)
+/// What a changed file shows is drawn at once, and so is that of a file with findings: they may have been mended by a
+/// change elsewhere.
+void Checker::choose_files(const Resources* earlier)
 {
     all_due_ = quick_.resources != nullptr;
     if (!all_due_ || earlier == nullptr) {
@@ -157,34 +164,18 @@ void Checker::choose_pages(const Resources* earlier)
         measured_.clear();
         return;
     }
-    const std::set<std::string> changed = differences(earlier->files, quick_.resources->files);
-    measured_.erase(std::remove_if(measured_.begin(), measured_.end(),
-                                   [&](const Finding& finding) {
-                                       return changed.count(finding.place.file) > 0 &&
-                                              !is_page_file(finding.place.file);
-                                   }),
-                    measured_.end());
-    for (const auto& [name, page] : quick_.resources->folder.pages) {
-        const auto is_here = [file = &page.file](const Finding& finding) { return finding.place.file == *file; };
-        if (changed.count(page.file) > 0 || std::any_of(measured_.begin(), measured_.end(), is_here)) {
-            urgent_.insert(name);
-        }
+    urgent_.merge(differences(earlier->files, quick_.resources->files));
+    for (const Finding& finding : measured_) {
+        urgent_.insert(finding.place.file);
     }
 }
 
-/// All pages when none is urgent. What was found elsewhere stays until then.
+/// All pages when no file is urgent.
 void Checker::measure()
 {
-    const std::set<std::string> pages = std::exchange(urgent_, {});
-    all_due_ = !pages.empty();
-    std::vector<Finding> found = measure_pages(quick_, pages);
-    for (const Finding& finding : measured_) {
-        const std::string& file = finding.place.file;
-        if (!pages.empty() && is_page_file(file) && pages.count(page_name(file)) == 0) {
-            found.push_back(finding);
-        }
-    }
-    std::sort(found.begin(), found.end(), is_before);
+    const std::set<std::string> files = std::exchange(urgent_, {});
+    all_due_ = !files.empty();
+    std::vector<Finding> found = measure_files(quick_, files);
     const bool same = std::equal(found.begin(), found.end(), measured_.begin(), measured_.end(), are_equal);
     measured_ = std::move(found);
     if (!same && !is_asked()) {

@@ -44,7 +44,7 @@ struct Verdict {
 Verdict judge(const std::filesystem::path& resources);
 
 /// Checks resources on a thread of its own: what can be said at once is told first, then what shows when the changed
-/// pages are drawn; when nothing has changed for a second, all pages are.
+/// pages are drawn, and all pages in a changed language; when nothing has changed for a second, all is drawn.
 class Checker {
 public:
     /// The function is called on that thread, with all that is known then. The first look waits for look_again().
@@ -65,7 +65,7 @@ private:
     Step wait_for_step();
     bool is_asked();
     void look();
-    void choose_pages(const Resources* earlier);
+    void choose_files(const Resources* earlier);
     void measure();
     void tell() const;
 
@@ -74,7 +74,7 @@ private:
 
     Verdict quick_;                 ///< of the last look
     std::vector<Finding> measured_; ///< what showed when pages were drawn, by place
-    std::set<std::string> urgent_;  ///< pages to draw at once
+    std::set<std::string> urgent_;  ///< files: what they show is drawn at once
     bool all_due_ = false;          ///< to draw all pages at rest
     Clock::time_point rest_;        ///< when that begins
 

@@ -62,11 +62,26 @@ class Walk {
 public:
     explicit Walk(const ResourceFolder& folder) : menu_(folder, folder.languages.begin()->first)
     {
+        std::uint32_t style = 1;
         for (const auto& [language, texts] : folder.languages) {
-            menu_.look({language, 1, false});
+            menu_.look({language, style++ % style_count, false});
             seen_.clear();
             start(folder, "main", Key::Menu);
             start(folder, "advanced", Key::Advanced);
+        }
+    }
+
+    /// Draws each page in each language, style and size, as it opens.
+    void draw_all(const ResourceFolder& folder)
+    {
+        for (const View& view : all_views(folder)) {
+            menu_.look(view);
+            for (const auto& [name, page] : folder.pages) {
+                menu_.close_all();
+                EXPECT_TRUE(menu_.open(name)) << name;
+                (void)menu_.draw();
+                hear();
+            }
         }
     }
 
@@ -87,8 +102,13 @@ private:
     void press(Key key)
     {
         menu_.press(key);
+        hear();
+    }
+
+    void hear()
+    {
         for (const std::string& line : menu_.take_lines()) {
-            failures_.push_back(menu_.open_pages().back() + ": " + line);
+            failures_.push_back(menu_.open_pages().back() + " (" + to_string(menu_.view()) + "): " + line);
         }
     }
 
@@ -178,14 +198,19 @@ bool has_error(const CheckResult& result)
 
 TEST(Check, TellsEachMistakeOnceAndWhatPassesIsDrawn)
 {
+    const std::set<std::string> distorted{"answers_in_one_place", "icons_in_columns_of_words", "icons_in_no_columns",
+                                          "icons_beyond_the_edge"}; // of which nothing more is told when they are drawn
     std::size_t count = 0;
     for (const auto& entry : fs::directory_iterator(cases / "bad")) {
         SCOPED_TRACE(entry.path());
         const std::string name = entry.path().filename().string();
         const BadFolder bad(name);
         const ResourceFolder folder = bad.read();
-        const CheckResult result = check(folder, {name.rfind("measured_", 0) == 0, {}});
+        const CheckResult result = check(folder, {name.rfind("measured_", 0) == 0 || distorted.count(name) > 0, {}});
         EXPECT_EQ(told(result), bad.expected());
+        if (name.rfind("measured_allowed", 0) == 0) {
+            EXPECT_THAT(told(check(folder, {false, {}})), IsEmpty());
+        }
         if (!has_error(result)) {
             EXPECT_THAT(result.refused, IsEmpty());
             EXPECT_THAT(Walk(folder).failures(), IsEmpty());
@@ -210,12 +235,10 @@ TEST(Check, TellsWhichPagesTheMenuRefuses)
 TEST(Check, FindsNothingWhereAllIsWellAndAllPagesAreDrawn)
 {
     for (const fs::path& path : {cases / "good", fs::path(OSD_SHIPPED_DIR)}) {
-        ResourceFolder folder = read_resource_folder(path, fonts);
+        const ResourceFolder folder = read_resource_folder(path, fonts);
         EXPECT_THAT(told(check(folder, {path.filename() == "good", {}})), IsEmpty());
-        for (const char* like_others : {"French", "German", "SimplifiedChinese"}) {
-            folder.languages.erase(folder.languages.size() > 2 ? like_others : "");
-        }
-        const Walk walk(folder);
+        Walk walk(folder);
+        walk.draw_all(folder);
         EXPECT_THAT(walk.failures(), IsEmpty());
         EXPECT_EQ(walk.seen().size(), folder.pages.size());
     }

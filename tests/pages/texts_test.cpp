@@ -193,6 +193,15 @@ TEST_F(TextsTest, ThatDontFitAreRefused)
     }
 }
 
+TEST_F(TextsTest, ThatLoseTheNumberOfTheirPageAreRefused)
+{
+    fs::copy(shipped / "pages" / "system_page.xml", root / "pages");
+    std::string bad = exported("French");
+    replace(bad, "\"Système\"", "\"" + std::string(27, 'i') + "\"");
+    write_text_file(po, bad);
+    EXPECT_THAT(refused("French"), ElementsAre(HasSubstr("'system' is 1 byte too long with the number of page system")));
+}
+
 TEST_F(TextsTest, ThatDontFitAreRefusedAllAtOnce)
 {
     std::string bad = exported("French");

@@ -208,6 +208,13 @@ TEST_F(Reload, ChecksOnAThreadOfItsOwn)
     EXPECT_TRUE(comes("text"));
     folder.write("lang/English.json", good);
     EXPECT_TRUE(comes(""));
+    const std::string mirror = "\"Mirror\": \"";
+    std::string wide = good;
+    wide.insert(wide.find(mirror) + mirror.size(), 20, 'W');
+    folder.write("lang/English.json", wide);
+    EXPECT_TRUE(comes("text-cut")) << "is drawn";
+    folder.write("lang/English.json", good);
+    EXPECT_TRUE(comes(""));
 }
 
 static Color color_of(const std::string& picture)
