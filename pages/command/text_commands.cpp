@@ -43,7 +43,7 @@ int run_import(const TextOptions& options)
     }
     if (!imported.refusals.empty()) {
         std::cout << imported.refusals.size() << " refused, nothing was written\n";
-        return findings_told;
+        return imported.usable ? findings_told : unusable;
     }
     std::cout << "lang/" << options.language << ".json: " << (imported.changed ? "written" : "unchanged") << '\n';
     tell_steps(folder, options.language);
