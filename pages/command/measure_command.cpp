@@ -1,12 +1,12 @@
 #include "pages/command/measure_command.h"
 
 #include <CLI/CLI.hpp>
-#include <algorithm>
 #include <iostream>
 #include <memory>
 
 #include "pages/command/commands.h"
 #include "pages/measure/report.h"
+#include "pages/preview/selection.h"
 
 namespace pages {
 namespace {
@@ -14,32 +14,15 @@ namespace {
 struct MeasureCommand {
     std::string folder;
     std::string fonts;
-    MeasureOptions measure;
+    Selection selection;
     bool json = false;
 };
-
-/// Nothing is measured without a word for a name that is misspelt.
-template <typename Map>
-void refuse_unknown(const std::set<std::string>& wanted, const Map& known, const std::string& what)
-{
-    for (const std::string& name : wanted) {
-        if (known.count(name) == 0) {
-            std::vector<std::string> names;
-            std::transform(known.begin(), known.end(), std::back_inserter(names),
-                           [](const auto& entry) { return entry.first; });
-            const std::string nearest = nearest_word(name, names);
-            throw BadInput("there is no " + what + " '" + name + "'" +
-                           (nearest.empty() ? "" : ", expected '" + nearest + "'"));
-        }
-    }
-}
 
 int run_measure(const MeasureCommand& options)
 {
     const ResourceFolder folder = read_resource_folder(options.folder, options.fonts);
-    refuse_unknown(options.measure.pages, folder.pages, "page");
-    refuse_unknown(options.measure.languages, folder.languages, "language");
-    const Measures measures = measure(folder, options.measure);
+    const Selection selection = checked(options.selection, folder);
+    const Measures measures = measure(folder, {selection.pages, selection.languages});
     if (options.json) {
         std::cout << to_json(measures) << '\n';
     } else {
@@ -59,8 +42,8 @@ void add_measure_command(CLI::App& app, int& status)
     CLI::App* command = app.add_subcommand("measure", "Tell what doesn't fit, and how many pixels each text has left");
     command->add_option("FOLDER", options->folder, "folder with pages/, lang/, pic/ and settings.json")->required();
     command->add_option("--fonts", options->fonts, "folder with font.ttf, bold_font.ttf and tcfont.ttf");
-    command->add_option("--page", options->measure.pages, "only this page; may be given again");
-    command->add_option("--language", options->measure.languages, "only this language; may be given again");
+    command->add_option("--page", options->selection.pages, "only this page; may be given again");
+    command->add_option("--language", options->selection.languages, "only this language; may be given again");
     command->add_flag("--json", options->json, "as JSON");
     command->callback([options, &status] { status = run_measure(*options); });
 }
