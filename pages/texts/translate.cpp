@@ -47,7 +47,7 @@ std::string comment_for(const std::vector<TextUse>& uses, const TextRoom* room)
     if (words.size() > told_uses) {
         comment += " and " + std::to_string(words.size() - told_uses) + " more";
     }
-    comment = (comment.empty() ? "on no page: shown by the menu itself" : comment) + "\nat most " +
+    comment = (comment.empty() ? "nothing here uses it, but a camera may tell this key" : comment) + "\nat most " +
               std::to_string(max_text_bytes) + " bytes";
     if (room != nullptr) {
         comment += ", and " + std::to_string(room->room) + " pixels on page " + room->page +
@@ -66,7 +66,9 @@ PoEntry entry_for(const SourceText& text, const std::map<std::string, std::strin
     entry.translation = translation == translations.end() ? "" : translation->second;
     entry.comment = comment_for(uses, room);
     for (const TextUse& use : uses) {
-        entry.uses.push_back(use.place);
+        if (!use.place.file.empty()) {
+            entry.uses.push_back(use.place);
+        }
     }
     return entry;
 }

@@ -120,7 +120,12 @@ TEST_F(TextsTest, TellTranslatorsWhereTheyAreUsed)
                           "has 74\n"
                           "#: pages/lens_page.xml:3 pages/main_page.xml:10\n"
                           "msgctxt \"lens\"\nmsgid \"Lens\"\nmsgstr \"Objectif\"\n"));
-    EXPECT_THAT(exported("French"), HasSubstr("\"Language: fr\\n\""));
+    const std::string po_text = exported("French");
+    EXPECT_THAT(po_text, HasSubstr("\"Language: fr\\n\""));
+    EXPECT_THAT(po_text, HasSubstr("#. shown by the menu itself\n"));
+    EXPECT_THAT(po_text, HasSubstr("#. value of fact NdiStatus\n"));
+    EXPECT_THAT(po_text, HasSubstr("#. nothing here uses it, but a camera may tell this key\n#. at most 31 bytes\n"
+                                   "msgctxt \"NdiInactive\""));
 }
 
 TEST_F(TextsTest, OfANewLanguageAreEmptyAndTheAuthorHearsWhatToDo)
