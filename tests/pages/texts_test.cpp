@@ -182,8 +182,8 @@ TEST_F(TextsTest, ThatHaveNoEnglishAnyMoreWaitAsObsoleteUntilItIsBack)
 TEST_F(TextsTest, WithAByteOrderMarkHearTheRemedy)
 {
     write_text_file(po, "\xEF\xBB\xBF" + exported("French"));
-    EXPECT_THAT([&] { (void)import("French"); },
-                testing::ThrowsMessage<BadInput>(HasSubstr("po:1:1: the file begins with a byte order mark, expected")));
+    EXPECT_THAT([&] { (void)import("French"); }, testing::ThrowsMessage<BadInput>(HasSubstr(
+                                                     "po:1:1: the file begins with a byte order mark, expected")));
 }
 
 TEST_F(TextsTest, ThatDontFitAreRefused)
