@@ -4,6 +4,7 @@
 #include <exception>
 #include <iostream>
 #include <stdexcept>
+#include <string>
 
 #include "pages/command/commands.h"
 
@@ -12,9 +13,11 @@ namespace {
 int run(int argc, const char* const* argv)
 {
     CLI::App app("Checks, measures, shows and translates the pages of a camera's menu.", "osdmenu-pages");
+    app.set_version_flag("--version", std::string("osdmenu-pages ") + pages::version());
     app.require_subcommand(1);
     int status = 0;
     pages::add_commands(app, status);
+    pages::refuse_unknown_command(app, {argv + 1, argv + argc});
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {

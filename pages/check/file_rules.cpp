@@ -13,7 +13,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view utf8_mark = "\xEF\xBB\xBF";
 constexpr std::string_view utf8 = "UTF-8";
 
 /// The files of pages, languages and settings, with their content, below the folder.
@@ -112,9 +111,8 @@ void find_other_encodings(const ResourceFolder& folder, const Complain& complain
 void find_byte_order_marks(const ResourceFolder& folder, const Complain& complain)
 {
     for_each_text_file(folder, [&](const std::string& file, const std::string& text) {
-        if (text.compare(0, utf8_mark.size(), utf8_mark) == 0) {
-            complain({file, 1, 1}, "the file begins with a byte order mark",
-                     "none; save the file as UTF-8 without byte order mark (BOM)");
+        if (has_utf8_mark(text)) {
+            complain({file, 1, 1}, utf8_mark_words, utf8_mark_remedy);
         }
     });
 }

@@ -9,6 +9,7 @@
 #include "menu/core/value_status.h"
 #include "menu/core/words.h"
 #include "pages/check/attribute_rules.h"
+#include "pages/check/own_words.h"
 #include "pages/check/page_walk.h"
 
 namespace pages {
@@ -90,10 +91,6 @@ void ask_of_settings(const ResourceFolder& folder, const Ask& ask)
         }
     }
 }
-
-/// The words that the menu asks for by itself.
-constexpr const char* own_words[] = {OSD_WORD_STATIC_IP, OSD_WORD_DHCP_IP, OSD_WORD_AUTO_MODE,
-                                     OSD_WORD_CONFIRM,   OSD_WORD_FINISH,  OSD_WORD_LOADING};
 
 /// Calls ask(place, key) for each text that the menu may ask for.
 void for_each_asked(const ResourceFolder& folder, const Ask& ask)

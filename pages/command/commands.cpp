@@ -1,9 +1,11 @@
 #include "pages/command/commands.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <iostream>
 
 #include "pages/check/check.h"
+#include "pages/check/page_walk.h"
 #include "pages/command/measure_command.h"
 #include "pages/command/other_commands.h"
 #include "pages/command/show_commands.h"
@@ -64,5 +66,25 @@ void add_commands(CLI::App& app, int& status)
     add_text_commands(app, status);
     add_show_commands(app, status);
 }
+
+void refuse_unknown_command(const CLI::App& app, const std::vector<std::string>& words)
+{
+    const CLI::App* level = &app;
+    for (const std::string& word : words) {
+        std::vector<std::string> known;
+        for (const CLI::App* command : level->get_subcommands({})) {
+            known.push_back(command->get_name());
+        }
+        if (known.empty() || word.empty() || word[0] == '-') {
+            return;
+        }
+        if (std::count(known.begin(), known.end(), word) == 0) {
+            throw BadInput("there is no command '" + word + "', expected " + one_of(word, known));
+        }
+        level = level->get_subcommand(word);
+    }
+}
+
+const char* version() { return OSD_VERSION; }
 
 } // namespace pages

@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <iostream>
+#include <unistd.h>
 
 #include "pages/command/commands.h"
 #include "pages/map/map.h"
@@ -47,9 +48,18 @@ void tell_sheets(const ShowOptions& options)
     }
 }
 
+/// A line that counts up, for who waits at a terminal.
+void tell_progress(std::size_t drawn, std::size_t all)
+{
+    if (isatty(STDERR_FILENO) != 0) {
+        std::cerr << "\rdrawing picture " << drawn << " of " << all << (drawn == all ? "\n" : "") << std::flush;
+    }
+}
+
 void tell_preview(const ShowOptions& options)
 {
-    const Preview preview = write_preview(read_folder(options), options.to, selection_of(options), options.earlier);
+    const Preview preview =
+        write_preview(read_folder(options), options.to, selection_of(options), options.earlier, tell_progress);
     std::cout << "wrote " << preview.pictures << " pictures and " << options.to << "/index.html\n";
     if (options.earlier.empty()) {
         return;

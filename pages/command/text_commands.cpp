@@ -28,25 +28,27 @@ void tell_steps(const ResourceFolder& folder, const std::string& language)
 int run_export(const TextOptions& options)
 {
     ResourceFolder folder = read_resource_folder(options.folder, options.fonts);
-    const Exported exported = export_texts(folder, options.language, options.file, options.update);
+    const std::string language = language_named(folder.definitions, options.language);
+    const Exported exported = export_texts(folder, language, options.file, options.update);
     std::cout << options.file << ": " << exported.texts << " texts, " << exported.translated << " translated\n";
-    tell_steps(folder, options.language);
+    tell_steps(folder, language);
     return all_well;
 }
 
 int run_import(const TextOptions& options)
 {
     ResourceFolder folder = read_resource_folder(options.folder, options.fonts);
-    const Imported imported = import_texts(folder, options.language, options.file);
+    const std::string language = language_named(folder.definitions, options.language);
+    const Imported imported = import_texts(folder, language, options.file);
     for (const BadInput& refusal : imported.refusals) {
         std::cout << refusal.what() << '\n';
     }
     if (!imported.refusals.empty()) {
         std::cout << imported.refusals.size() << " refused, nothing was written\n";
-        return findings_told;
+        return imported.usable ? findings_told : unusable;
     }
-    std::cout << "lang/" << options.language << ".json: " << (imported.changed ? "written" : "unchanged") << '\n';
-    tell_steps(folder, options.language);
+    std::cout << "lang/" << language << ".json: " << (imported.changed ? "written" : "unchanged") << '\n';
+    tell_steps(folder, language);
     return all_well;
 }
 
@@ -61,11 +63,11 @@ void add_command(CLI::App& app, int& status, const char* name, const char* words
     auto options = std::make_shared<TextOptions>();
     CLI::App* command = app.add_subcommand(name, words);
     command->add_option("FOLDER", options->folder, "folder with pages/, lang/, pic/ and settings.json")->required();
-    command->add_option("LANGUAGE", options->language, "its name: lang/LANGUAGE.json")->required();
+    command->add_option("LANGUAGE", options->language, "its name: lang/LANGUAGE.json; or its option key")->required();
     command->add_option("FILE", options->file, "PO file")->required();
     command->add_option("--fonts", options->fonts, "folder with font.ttf, bold_font.ttf and tcfont.ttf");
     if (run == run_export) {
-        command->add_flag("--update", options->update, "the file is there: keep its translations");
+        command->add_flag("--update", options->update, "keep the translations of the file, when it is there already");
     }
     command->callback([options, run, &status] { status = run(*options); });
 }

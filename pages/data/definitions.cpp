@@ -305,6 +305,12 @@ std::string option_of_language(const Definitions& definitions, const std::string
     throw BadInput("unknown language '" + wanted + "', expected one of " + known);
 }
 
+std::string language_named(const Definitions& definitions, const std::string& wanted)
+{
+    const auto option = definitions.languages.find(wanted);
+    return option == definitions.languages.end() ? wanted : option->second;
+}
+
 Definitions read_definitions(const std::filesystem::path& path, std::vector<BadInput>& mistakes)
 {
     JsonPlaces places(path.string());

@@ -33,6 +33,9 @@ const char* fact_of_event(int event);
 /// The option key of a language given by its name or by the key itself. Throws BadInput, which lists the names.
 std::string option_of_language(const Definitions& definitions, const std::string& wanted);
 
+/// The name of a language given by its name or by its option key; what is neither stays as it is.
+std::string language_named(const Definitions& definitions, const std::string& wanted);
+
 /// Reads and checks the file; what can't be used is left out, with a mistake for each. Throws BadInput when nothing can
 /// be used.
 Definitions read_definitions(const std::filesystem::path& path, std::vector<BadInput>& mistakes);

@@ -179,4 +179,15 @@ ResourceFolder read_resource_folder(const fs::path& root, const fs::path& fonts)
     return folder;
 }
 
+void refuse_inside(const ResourceFolder& folder, const fs::path& output)
+{
+    std::error_code ignored; // what isn't there yet is made
+    const fs::path below =
+        fs::weakly_canonical(fs::absolute(output), ignored).lexically_relative(fs::canonical(folder.root, ignored));
+    if (!below.empty() && *below.begin() != "..") {
+        throw BadInput("the folder " + output.string() + " lies among the resources of " + folder.root.string() +
+                       ", expected one outside of them");
+    }
+}
+
 } // namespace pages

@@ -35,4 +35,7 @@ bool is_resource_folder(const std::filesystem::path& root);
 /// staged ones where it has none. Throws BadInput for what is no folder of resources.
 ResourceFolder read_resource_folder(const std::filesystem::path& root, const std::filesystem::path& fonts = {});
 
+/// Throws BadInput for a folder to write to that lies inside, where what is written would be taken for resources.
+void refuse_inside(const ResourceFolder& folder, const std::filesystem::path& output);
+
 } // namespace pages

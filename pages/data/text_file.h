@@ -3,8 +3,15 @@
 
 #include <filesystem>
 #include <string>
+#include <string_view>
 
 namespace pages {
+
+/// What some editors put before UTF-8, and what is told of a file that begins with it.
+constexpr std::string_view utf8_mark = "\xEF\xBB\xBF";
+constexpr const char* utf8_mark_words = "the file begins with a byte order mark";
+constexpr const char* utf8_mark_remedy = "none; save the file as UTF-8 without byte order mark (BOM)";
+inline bool has_utf8_mark(std::string_view text) { return text.substr(0, utf8_mark.size()) == utf8_mark; }
 
 /// Whether an editor keeps a copy or a lock under such a name.
 bool is_of_editor(const std::filesystem::path& path);

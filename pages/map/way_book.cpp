@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "menu/core/led_color.h"
 #include "osd_types.h"
 
 namespace pages {
@@ -9,6 +10,16 @@ namespace {
 
 /// So many stacks are followed at most: pages that lead to each other have very many.
 constexpr int most_followed = 20000;
+
+/// The setting that an item changes.
+SettingId changed_by(const tagITEM_NODE_S& item, const Definitions& definitions)
+{
+    if (osdLedByteFind(item.acItemIndex) != nullptr) {
+        return {"", custom_color};
+    }
+    const auto zone = definitions.zones.find(item.acDataZone);
+    return {zone == definitions.zones.end() ? "" : zone->second, item.acItemIndex};
+}
 
 } // namespace
 
@@ -26,13 +37,13 @@ bool WayBook::add_page(const std::vector<std::string>& stack, const Keys& keys)
 
 void WayBook::add_setting(const tagITEM_NODE_S& item, const std::string& page, const Keys& keys)
 {
-    const auto zone = folder_.definitions.zones.find(item.acDataZone);
-    const SettingId id{zone == folder_.definitions.zones.end() ? "" : zone->second, item.acItemIndex};
+    const SettingId id = changed_by(item, folder_.definitions);
     if (folder_.definitions.settings.count(id) == 0) {
         return;
     }
     const auto same = [&](const ReachedSetting& other) {
-        return other.page == page && other.setting.key == id.key && other.setting.parent == id.parent;
+        return other.page == page && other.label == item.acItemName && other.setting.key == id.key &&
+               other.setting.parent == id.parent;
     };
     const auto known = std::find_if(walk_.settings.begin(), walk_.settings.end(), same);
     if (known == walk_.settings.end()) {

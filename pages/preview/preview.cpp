@@ -12,7 +12,7 @@ namespace {
 namespace fs = std::filesystem;
 
 std::vector<std::string> draw_all(const ResourceFolder& folder, const fs::path& to, const std::vector<View>& views,
-                                  const std::vector<Shot>& shots)
+                                  const std::vector<Shot>& shots, const Progress& progress)
 {
     std::vector<std::string> files;
     PictureWriter writer;
@@ -23,6 +23,7 @@ std::vector<std::string> draw_all(const ResourceFolder& folder, const fs::path& 
         for (const Shot& shot : shots) {
             files.push_back(folder_of(view) + "/" + shot.file + ".png");
             writer.write(picture_of(menu, shot), to / files.back());
+            progress(files.size(), views.size() * shots.size());
         }
     }
     writer.finish();
@@ -69,8 +70,9 @@ void forget_comparison(const fs::path& to)
 } // namespace
 
 Preview write_preview(const ResourceFolder& folder, const fs::path& to, const Selection& selection,
-                      const fs::path& earlier)
+                      const fs::path& earlier, const Progress& progress)
 {
+    refuse_inside(folder, to);
     const Selection usable = checked(selection, folder);
     const std::vector<View> views = views_of(usable, folder);
     const std::vector<Shot> shots = shots_of(folder, usable);
@@ -81,7 +83,7 @@ Preview write_preview(const ResourceFolder& folder, const fs::path& to, const Se
     }
     make_folder(to);
     forget_comparison(to);
-    const std::vector<std::string> files = draw_all(folder, to, views, shots);
+    const std::vector<std::string> files = draw_all(folder, to, views, shots, progress);
     write_list(to, files);
     Preview preview{files.size(), {}};
     if (!earlier.empty()) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 
 #include "pages/preview/difference.h"
 #include "pages/preview/selection.h"
@@ -13,9 +14,14 @@ struct Preview {
     Changes changes; ///< against the earlier run
 };
 
+/// Hears how many pictures of how many are drawn.
+using Progress = std::function<void(std::size_t drawn, std::size_t all)>;
+
 /// Writes FOLDER/LANGUAGE/style0-1080p/PAGE.png for each page, language, style and size, and FOLDER/index.html. Compares
-/// with an earlier run in another folder, unless that is empty. Throws BadInput and std::runtime_error.
-Preview write_preview(const ResourceFolder& folder, const std::filesystem::path& to, const Selection& selection,
-                      const std::filesystem::path& earlier);
+/// with an earlier run in another folder, unless that is empty. Throws BadInput, as for a folder among the resources, and
+/// std::runtime_error.
+Preview write_preview(
+    const ResourceFolder& folder, const std::filesystem::path& to, const Selection& selection,
+    const std::filesystem::path& earlier, const Progress& progress = [](auto...) {});
 
 } // namespace pages

@@ -15,8 +15,7 @@ std::string names_of(const Map& map)
 
 std::string checked_language(const std::string& wanted, const ResourceFolder& folder)
 {
-    const auto option = folder.definitions.languages.find(wanted);
-    const std::string& name = option == folder.definitions.languages.end() ? wanted : option->second;
+    const std::string name = language_named(folder.definitions, wanted);
     if (folder.languages.count(name) == 0) {
         throw BadInput("no language '" + wanted + "', expected one of: " + names_of(folder.languages));
     }

@@ -139,6 +139,7 @@ std::vector<fs::path> write_sheets(const ResourceFolder& folder, const fs::path&
         write_one(folder, path, usable);
         return {path};
     }
+    refuse_inside(folder, path);
     return FolderOfSheets(folder, path, usable).write();
 }
 

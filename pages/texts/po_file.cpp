@@ -1,5 +1,6 @@
 #include "pages/texts/po_file.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <fstream>
@@ -88,55 +89,83 @@ Place place_of(const char* file, std::size_t line, std::size_t column)
     return {file, static_cast<int>(line), column == unknown ? 0 : static_cast<int>(column)};
 }
 
+std::string on_one_line(std::string words)
+{
+    while (!words.empty() && words.back() == '\n') {
+        words.pop_back();
+    }
+    std::replace(words.begin(), words.end(), '\n', ' ');
+    return words;
+}
+
 void hear(int severity, po_message_t /*message*/, const char* file, std::size_t line, std::size_t column,
           int /*multiline*/, const char* words)
 {
-    const BadInput mistake(place_of(file, line, column), words);
+    const BadInput mistake(place_of(file, line, column), on_one_line(words));
     if (severity == PO_SEVERITY_FATAL_ERROR) { // the handler must not return
         throw BadInput(mistake);
     }
-    heard->push_back(mistake);
+    if (severity == PO_SEVERITY_ERROR) { // warnings are of encodings, which are judged by the header
+        heard->push_back(mistake);
+    }
 }
 
+/// Of two entries; the library tells where the second stands.
 void hear_both(int severity, po_message_t message, const char* file, std::size_t line, std::size_t column,
-               int multiline, const char* words, po_message_t /*other*/, const char* /*other_file*/,
-               std::size_t other_line, std::size_t /*other_column*/, int /*other_multiline*/,
+               int multiline, const char* words, po_message_t other, const char* /*other_file*/,
+               std::size_t /*other_line*/, std::size_t /*other_column*/, int /*other_multiline*/,
                const char* /*other_words*/)
 {
-    const std::string both = std::string(words) + ", the first one in line " + std::to_string(other_line);
+    const char* key = other == nullptr ? nullptr : po_message_msgctxt(other);
+    const std::string both = words + (key == nullptr ? "" : ": '" + std::string(key) + "' has an entry above already");
     hear(severity, message, file, line, column, multiline, both.c_str());
 }
 
 constexpr po_xerror_handler handler = {hear, hear_both};
 
-std::string header_of(const std::string& language)
+std::string letters(const char* text) { return text == nullptr ? "" : text; }
+
+std::string field_of(const std::string& header, const char* field)
 {
-    return "Project-Id-Version: camera menu\nMIME-Version: 1.0\nContent-Type: text/plain; charset=UTF-8\n"
-           "Content-Transfer-Encoding: 8bit\nLanguage: " +
-           code_of(language) + "\n" + language_field + ": " + language + "\n";
+    const Letters value(po_header_field(header.c_str(), field), std::free);
+    return letters(value.get());
+}
+
+/// The fields of a header and those that it lacks; translators' programs fill in the empty ones.
+std::string completed(std::string header, const std::string& language)
+{
+    const std::pair<const char*, std::string> fields[] = {{"Project-Id-Version", "camera menu"},
+                                                          {"PO-Revision-Date", ""},
+                                                          {"Last-Translator", ""},
+                                                          {"Language-Team", ""},
+                                                          {"Language", code_of(language)},
+                                                          {"MIME-Version", "1.0"},
+                                                          {"Content-Type", "text/plain; charset=UTF-8"},
+                                                          {"Content-Transfer-Encoding", "8bit"},
+                                                          {language_field, language}};
+    for (const auto& [field, value] : fields) {
+        if (field_of(header, field).empty()) {
+            const Letters longer(po_header_set_field(header.c_str(), field, value.c_str()), std::free);
+            header = letters(longer.get());
+        }
+    }
+    return header;
 }
 
 void insert(po_message_iterator_t iterator, const PoEntry& entry)
 {
     po_message_t message = po_message_create();
-    po_message_set_msgctxt(message, entry.key.c_str());
+    po_message_set_msgctxt(message, entry.key.empty() ? nullptr : entry.key.c_str());
     po_message_set_msgid(message, entry.english.c_str());
     po_message_set_msgstr(message, entry.translation.c_str());
     po_message_set_extracted_comments(message, entry.comment.c_str());
     po_message_set_comments(message, entry.remark.c_str());
     po_message_set_fuzzy(message, entry.fuzzy ? 1 : 0);
+    po_message_set_obsolete(message, entry.obsolete ? 1 : 0);
     po_message_set_prev_msgid(message, entry.old_english.empty() ? nullptr : entry.old_english.c_str());
     for (const Place& use : entry.uses) {
         po_message_add_filepos(message, use.file.c_str(), static_cast<std::size_t>(use.line));
     }
-    po_message_insert(iterator, message);
-}
-
-void insert_header(po_message_iterator_t iterator, const std::string& language)
-{
-    po_message_t message = po_message_create();
-    po_message_set_msgid(message, "");
-    po_message_set_msgstr(message, header_of(language).c_str());
     po_message_insert(iterator, message);
 }
 
@@ -155,8 +184,6 @@ std::vector<int> entry_lines(const std::string& text)
     return lines;
 }
 
-std::string letters(const char* text) { return text == nullptr ? "" : text; }
-
 PoEntry read_entry(po_message_t message, const Place& place)
 {
     PoEntry entry;
@@ -166,27 +193,22 @@ PoEntry read_entry(po_message_t message, const Place& place)
     entry.remark = letters(po_message_comments(message));
     entry.old_english = letters(po_message_prev_msgid(message));
     entry.fuzzy = po_message_is_fuzzy(message) != 0;
+    entry.obsolete = po_message_is_obsolete(message) != 0;
     entry.place = place;
     return entry;
 }
 
-std::string field_of(const std::string& header, const char* field)
-{
-    const Letters value(po_header_field(header.c_str(), field), std::free);
-    return letters(value.get());
-}
-
 /// Whether it is a header, which is taken then.
-bool take_header(po_message_t message, const std::string& path, PoFile& content, std::vector<BadInput>& mistakes)
+bool take_header(const PoEntry& entry, PoFile& content, std::vector<BadInput>& mistakes)
 {
-    if (po_message_msgctxt(message) != nullptr || *po_message_msgid(message) != '\0') {
+    if (!entry.key.empty() || !entry.english.empty()) {
         return false;
     }
-    const std::string header = letters(po_message_msgstr(message));
-    content.language = field_of(header, language_field);
-    const std::string type = field_of(header, "Content-Type");
+    content.header = entry;
+    content.language = field_of(entry.translation, language_field);
+    const std::string type = field_of(entry.translation, "Content-Type");
     if (type.find("charset=UTF-8") == type.npos && type.find("charset=utf-8") == type.npos) {
-        mistakes.emplace_back(Place{path},
+        mistakes.emplace_back(Place{entry.place.file},
                               "the header has the Content-Type '" + type + "', expected text/plain; charset=UTF-8");
     }
     return true;
@@ -201,7 +223,9 @@ void write_po(const PoFile& content, const std::filesystem::path& path)
     }
     const File file(po_file_create());
     const Iterator iterator = messages_of(file.get());
-    insert_header(iterator.get(), content.language);
+    PoEntry header = content.header;
+    header.translation = completed(header.translation, content.language);
+    insert(iterator.get(), header);
     for (const PoEntry& entry : content.entries) {
         insert(iterator.get(), entry);
     }
@@ -215,7 +239,11 @@ void write_po(const PoFile& content, const std::filesystem::path& path)
 
 PoFile read_po(const std::filesystem::path& path, std::vector<BadInput>& mistakes)
 {
-    const std::vector<int> lines = entry_lines(read_text_file(path));
+    const std::string text = read_text_file(path);
+    if (has_utf8_mark(text)) {
+        throw BadInput(Place{path.string(), 1, 1}, std::string(utf8_mark_words) + ", expected " + utf8_mark_remedy);
+    }
+    const std::vector<int> lines = entry_lines(text);
     const Hearing hearing(mistakes);
     const File file(po_file_read(path.c_str(), &handler));
     if (file == nullptr) {
@@ -225,12 +253,10 @@ PoFile read_po(const std::filesystem::path& path, std::vector<BadInput>& mistake
     const Iterator iterator = messages_of(file.get());
     std::size_t number = 0;
     while (po_message_t message = po_next_message(iterator.get())) {
-        if (po_message_is_obsolete(message) != 0) {
-            continue;
-        }
-        const int line = number < lines.size() ? lines[number++] : 0;
-        if (!take_header(message, path.string(), content, mistakes)) {
-            content.entries.push_back(read_entry(message, {path.string(), line}));
+        const bool has_line = po_message_is_obsolete(message) == 0 && number < lines.size();
+        const PoEntry entry = read_entry(message, {path.string(), has_line ? lines[number++] : 0});
+        if (!take_header(entry, content, mistakes)) {
+            content.entries.push_back(entry);
         }
     }
     return content;

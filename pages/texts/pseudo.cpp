@@ -123,6 +123,7 @@ void check_usable(const ResourceFolder& folder, const fs::path& copy)
     if (folder.languages.count(language_name) != 0) {
         throw BadInput(folder.root.string() + " has a language Pseudo already, expected a folder without");
     }
+    refuse_inside(folder, copy);
     if (fs::exists(copy) && !fs::is_empty(copy)) {
         throw BadInput(copy.string() + " isn't empty, expected a new folder");
     }

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <tuple>
 
+#include "menu/core/value_status.h"
 #include "pages/check/attributes.h"
+#include "pages/check/own_words.h"
 
 namespace pages {
 namespace {
@@ -43,6 +45,17 @@ void add_options(const Setting& setting, Uses& uses)
     }
 }
 
+void add_facts(const Definitions& definitions, Uses& uses)
+{
+    for (std::size_t i = 0; osdStatusKey(i).pcKey != nullptr; ++i) {
+        const auto fact = definitions.facts.find(osdStatusKey(i).pcKey);
+        if (osdStatusKey(i).bTranslated && fact != definitions.facts.end()) {
+            const Place place = definitions.places.of("/facts/" + fact->first);
+            uses[fact->second].push_back({{"settings.json", place.line, place.column}, "value of fact " + fact->first});
+        }
+    }
+}
+
 } // namespace
 
 Uses text_uses(const ResourceFolder& folder)
@@ -55,6 +68,10 @@ Uses text_uses(const ResourceFolder& folder)
     }
     for (const auto& [id, setting] : folder.definitions.settings) {
         add_options(setting, uses);
+    }
+    add_facts(folder.definitions, uses);
+    for (const char* word : own_words) {
+        uses[word].push_back({{}, "shown by the menu itself"});
     }
     const auto place = [](const TextUse& use) { return std::tie(use.place.file, use.place.line); };
     for (auto& [key, places] : uses) {

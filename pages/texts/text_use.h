@@ -1,4 +1,4 @@
-// Where the pages use their texts.
+// Where pages, settings and the menu use the texts.
 #pragma once
 
 #include <map>
@@ -10,11 +10,11 @@
 namespace pages {
 
 struct TextUse {
-    Place place;       ///< below the folder
+    Place place;       ///< below the folder; of no file for what the menu shows by itself
     std::string words; ///< "label on page image"
 };
 
-/// By the text's key, in the order of the files. Texts that the menu shows by itself have none.
+/// By the text's key, in the order of the files. A camera may show more: what it tells of itself can be a key.
 std::map<std::string, std::vector<TextUse>> text_uses(const ResourceFolder& folder);
 
 } // namespace pages

@@ -5,6 +5,7 @@
 
 #include "osd_types.h"
 #include "pages/data/text_file.h"
+#include "pages/measure/glyphs.h"
 #include "pages/texts/language_file.h"
 #include "pages/texts/po_file.h"
 #include "pages/texts/room.h"
@@ -46,7 +47,7 @@ std::string comment_for(const std::vector<TextUse>& uses, const TextRoom* room)
     if (words.size() > told_uses) {
         comment += " and " + std::to_string(words.size() - told_uses) + " more";
     }
-    comment = (comment.empty() ? "on no page: shown by the menu itself" : comment) + "\nat most " +
+    comment = (comment.empty() ? "nothing here uses it, but a camera may tell this key" : comment) + "\nat most " +
               std::to_string(max_text_bytes) + " bytes";
     if (room != nullptr) {
         comment += ", and " + std::to_string(room->room) + " pixels on page " + room->page +
@@ -65,7 +66,9 @@ PoEntry entry_for(const SourceText& text, const std::map<std::string, std::strin
     entry.translation = translation == translations.end() ? "" : translation->second;
     entry.comment = comment_for(uses, room);
     for (const TextUse& use : uses) {
-        entry.uses.push_back(use.place);
+        if (!use.place.file.empty()) {
+            entry.uses.push_back(use.place);
+        }
     }
     return entry;
 }
@@ -86,28 +89,34 @@ std::string words_of_language(const PoFile& content, const std::string& language
            language + " as X-Menu-Language in its header";
 }
 
-/// The entries of a file that is there already, by key.
-std::map<std::string, PoEntry> older_entries(const std::filesystem::path& file, const std::string& language,
-                                             bool update)
+/// The file that is there already; an empty one where there is none.
+PoFile older_file(const std::filesystem::path& file, const std::string& language, bool update)
 {
-    std::map<std::string, PoEntry> entries;
     if (!std::filesystem::exists(file)) {
-        return entries;
+        return {language, {}, {}};
     }
     if (!update) {
         throw BadInput(Place{file.string()},
                        "is there already and may hold translations, expected another name or --update");
     }
     std::vector<BadInput> mistakes;
-    const PoFile older = read_po(file, mistakes);
+    PoFile older = read_po(file, mistakes);
     if (older.language != language) {
         mistakes.emplace_back(Place{file.string()}, words_of_language(older, language));
     }
     if (!mistakes.empty()) {
         throw BadInput(mistakes.front());
     }
-    for (const PoEntry& entry : older.entries) {
-        entries[entry.key] = entry;
+    return older;
+}
+
+/// By key; one of a text that is there goes before an obsolete one.
+std::map<std::string, const PoEntry*> entries_of(const PoFile& file)
+{
+    std::map<std::string, const PoEntry*> entries;
+    for (const PoEntry& entry : file.entries) {
+        const PoEntry*& known = entries[entry.key];
+        known = known == nullptr || known->obsolete ? &entry : known;
     }
     return entries;
 }
@@ -122,6 +131,18 @@ void take_over(const PoEntry& old, PoEntry& entry)
     entry.translation = old.translation;
     entry.fuzzy = old.fuzzy || changed;
     entry.old_english = changed ? old.english : old.old_english;
+}
+
+/// What was translated and has no text any more may come back.
+void keep_obsolete(const std::map<std::string, const PoEntry*>& older, PoFile& content)
+{
+    const auto now = entries_of(content);
+    for (const auto& [key, old] : older) {
+        if (now.count(key) == 0 && !old->translation.empty()) {
+            content.entries.push_back(*old);
+            content.entries.back().obsolete = true;
+        }
+    }
 }
 
 /// Reads the translations of a PO file and refuses what doesn't fit.
@@ -141,6 +162,9 @@ public:
             refuse({file_}, words_of_language(content, language_));
         }
         for (const PoEntry& entry : content.entries) {
+            if (entry.obsolete) {
+                continue;
+            }
             const std::string problem = problem_with(entry);
             places_[entry.key] = entry.place;
             if (problem.empty()) {
@@ -185,13 +209,37 @@ public:
         }
     }
 
+    /// By the rule of the check, at the lines of the PO file.
+    void find_missing_glyphs(const std::filesystem::path& fonts)
+    {
+        ResourceFolder translated;
+        translated.fonts = fonts;
+        for (const auto& [key, text] : texts) {
+            translated.languages[language_][key] = {text, places_[key]};
+        }
+        for (const Finding& finding : missing_glyphs(translated)) {
+            refuse({file_, finding.place.line}, words_of(finding));
+        }
+    }
+
+    /// Those of the PO file first, by its lines.
+    std::vector<BadInput> sorted_refusals() const
+    {
+        std::vector<BadInput> sorted = refusals_;
+        const auto at = [&](const BadInput& refusal) {
+            return std::pair(refusal.place().file != file_, refusal.place().line);
+        };
+        std::stable_sort(sorted.begin(), sorted.end(),
+                         [&](const BadInput& a, const BadInput& b) { return at(a) < at(b); });
+        return sorted;
+    }
+
     std::string content(const std::filesystem::path& older) const { return language_file(source_, texts, older); }
 
     std::map<std::string, std::string> texts;
-    std::vector<BadInput> refusals;
 
 private:
-    void refuse(const Place& place, const std::string& words) { refusals.emplace_back(place, words); }
+    void refuse(const Place& place, const std::string& words) { refusals_.emplace_back(place, words); }
 
     std::string problem_with(const PoEntry& entry) const
     {
@@ -221,6 +269,7 @@ private:
     std::vector<SourceText> source_;
     std::map<std::string, std::string> english_;
     std::map<std::string, Place> places_; ///< of the entries
+    std::vector<BadInput> refusals_;
     std::string file_;
     std::string language_;
 };
@@ -231,12 +280,13 @@ Exported export_texts(ResourceFolder& folder, const std::string& language, const
                       bool update)
 {
     check_name(language);
-    const auto older = older_entries(file, language, update);
+    const PoFile older_content = older_file(file, language, update);
+    const auto older = entries_of(older_content);
     const auto translations = texts_of(folder, language);
     const auto source = source_texts(folder);
     const auto rooms = narrowest_rooms(folder, language, texts_of(folder, source_language));
     auto uses = text_uses(folder);
-    PoFile content{language, {}};
+    PoFile content{language, older_content.header, {}};
     Exported exported{0, 0};
     for (const SourceText& text : source) {
         const auto room = rooms.find(text.key);
@@ -245,11 +295,12 @@ Exported export_texts(ResourceFolder& folder, const std::string& language, const
         PoEntry& entry = content.entries.back();
         const auto old = older.find(text.key);
         if (old != older.end()) {
-            take_over(old->second, entry);
+            take_over(*old->second, entry);
         }
         ++exported.texts;
         exported.translated += entry.translation.empty() || entry.fuzzy ? 0 : 1;
     }
+    keep_obsolete(older, content);
     write_po(content, file);
     return exported;
 }
@@ -260,14 +311,16 @@ Imported import_texts(ResourceFolder& folder, const std::string& language, const
     const auto old = texts_of(folder, language);
     Imported imported;
     const PoFile content = read_po(file, imported.refusals);
-    if (!imported.refusals.empty()) { // what else is missing would follow from it
+    imported.usable = imported.refusals.empty();
+    if (!imported.usable) { // what else is missing would follow from it
         return imported;
     }
     Import import(folder, language, file.string());
     import.take(content);
     import.keep(folder);
     import.measure_texts(folder);
-    imported.refusals = import.refusals;
+    import.find_missing_glyphs(folder.fonts);
+    imported.refusals = import.sorted_refusals();
     if (imported.refusals.empty() && import.texts != old) {
         const std::filesystem::path target = file_of(folder, language);
         write_text_file(target, import.content(target));

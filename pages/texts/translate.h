@@ -15,13 +15,14 @@ struct Exported {
 };
 
 /// Writes the texts of a language, with those that it lacks as yet. A file that is there already may hold work: it is an
-/// error, or updated on demand. Its translations stay then, fuzzy where the English text has changed. The folder is as
-/// before. Throws BadInput.
+/// error, or updated on demand. Its translations stay then, fuzzy where the English text has changed, obsolete where it is
+/// gone, and so does its header. The folder is as before. Throws BadInput.
 Exported export_texts(ResourceFolder& folder, const std::string& language, const std::filesystem::path& file,
                       bool update);
 
 struct Imported {
     std::vector<BadInput> refusals; ///< all that doesn't fit; nothing was written where there is one
+    bool usable = true;             ///< whether the file is a PO file at all
     bool changed = false;           ///< whether the language's file was written
 };
 

@@ -117,6 +117,16 @@ TEST_F(ShowTest, TheFewestPressesLeadToASetting)
     EXPECT_TRUE(found.too_deep.empty());
 }
 
+TEST_F(ShowTest, APartOfTheTallyLightsColorChangesIt)
+{
+    replace("settings.json", "\"settings\": [",
+            R"("settings": [{"key": "LedCustomColor", "kind": "color", "default": "FF0000"},)");
+    replace("pages/image_page.xml", "\"Brightness\"", "\"LedCustomRed\"");
+    replace("lang/English.json", "{", R"({"LedCustomRed": "Red",)");
+    EXPECT_THAT(walk(folder(), {"English", 0, false}).settings,
+                testing::Contains(Field(&ReachedSetting::setting, Field(&SettingId::key, "LedCustomColor"))));
+}
+
 TEST_F(ShowTest, TheMapTellsOfPagesThatDontOpen)
 {
     replace("pages/advanced_page.xml", R"(SubPage="rotate")", R"(SubPage="deep2")");
@@ -140,6 +150,55 @@ TEST_F(ShowTest, TheMapTellsOfPagesThatDontOpen)
     EXPECT_EQ(counts.reached + counts.unreached, folder().pages.size());
     EXPECT_THAT(read_text_file(root / "map.html"),
                 AllOf(HasSubstr("<li>rotate</li>"), HasSubstr("<td>advanced, down, home</td>")));
+}
+
+struct Output {
+    int status;
+    std::string words; ///< on both streams
+};
+
+Output output_of(const std::string& arguments)
+{
+    std::FILE* pipe = popen((OSD_PAGES_PROGRAM " " + arguments + " 2>&1").c_str(), "r"); // NOLINT(cert-env33-c)
+    Output result{0, ""};
+    for (int letter = std::fgetc(pipe); letter != EOF; letter = std::fgetc(pipe)) {
+        result.words += static_cast<char>(letter);
+    }
+    result.status = WEXITSTATUS(pclose(pipe));
+    return result;
+}
+
+TEST_F(ShowTest, CommandsSayWhatTheyExpect)
+{
+    const struct {
+        const char* arguments; ///< DIR stands for the folder of good/
+        int status;
+        const char* words;
+    } rows[] = {
+        {"chek DIR/good", 2, "there is no command 'chek', expected 'check' (one of check, "},
+        {"texts exprot DIR/good", 2, "there is no command 'exprot', expected 'export' (one of export, import)"},
+        {"--version", 0, "osdmenu-pages 1."},
+        {"measure DIR/good --page nope", 2, "no page 'nope', expected one of: "},
+        {"measure DIR/good --language Deutsch --page image", 0, "  German  "},
+        {"preview DIR/good --language Deutsch --page image -o DIR/out", 0, "DIR/out/index.html"},
+        {"texts export DIR/good Deutsch DIR/de.po", 0, "texts, "},
+        {"texts export DIR/good German DIR/de.po --update", 0, "texts, "},
+        {"preview DIR/good -o DIR/good/lang/out", 2, "lies among the resources of DIR/good, expected one outside"},
+        {"pseudo DIR/good -o DIR/good/longer", 2, "lies among the resources of DIR/good, expected one outside"},
+    };
+    replace("settings.json", "\"German\": \"German\"", "\"German\": \"German\", \"Deutsch\": \"German\"");
+    replace("settings.json", "\"English\", \"German\"]", "\"English\", \"German\", \"Deutsch\"]");
+    const auto here = [&](std::string words) {
+        for (std::size_t at = words.find("DIR"); at != words.npos; at = words.find("DIR")) {
+            words.replace(at, 3, root.string());
+        }
+        return words;
+    };
+    for (const auto& row : rows) {
+        const Output result = output_of(here(row.arguments));
+        EXPECT_EQ(result.status, row.status) << row.arguments << "\n" << result.words;
+        EXPECT_THAT(result.words, HasSubstr(here(row.words))) << row.arguments;
+    }
 }
 
 } // namespace

@@ -120,7 +120,12 @@ TEST_F(TextsTest, TellTranslatorsWhereTheyAreUsed)
                           "has 74\n"
                           "#: pages/lens_page.xml:3 pages/main_page.xml:10\n"
                           "msgctxt \"lens\"\nmsgid \"Lens\"\nmsgstr \"Objectif\"\n"));
-    EXPECT_THAT(exported("French"), HasSubstr("\"Language: fr\\n\""));
+    const std::string po_text = exported("French");
+    EXPECT_THAT(po_text, HasSubstr("\"Language: fr\\n\""));
+    EXPECT_THAT(po_text, HasSubstr("#. shown by the menu itself\n"));
+    EXPECT_THAT(po_text, HasSubstr("#. value of fact NdiStatus\n"));
+    EXPECT_THAT(po_text, HasSubstr("#. nothing here uses it, but a camera may tell this key\n#. at most 31 bytes\n"
+                                   "msgctxt \"NdiInactive\""));
 }
 
 TEST_F(TextsTest, OfANewLanguageAreEmptyAndTheAuthorHearsWhatToDo)
@@ -142,6 +147,11 @@ TEST_F(TextsTest, ThatWaitInAPoFileOutliveAnUpdate)
     (void)write("French", true);
     EXPECT_EQ(read_text_file(po), waiting);
 
+    replace(waiting, "Last-Translator: ", "X-Generator: an editor\\n\"\n\"Last-Translator: Ann");
+    write_text_file(po, "# By Ann.\n" + waiting);
+    (void)write("French", true);
+    EXPECT_EQ(read_text_file(po), "# By Ann.\n" + waiting) << "the header is the translators'";
+
     std::string english = read_text_file(file_of("English"));
     replace(english, "\"Lens\"", "\"Optics\"");
     write_text_file(file_of("English"), english);
@@ -152,6 +162,30 @@ TEST_F(TextsTest, ThatWaitInAPoFileOutliveAnUpdate)
     EXPECT_THROW((void)write("German", true), BadInput) << "these are French";
 }
 
+TEST_F(TextsTest, ThatHaveNoEnglishAnyMoreWaitAsObsoleteUntilItIsBack)
+{
+    const std::string first = exported("French");
+    const std::string english = read_text_file(file_of("English"));
+    std::string shorter = english;
+    replace(shorter, "\"Gain\": \"Gain\",", "");
+    write_text_file(file_of("English"), shorter);
+    for (const char* update : {"first", "second"}) {
+        (void)write("French", true);
+        EXPECT_THAT(read_text_file(po), HasSubstr("\n#~ msgctxt \"Gain\"\n#~ msgid \"Gain\"\n")) << update;
+    }
+    EXPECT_THAT(refused("French"), ElementsAre(HasSubstr("French.json"))) << "obsolete ones are nobody's text";
+    write_text_file(file_of("English"), english);
+    (void)write("French", true);
+    EXPECT_EQ(read_text_file(po), first);
+}
+
+TEST_F(TextsTest, WithAByteOrderMarkHearTheRemedy)
+{
+    write_text_file(po, "\xEF\xBB\xBF" + exported("French"));
+    EXPECT_THAT([&] { (void)import("French"); }, testing::ThrowsMessage<BadInput>(HasSubstr(
+                                                     "po:1:1: the file begins with a byte order mark, expected")));
+}
+
 TEST_F(TextsTest, ThatDontFitAreRefused)
 {
     const struct {
@@ -159,28 +193,30 @@ TEST_F(TextsTest, ThatDontFitAreRefused)
         const char* by;
         const char* refusal;
     } rows[] = {
-        {"\"Objectif\"", "\"\"", "po:41: 'lens' has no translation of 'Lens'"},
-        {"\"Objectif\"", "\"  \"", "po:41: 'lens' has no translation of 'Lens'"},
+        {"\"Objectif\"", "\"\"", "po:44: 'lens' has no translation of 'Lens'"},
+        {"\"Objectif\"", "\"  \"", "po:44: 'lens' has no translation of 'Lens'"},
         {"\"Objectif\"", "\"Éééééééééééééééé\"",
-         "po:41: 'lens' is too long: 'Éééééééééééééééé' has 32 bytes (16 letters), at most 31 bytes fit"},
+         "po:44: 'lens' is too long: 'Éééééééééééééééé' has 32 bytes (16 letters), at most 31 bytes fit"},
         {"\"Objectif\"", "\"Objectif de caméra\"",
-         "po:41: 'lens' is 58 pixels too wide: 'Objectif de caméra' has 298 on page main (French, style 1, 1080p), "
+         "po:44: 'lens' is 58 pixels too wide: 'Objectif de caméra' has 298 on page main (French, style 1, 1080p), "
          "240 fit"},
         {"\"Objectif\"", "\"Objec\\ntif\"",
-         "po:41: 'lens' holds a line break or another control character, expected one line"},
+         "po:44: 'lens' holds a line break or another control character, expected one line"},
         {"msgctxt \"lens\"", "#, fuzzy\nmsgctxt \"lens\"",
-         "po:42: 'lens' is marked fuzzy, expected a look at the translation, and no mark"},
+         "po:45: 'lens' is marked fuzzy, expected a look at the translation, and no mark"},
         {"msgid \"Lens\"", "msgid \"Glass\"",
-         "po:41: 'lens' translates 'Glass', but English.json has 'Lens' now: export with --update"},
+         "po:44: 'lens' translates 'Glass', but English.json has 'Lens' now: export with --update"},
         {"msgctxt \"lens\"\nmsgid \"Lens\"\nmsgstr \"Objectif\"", "",
          "po: 'lens' is missing (Lens), expected an entry: export with --update"},
         {"\"Objectif\"\n", "\"Objectif\"\n\nmsgctxt \"lenz\"\nmsgid \"Lens\"\nmsgstr \"Objectif\"\n",
-         "po:45: 'lenz' is no text of English.json, expected msgctxt with the key of one"},
+         "po:48: 'lenz' is no text of English.json, expected msgctxt with the key of one"},
         {"\"Objectif\"\n", "\"Objectif\"\n\nmsgctxt \"lens\"\nmsgid \"Lens\"\nmsgstr \"Objectif\"\n",
-         "duplicate message definition"},
+         "po:48: duplicate message definition: 'lens' has an entry above already"},
+        {"\"Objectif\"", "\"Objecł\"",
+         "po:44: font.ttf, bold_font.ttf, tcfont.ttf: no picture of 'ł' (U+0142), expected another character"},
         {"\"Objectif\"", "\"Objectif", "end-of-line within string"},
         {"X-Menu-Language: French", "X-Menu-Language: German", "po: the file is for German, expected French"},
-        {"charset=UTF-8", "charset=ISO-8859-1", "expected text/plain; charset=UTF-8"},
+        {"charset=UTF-8", "charset=FOO", "po: the header has the Content-Type 'text/plain; charset=FOO', expected"},
     };
     const std::string texts = read_text_file(file_of("French"));
     const std::string good = exported("French");
@@ -214,9 +250,8 @@ TEST_F(TextsTest, ThatDontFitAreRefusedAllAtOnce)
     write_text_file(file_of("French"), texts);
     EXPECT_THAT(
         refused("French"),
-        ElementsAre(HasSubstr("'lens'"), HasSubstr("'Gain'"),
-                    "folder/lang/French.json:1:2: 'Iso' is no text of English.json, expected it there or not at all",
-                    HasSubstr("'video' is")));
+        ElementsAre(HasSubstr("'lens'"), HasSubstr("'video' is"), HasSubstr("'Gain'"),
+                    "folder/lang/French.json:1:2: 'Iso' is no text of English.json, expected it there or not at all"));
 }
 
 std::size_t letter_count(const std::string& text)
