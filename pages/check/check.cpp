@@ -79,7 +79,8 @@ std::vector<Finding> by_cause(std::vector<Finding> findings)
         }
     }
     for (const auto& [words, cause] : seen) {
-        causes[cause.first].what += cause.second > 0 ? " (the same at " + counted(cause.second, "more place") + ")" : "";
+        causes[cause.first].what +=
+            cause.second > 0 ? " (the same at " + counted(cause.second, "more place") + ")" : "";
     }
     return causes;
 }

@@ -33,7 +33,8 @@ void find_no_grids(const ResourceFolder& folder, const Complain& complain)
         const Attribute* count = page.find(osdAttrName(ATTR_COUNT_PER_LINE));
         if (layout_of(page) == PAGE_LAYOUT_ICON && count != nullptr &&
             std::count(counts.begin(), counts.end(), count->value) == 0) {
-            complain(count->place, "CountPerLine '" + count->value + "' is no number of icons that fit beside each other",
+            complain(count->place,
+                     "CountPerLine '" + count->value + "' is no number of icons that fit beside each other",
                      "1 to " + counts.front());
         }
     });

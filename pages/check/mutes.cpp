@@ -76,8 +76,7 @@ bool holds(const Mute& mute, const Finding& finding)
     if (mute.element != nullptr) {
         return !is_before(finding.place, mute.element->place) && finding.place.line <= mute.element->last_line;
     }
-    return mute.key.empty() || mute.key == finding.key ||
-           finding.what.find("'" + mute.key + "'") != std::string::npos;
+    return mute.key.empty() || mute.key == finding.key || finding.what.find("'" + mute.key + "'") != std::string::npos;
 }
 
 bool is_among(const std::vector<Rule>& rules, const std::string& name)
