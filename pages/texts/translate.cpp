@@ -4,11 +4,11 @@
 #include <map>
 
 #include "osd_types.h"
+#include "pages/check/text_use.h"
 #include "pages/data/text_file.h"
 #include "pages/texts/language_file.h"
 #include "pages/texts/po_file.h"
 #include "pages/texts/room.h"
-#include "pages/texts/text_use.h"
 
 namespace pages {
 namespace {
