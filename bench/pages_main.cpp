@@ -37,7 +37,8 @@ int main(int argc, const char** argv)
             throw std::runtime_error("expected a folder of resources and one of fonts");
         }
         report("check: all pages, languages, styles and sizes", argv + 1, {true, {}}, 10.0);
-        report("check of one changed page", argv + 1, {true, [](const pages::PageFile& page, const std::string&) { return page.name == "network"; }}, 0.3);
+        report("check of one changed page", argv + 1,
+               {true, [](const pages::PageFile& page, const std::string&) { return page.name == "network"; }}, 0.3);
         report("check --quick", argv + 1, {false, {}}, 0.5);
         return all_hold ? 0 : 1;
     } catch (const std::exception& error) {

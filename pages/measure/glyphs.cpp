@@ -87,10 +87,10 @@ std::vector<Finding> missing_glyphs(const ResourceFolder& folder)
                 found->second = lacking(fonts, code);
             }
             if (!found->second.empty()) {
-                findings.push_back({place, Severity::Error, "missing-glyph",
-                                    found->second + ": no picture of '" + std::string(bytes) + "' (" +
-                                        words_of_code(code) + ")",
-                                    "another character", key});
+                findings.push_back(
+                    {place, Severity::Error, "missing-glyph",
+                     found->second + ": no picture of '" + std::string(bytes) + "' (" + words_of_code(code) + ")",
+                     "another character", key});
             }
         });
     });

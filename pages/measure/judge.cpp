@@ -78,8 +78,8 @@ void Judge::take_rooms(const PageFile& page, const View& view, const Shown& show
 {
     for (const ShownText& text : shown.texts) {
         const Mark& mark = shown.marks[text.mark];
-        const TextRoom room{text.key, mark.name, page.name, text.element, text.role, view, mark.rect.w, text.room,
-                            text.lost};
+        const TextRoom room{text.key, mark.name,   page.name, text.element, text.role,
+                            view,     mark.rect.w, text.room, text.lost};
         const auto [entry, added] =
             rooms_.try_emplace({text.element, text.role, text.key, view.language}, Room{room, {}});
         Room& known = entry->second;

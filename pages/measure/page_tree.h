@@ -17,10 +17,10 @@ struct Node {
     tagITEM_NODE_S* item;
     const Element* element;
     Node* parent;
-    int option;                 ///< of the parent, below which it stands
-    std::vector<Nodes> options; ///< what each option holds
-    std::string value_key;      ///< of the text that its value shows now; empty for what isn't translated
-    std::string own_button;     ///< the text of a button, as it was read
+    int option;                         ///< of the parent, below which it stands
+    std::vector<Nodes> options;         ///< what each option holds
+    std::string value_key;              ///< of the text that its value shows now; empty for what isn't translated
+    std::string own_button;             ///< the text of a button, as it was read
     std::vector<std::string> answers{}; ///< keys of the texts that the host can tell of a STATUS item
 
     const Element& element_of_value() const;

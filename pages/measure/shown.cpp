@@ -76,7 +76,8 @@ private:
 
     void add(std::size_t i, const Node* node, Role role, const std::string& key, const Element& element)
     {
-        shown_.texts.push_back({i, node, role, key, &element, 0, {}, role == Role::Title ? lost_of_title(shown_.marks[i]) : 0});
+        shown_.texts.push_back(
+            {i, node, role, key, &element, 0, {}, role == Role::Title ? lost_of_title(shown_.marks[i]) : 0});
     }
 
     /// The menu joins title and number in a text of its own, whose end is cut.

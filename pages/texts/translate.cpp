@@ -4,12 +4,12 @@
 #include <map>
 
 #include "osd_types.h"
+#include "pages/check/text_use.h"
 #include "pages/data/text_file.h"
 #include "pages/measure/glyphs.h"
 #include "pages/texts/language_file.h"
 #include "pages/texts/po_file.h"
 #include "pages/texts/room.h"
-#include "pages/texts/text_use.h"
 
 namespace pages {
 namespace {
@@ -78,9 +78,8 @@ std::string words_of_misfit(const TextRoom& room)
     return room.lost > 0
                ? counted(room.lost, "byte") + " too long with the number of page " + room.page + ", which shows '" +
                      room.text + "': both and two blanks have at most " + std::to_string(max_text_bytes)
-               : counted(-room.left(), "pixel") + " too wide: '" + room.text + "' has " +
-                     std::to_string(room.width) + " on page " + room.page + " (" + to_string(room.view) + "), " +
-                     std::to_string(room.room) + " fit";
+               : counted(-room.left(), "pixel") + " too wide: '" + room.text + "' has " + std::to_string(room.width) +
+                     " on page " + room.page + " (" + to_string(room.view) + "), " + std::to_string(room.room) + " fit";
 }
 
 std::string words_of_language(const PoFile& content, const std::string& language)

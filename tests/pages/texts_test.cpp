@@ -235,7 +235,8 @@ TEST_F(TextsTest, ThatLoseTheNumberOfTheirPageAreRefused)
     std::string bad = exported("French");
     replace(bad, "\"Système\"", "\"" + std::string(27, 'i') + "\"");
     write_text_file(po, bad);
-    EXPECT_THAT(refused("French"), ElementsAre(HasSubstr("'system' is 1 byte too long with the number of page system")));
+    EXPECT_THAT(refused("French"),
+                ElementsAre(HasSubstr("'system' is 1 byte too long with the number of page system")));
 }
 
 TEST_F(TextsTest, ThatDontFitAreRefusedAllAtOnce)

@@ -1,4 +1,4 @@
-#include "pages/texts/text_use.h"
+#include "pages/check/text_use.h"
 
 #include <algorithm>
 #include <tuple>
