@@ -22,7 +22,7 @@ TEST(Definitions, AreRefusedInWords)
         {"settings.json", definitions_with("", R"({"Image": "Nowhere"})"), "no setting has the parent 'Nowhere'"},
         {"settings.json", definitions_with("", "{}", R"("Latin": "Latin", )"), "'languages': 'Latin' is no option of"},
         {"settings.json", setting(R"("kind": "text", "default": "", "min": 0)"),
-         "settings.json:3:152: setting 'A': unknown field"},
+         "settings.json:3:196: setting 'A': unknown field"},
         {"settings.json", setting(R"("kind": "text", "default": "1234567890123456")"), "has 16 bytes, expected 0 to"},
         {"settings.json", setting(R"("kind": "integer", "min": 5, "max": 5, "step": 1, "default": 5)"), "'min' below"},
         {"settings.json", setting(R"("kind": "integer", "min": 0, "max": 5, "step": 1, "default": 6)"), "from 0 to 5"},
