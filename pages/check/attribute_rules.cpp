@@ -1,95 +1,15 @@
 // The attributes of elements: their names, their words and numbers, whether they are needed and whether they are read.
-#include "pages/check/attribute_rules.h"
+#include "pages/check/rule_tables.h"
 
 #include <algorithm>
 #include <charconv>
 
 #include "osd_types.h"
-#include "pages/check/page_walk.h"
-#include "pages/check/rule_tables.h"
 #include "pages/data/texts.h"
+#include "pages/grammar/cases.h"
 
 namespace pages {
 namespace {
-
-/// When an attribute matters; each is asked about elements whose kind, context and layout are known.
-struct Case {
-    tagATTR_ID_E id;
-    On on;
-    bool (*holds)(const Element& element);
-    const char* words;
-};
-
-bool is_there(const Element&) { return true; }
-bool is_icon_page(const Element& e) { return layout_of(e) == PAGE_LAYOUT_ICON; }
-bool is_paged(const Element& e) { return layout_of(e) == PAGE_LAYOUT_VERTICAL_KETH; }
-bool has_title(const Element& e) { return e.find(osdAttrName(ATTR_TITLE)) != nullptr; }
-bool opens_page(const Element& e) { return kind_of(e) == SUBPAGE; }
-bool asks_first(const Element& e) { return asks(kind_of(e)); }
-bool waits(const Element& e) { return kind_of(e) == KEY_WITH_MSG || kind_of(e) == MSG_WITH_SUBITEM; }
-bool is_edited(const Element& e) { return kind_of(e) == EDITABLE; }
-bool is_asking_button(const Element& e) { return kind_of(e) == CONFIRM_POP && has_value(context_of(e)); }
-bool is_plain_button(const Element& e) { return kind_of(e) == CONFIRM && has_value(context_of(e)); }
-bool is_button(const Element& e) { return kind_of(e) == CONFIRM || kind_of(e) == CONFIRM_POP; }
-bool is_text(const Element& e) { return kind_of(e) == CONST_TXT; }
-bool is_bare_button(const Element& e) { return kind_of(e) == CONFIRM_POP_BTN; }
-bool may_have_line(const Element& e) { return is_bare_button(e) && is_paged(e); }
-bool is_address(const Element& e) { return context_of(e) == NAME_IP_VAL; }
-bool is_icon(const Element& e) { return has_picture(context_of(e)) && is_icon_page(e); }
-bool is_answer(const Element& e) { return is_question(layout_of(e)); }
-bool has_message_line(const Element& e) { return layout_of(e) == PAGE_LAYOUT_HORIZONTAL_KETH; }
-
-constexpr Case needed_cases[] = {
-    {ATTR_LAYOUT, On::Page, is_there, "a page"},
-    {ATTR_COUNT_PER_LINE, On::Page, is_icon_page, "a page in layout 'icon'"},
-    {ATTR_TITLE_POS, On::Page, has_title, "a page with Title"},
-    {ATTR_ITEM_INDEX, On::Item, is_there, "an item"},
-    {ATTR_CTX, On::Item, is_there, "an item"},
-    {ATTR_ATTR, On::Item, is_there, "an item"},
-    {ATTR_PIC, On::Item, is_icon, "an icon"},
-    {ATTR_SELECT_PIC, On::Item, is_icon, "an icon"},
-    {ATTR_SUB_PAGE, On::Item, opens_page, "an item with Attr 'SUBPAGE'"},
-    {ATTR_CONFIRM_PAGE, On::Item, asks_first, "an item that asks first"},
-    {ATTR_MSG, On::Item, waits, "an item that waits for home"},
-    {ATTR_NUM_OF_CHAR, On::Item, is_edited, "an item with Attr 'EDITABLE'"},
-    {ATTR_VALUE, On::Item, is_asking_button, "an item with Attr 'CONFIRM_POP'"},
-    {ATTR_MODE_INDEX, On::Option, is_there, "an option"},
-};
-
-/// Attributes that are not listed are read on all elements of their name.
-constexpr Case read_cases[] = {
-    {ATTR_COUNT_PER_LINE, On::Page, is_icon_page, "in layout 'icon'"},
-    {ATTR_TITLE_POS, On::Page, has_title, "with Title"},
-    {ATTR_MSG, On::Page, has_message_line, "in layout 'horizontal_align_keth'"},
-    {ATTR_CUR_PAGES_NUM, On::Page, is_paged, "in layout 'vertical_align_keth'"},
-    {ATTR_NEXT_PAGE, On::Page, is_paged, "in layout 'vertical_align_keth'"},
-    {ATTR_PREV_PAGE, On::Page, is_paged, "in layout 'vertical_align_keth'"},
-    {ATTR_SHOW_VALUE, On::Item, is_text, "with Attr 'CONST_TXT'"},
-    {ATTR_PIC, On::Item, is_icon, "with Ctx 'ICON_TXT' in layout 'icon'"},
-    {ATTR_SELECT_PIC, On::Item, is_icon, "with Ctx 'ICON_TXT' in layout 'icon'"},
-    {ATTR_NUM_OF_CHAR, On::Item, is_address, "with Ctx 'NAME_IP_VAL'"},
-    {ATTR_SUB_PAGE, On::Item, opens_page, "with Attr 'SUBPAGE'"},
-    {ATTR_CONFIRM_PAGE, On::Item, asks_first, "with Attr 'CONFIRM_POP' or 'CONFIRM_POP_BTN'"},
-    {ATTR_VALUE, On::Item, is_button, "with Attr 'CONFIRM' or 'CONFIRM_POP'"},
-    {ATTR_MSG, On::Item, waits, "with Attr 'KEY_WITH_MSG' or 'MSG_WITH_SUBITEM'"},
-    {ATTR_ITEM_POS, On::Item, is_bare_button, "with Attr 'CONFIRM_POP_BTN'"},
-    {ATTR_LINE, On::Item, may_have_line, "with Attr 'CONFIRM_POP_BTN' in layout 'vertical_align_keth'"},
-    {ATTR_ITEM_CNT, On::Item, is_answer, "in a 'horizontal' layout"},
-    {ATTR_ITEM_INDEX_ON_LINE, On::Item, is_answer, "in a 'horizontal' layout"},
-};
-
-/// Whether a rule can say of an element what it is; else another one has told of a word that nobody knows.
-bool is_clear(const Element& element)
-{
-    return layout_of(element) && (role_of(element) != On::Item || (kind_of(element) && context_of(element)));
-}
-
-const Case* find_case(const Element& element, tagATTR_ID_E id)
-{
-    const auto* found = std::find_if(std::begin(read_cases), std::end(read_cases),
-                                     [&](const Case& one) { return one.id == id && one.on == role_of(element); });
-    return found == std::end(read_cases) ? nullptr : found;
-}
 
 std::vector<std::string> names_on(On role)
 {
@@ -143,7 +63,7 @@ void find_missing(const ResourceFolder& folder, const Complain& complain)
                            [&](const Attribute& one) { return meant_by(element, one.name) == name; });
     };
     for_each_read(folder, [&](const Element& element) {
-        for (const Case& one : needed_cases) {
+        for (const Case& one : needed_cases()) {
             const std::string name = osdAttrName(one.id);
             if (one.on == role_of(element) && element.find(name) == nullptr && one.holds(element) &&
                 !is_misspelt(element, name)) {
@@ -159,7 +79,7 @@ void find_missing(const ResourceFolder& folder, const Complain& complain)
 void find_empty_buttons(const ResourceFolder& folder, const Complain& complain)
 {
     for_each_item(folder, [&](const Element& item) {
-        if (is_plain_button(item) && item.find(osdAttrName(ATTR_VALUE)) == nullptr) {
+        if (kind_of(item) == CONFIRM && has_value(context_of(item)) && item.find(osdAttrName(ATTR_VALUE)) == nullptr) {
             complain(item.place, "the button is empty", "Value=\"...\", the text on the button");
         }
     });
@@ -168,7 +88,8 @@ void find_empty_buttons(const ResourceFolder& folder, const Complain& complain)
 void find_empty_values(const ResourceFolder& folder, const Complain& complain)
 {
     for_each_item(folder, [&](const Element& item) {
-        if (is_text(item) && has_value(context_of(item)) && item.find(osdAttrName(ATTR_SHOW_VALUE)) == nullptr) {
+        if (kind_of(item) == CONST_TXT && has_value(context_of(item)) &&
+            item.find(osdAttrName(ATTR_SHOW_VALUE)) == nullptr) {
             complain(item.place, "the item shows no value", "ShowValue=\"1\", or Ctx=\"NAME\"");
         }
     });
@@ -185,21 +106,7 @@ void find_idle(const ResourceFolder& folder, const Complain& complain)
                          "one of " + joined(names_on(role)));
             } else if (use != nullptr && !is_read(element, *use)) {
                 complain(attribute.place, attribute.name + " does nothing here",
-                         std::string("none: it works ") + find_case(element, use->id)->words);
-            }
-        }
-    });
-}
-
-/// Calls visit(element, attribute, use) for the attributes that the menu reads.
-template <typename Visit>
-void for_each_use(const ResourceFolder& folder, Visit&& visit)
-{
-    for_each_read(folder, [&](const Element& element) {
-        for (const Attribute& attribute : element.attributes) {
-            const AttributeUse* use = find_use(role_of(element), attribute.name);
-            if (use != nullptr && is_read(element, *use)) {
-                visit(element, attribute, *use);
+                         std::string("none: it works ") + case_of_reading(element, *use)->words);
             }
         }
     });
@@ -260,12 +167,6 @@ void find_long(const ResourceFolder& folder, const Complain& complain)
 }
 
 } // namespace
-
-bool is_read(const Element& element, const AttributeUse& use)
-{
-    const Case* found = find_case(element, use.id);
-    return found == nullptr || !is_clear(element) || found->holds(element);
-}
 
 const std::vector<Rule>& attribute_rules()
 {

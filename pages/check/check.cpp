@@ -5,6 +5,7 @@
 
 #include "pages/check/judge.h"
 #include "pages/check/mutes.h"
+#include "pages/measure/glyphs.h"
 #include "pages/measure/measure.h"
 
 namespace pages {
@@ -70,8 +71,8 @@ std::vector<Finding> run_rules(const ResourceFolder& folder)
     return all;
 }
 
-/// What is wanted of all but the pages that are not drawn as they are meant to be: what shows on these follows from it.
-Wanted without_distorted(const Wanted& wanted, const std::vector<Finding>& findings)
+/// All that is wanted but pages that are not drawn as they are meant to be: what shows on these follows from it.
+Wanted wanted_undistorted(const CheckOptions& options, const std::vector<Finding>& findings)
 {
     static const std::set<std::string> distorting = names_of([](const Rule& rule) { return rule.distorts; });
     std::set<std::string> distorted;
@@ -81,7 +82,8 @@ Wanted without_distorted(const Wanted& wanted, const std::vector<Finding>& findi
         }
     }
     return [=](const PageFile& page, const std::string& language) {
-        return distorted.count(page.file) == 0 && (!wanted || wanted(page, language));
+        return distorted.count(page.file) == 0 && (!options.measured || options.measured(page, language)) &&
+               !(options.is_given_up && options.is_given_up());
     };
 }
 
@@ -122,7 +124,10 @@ CheckResult check(const ResourceFolder& folder, const CheckOptions& options)
     Mutes mutes(folder);
     mutes.apply(result.findings);
     if (options.measure) {
-        std::vector<Finding> measured = measure(folder, without_distorted(options.measured, result.findings)).findings;
+        std::vector<Finding> measured = missing_fonts(folder);
+        if (measured.empty()) {
+            measured = measure(folder, wanted_undistorted(options, result.findings)).findings;
+        }
         mutes.apply(measured);
         add(measured);
     }

@@ -1,11 +1,12 @@
 // The check of a folder of resources.
 #pragma once
 
+#include <functional>
 #include <set>
 #include <string>
 #include <vector>
 
-#include "pages/check/rule.h"
+#include "pages/data/rule.h"
 #include "pages/measure/measure.h"
 
 namespace pages {
@@ -13,6 +14,8 @@ namespace pages {
 struct CheckOptions {
     bool measure = true; ///< draw and measure as well
     Wanted measured;     ///< what of it; null for all
+    /// Asked while pages are drawn; once true, no more are, and the result is of no use. Null for never.
+    std::function<bool()> is_given_up = nullptr;
 };
 
 struct CheckResult {

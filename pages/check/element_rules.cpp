@@ -3,7 +3,7 @@
 
 #include <tinyxml2.h>
 
-#include "pages/check/page_walk.h"
+#include "pages/grammar/page_walk.h"
 
 namespace pages {
 namespace {

@@ -4,9 +4,9 @@
 #include <system_error>
 
 #include "osd_types.h"
-#include "pages/check/page_walk.h"
 #include "pages/data/picture_file.h"
 #include "pages/data/text_file.h"
+#include "pages/grammar/page_walk.h"
 
 namespace pages {
 namespace {

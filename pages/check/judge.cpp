@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <tuple>
 
-#include "pages/check/attributes.h"
-#include "pages/check/page_walk.h"
+#include "pages/grammar/attributes.h"
+#include "pages/grammar/page_walk.h"
 #include "pages/menu/menu.h"
 
 namespace pages {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "pages/check/finding.h"
+#include "pages/data/finding.h"
 #include "pages/data/resource_folder.h"
 
 namespace pages {

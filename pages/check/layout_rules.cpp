@@ -5,9 +5,9 @@
 
 #include "comm/picture_names.h"
 #include "menu/render/icon_grid.h"
-#include "pages/check/attribute_rules.h"
-#include "pages/check/page_walk.h"
 #include "pages/check/setting_rules.h"
+#include "pages/grammar/cases.h"
+#include "pages/grammar/page_walk.h"
 #include "pages/menu/menu.h"
 
 namespace pages {
@@ -46,14 +46,10 @@ void find_missing_pictures(const ResourceFolder& folder, const Complain& complai
     if (folder.pictures.empty()) {
         return; // which is told
     }
-    for_each_read(folder, [&](const Element& element) {
-        for (const Attribute& attribute : element.attributes) {
-            const AttributeUse* use = find_use(role_of(element), attribute.name);
-            if (use != nullptr && use->holds == Holds::Picture && is_read(element, *use) &&
-                folder.pictures.count(attribute.value) == 0) {
-                complain(attribute.place, attribute.name + ": there is no picture '" + attribute.value + "'",
-                         nearest_or(attribute.value, keys_of(folder.pictures), "it in pic/"));
-            }
+    for_each_use(folder, [&](const Element&, const Attribute& attribute, const AttributeUse& use) {
+        if (use.holds == Holds::Picture && folder.pictures.count(attribute.value) == 0) {
+            complain(attribute.place, attribute.name + ": there is no picture '" + attribute.value + "'",
+                     nearest_or(attribute.value, keys_of(folder.pictures), "it in pic/"));
         }
     });
 }

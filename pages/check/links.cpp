@@ -1,7 +1,7 @@
 #include "pages/check/links.h"
 
-#include "pages/check/attribute_rules.h"
-#include "pages/check/page_walk.h"
+#include "pages/grammar/cases.h"
+#include "pages/grammar/page_walk.h"
 
 namespace pages {
 
@@ -15,12 +15,9 @@ std::vector<Link> all_links(const ResourceFolder& folder)
 {
     std::vector<Link> links;
     for_each_page(folder, [&](const PageFile& page, const Element& root) {
-        for_each_read(root, [&](const Element& element) {
-            for (const Attribute& attribute : element.attributes) {
-                const AttributeUse* use = find_use(role_of(element), attribute.name);
-                if (use != nullptr && use->holds == Holds::Page && is_read(element, *use)) {
-                    links.push_back({&page, &attribute, attribute.value});
-                }
+        for_each_use(root, [&](const Element&, const Attribute& attribute, const AttributeUse& use) {
+            if (use.holds == Holds::Page) {
+                links.push_back({&page, &attribute, attribute.value});
             }
         });
     });

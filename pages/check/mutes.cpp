@@ -4,8 +4,8 @@
 #include <tuple>
 
 #include "pages/check/check.h"
-#include "pages/check/page_walk.h"
 #include "pages/check/rule_tables.h"
+#include "pages/grammar/page_walk.h"
 #include "pages/measure/judge.h"
 
 namespace pages {

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "pages/check/rule.h"
+#include "pages/data/rule.h"
 
 namespace pages {
 

@@ -6,7 +6,7 @@
 #include "menu/core/words.h"
 #include "menu/nav/confirm_page.h"
 #include "pages/check/links.h"
-#include "pages/check/page_walk.h"
+#include "pages/grammar/page_walk.h"
 
 namespace pages {
 namespace {

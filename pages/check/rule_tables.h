@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "pages/check/rule.h"
+#include "pages/data/rule.h"
 
 namespace pages {
 

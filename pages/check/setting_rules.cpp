@@ -8,8 +8,8 @@
 #include "menu/core/led_color.h"
 #include "menu/core/value_status.h"
 #include "osd_types.h"
-#include "pages/check/page_walk.h"
 #include "pages/check/rule_tables.h"
+#include "pages/grammar/page_walk.h"
 
 namespace pages {
 namespace {
@@ -312,21 +312,6 @@ void find_unlisted_languages(const ResourceFolder& folder, const Complain& compl
 }
 
 } // namespace
-
-const char* name_of(SettingKind kind)
-{
-    switch (kind) {
-    case SettingKind::Option:
-        return "option";
-    case SettingKind::Integer:
-        return "integer";
-    case SettingKind::Text:
-        return "text";
-    case SettingKind::HexColor:
-        return "color";
-    }
-    return "";
-}
 
 const Setting* setting_of(const ResourceFolder& folder, const Element& item)
 {

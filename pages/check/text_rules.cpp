@@ -8,9 +8,9 @@
 
 #include "menu/core/value_status.h"
 #include "menu/core/words.h"
-#include "pages/check/attribute_rules.h"
-#include "pages/check/own_words.h"
-#include "pages/check/page_walk.h"
+#include "pages/grammar/cases.h"
+#include "pages/grammar/page_walk.h"
+#include "pages/grammar/text_use.h"
 
 namespace pages {
 namespace {
@@ -61,51 +61,16 @@ private:
     std::vector<std::string> keys_; ///< in their order
 };
 
-using Ask = std::function<void(const Place& place, const std::string& key)>;
-
-void ask_of_pages(const ResourceFolder& folder, const Ask& ask)
-{
-    for_each_read(folder, [&](const Element& element) {
-        for (const Attribute& attribute : element.attributes) {
-            const AttributeUse* use = find_use(role_of(element), attribute.name);
-            if (use != nullptr && (use->holds == Holds::Label || use->holds == Holds::Key) && is_read(element, *use)) {
-                ask(attribute.place, attribute.value);
-            }
-        }
-    });
-}
-
-void ask_of_settings(const ResourceFolder& folder, const Ask& ask)
-{
-    for (const auto& [id, setting] : folder.definitions.settings) {
-        for (const std::string& option : setting.options) {
-            ask(setting.place, option);
-        }
-    }
-    for (std::size_t i = 0; osdStatusKey(i).pcKey != nullptr; ++i) {
-        const auto fact = folder.definitions.facts.find(osdStatusKey(i).pcKey);
-        if (osdStatusKey(i).bTranslated && fact != folder.definitions.facts.end()) {
-            Place place = folder.definitions.places.of("/facts/" + fact->first);
-            place.file = "settings.json";
-            ask(place, fact->second);
-        }
-    }
-}
-
-/// Calls ask(place, key) for each text that the menu may ask for.
-void for_each_asked(const ResourceFolder& folder, const Ask& ask)
-{
-    ask_of_pages(folder, ask);
-    ask_of_settings(folder, ask);
-    for (const char* word : own_words) {
-        ask({"lang/"}, word);
-    }
-}
-
 void find_missing_texts(const ResourceFolder& folder, const Complain& complain)
 {
-    if (!folder.languages.empty()) {
-        for_each_asked(folder, Need(folder, complain));
+    if (folder.languages.empty()) {
+        return;
+    }
+    const Need need(folder, complain);
+    for (const auto& [key, uses] : text_uses(folder)) {
+        for (const TextUse& use : uses) {
+            need(use.place.file.empty() ? Place{"lang/"} : use.place, key);
+        }
     }
 }
 
@@ -128,8 +93,7 @@ using Gaps = std::map<std::string, std::vector<std::string>>;
 /// one mistake, not two.
 void take_misspelt(const ResourceFolder& folder, Gaps& gaps, const Complain& complain)
 {
-    std::set<std::string> asked;
-    for_each_asked(folder, [&](const Place&, const std::string& key) { asked.insert(key); });
+    const auto uses = text_uses(folder);
     for (const auto& [language, texts] : folder.languages) {
         std::vector<std::string> lacking;
         for (const auto& [key, without] : gaps) {
@@ -140,7 +104,7 @@ void take_misspelt(const ResourceFolder& folder, Gaps& gaps, const Complain& com
         for (const auto& [key, text] : texts) {
             const auto gap = gaps.find(key);
             const bool alone = gap != gaps.end() && gap->second.size() + 1 == folder.languages.size();
-            const std::string meant = alone && asked.count(key) == 0 ? nearest_word(key, lacking) : "";
+            const std::string meant = alone && uses.count(key) == 0 ? nearest_word(key, lacking) : "";
             if (!meant.empty()) {
                 complain(text.place, "no other language has a text '" + key + "'", "'" + meant + "'");
                 lacking.erase(std::find(lacking.begin(), lacking.end(), meant));

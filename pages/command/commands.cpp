@@ -5,10 +5,10 @@
 #include <iostream>
 
 #include "pages/check/check.h"
-#include "pages/check/page_walk.h"
 #include "pages/command/measure_command.h"
 #include "pages/command/other_commands.h"
 #include "pages/command/show_commands.h"
+#include "pages/grammar/page_walk.h"
 
 namespace pages {
 namespace {

@@ -20,15 +20,6 @@ constexpr std::size_t max_value_bytes = OSD_CFG_VALUE_LEN - 1;
 constexpr std::size_t max_list_bytes = OSD_CFG_LIST_LEN - 1;
 constexpr std::string_view no_option_bytes(":\0", 2);
 
-struct KindName {
-    const char* name;
-    SettingKind kind;
-};
-constexpr KindName kind_names[] = {{"option", SettingKind::Option},
-                                   {"integer", SettingKind::Integer},
-                                   {"text", SettingKind::Text},
-                                   {"color", SettingKind::HexColor}};
-
 const std::vector<std::string> fact_names = {"FwVersion",   "IspVersion",     "AfVersion", "AiVersion",
                                              "VideoFormat", "DeviceName",     "SN",        "Mac",
                                              "NdiVersion",  "FullNdiVersion", "NdiStatus", "DeviceType"};

@@ -28,6 +28,9 @@ struct ResourceFolder {
 /// "lang/German.json"
 std::string language_file(const std::string& language);
 
+/// The files in its folder of fonts.
+inline constexpr const char* font_files[] = {"font.ttf", "bold_font.ttf", "tcfont.ttf"};
+
 /// Whether it looks like a folder of resources at all.
 bool is_resource_folder(const std::filesystem::path& root);
 

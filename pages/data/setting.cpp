@@ -30,6 +30,13 @@ std::string problem_with_number(const Setting& setting, const std::string& text)
 
 } // namespace
 
+const char* name_of(SettingKind kind)
+{
+    return std::find_if(std::begin(kind_names), std::end(kind_names),
+                        [&](const KindName& row) { return row.kind == kind; })
+        ->name;
+}
+
 bool operator<(const SettingId& a, const SettingId& b) { return std::tie(a.parent, a.key) < std::tie(b.parent, b.key); }
 
 std::string to_string(const SettingId& id)

@@ -11,6 +11,17 @@ namespace pages {
 
 enum class SettingKind { Option, Integer, Text, HexColor };
 
+/// The words for them.
+struct KindName {
+    const char* name;
+    SettingKind kind;
+};
+inline constexpr KindName kind_names[] = {{"option", SettingKind::Option},
+                                          {"integer", SettingKind::Integer},
+                                          {"text", SettingKind::Text},
+                                          {"color", SettingKind::HexColor}};
+const char* name_of(SettingKind kind);
+
 /// A setting is known by its parent key, empty for none, and its own key.
 struct SettingId {
     std::string parent;

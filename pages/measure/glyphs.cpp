@@ -7,7 +7,7 @@
 #include <memory>
 #include <unordered_map>
 
-#include "pages/check/page_walk.h"
+#include "pages/grammar/cases.h"
 #include "pages/measure/letters.h"
 
 namespace pages {
@@ -32,12 +32,9 @@ void for_each_said(const ResourceFolder& folder, const Said& say)
             say(text.place, key, text.text);
         }
     }
-    for_each_read(folder, [&](const Element& element) {
-        for (const Attribute& attribute : element.attributes) {
-            const AttributeUse* use = find_use(role_of(element), attribute.name);
-            if (use != nullptr && use->holds == Holds::Literal) {
-                say(attribute.place, attribute.name, attribute.value);
-            }
+    for_each_use(folder, [&](const Element&, const Attribute& attribute, const AttributeUse& use) {
+        if (use.holds == Holds::Literal) {
+            say(attribute.place, attribute.name, attribute.value);
         }
     });
     for (const auto& [name, fact] : folder.definitions.facts) {
@@ -72,10 +69,26 @@ std::string words_of_code(char32_t code)
 
 } // namespace
 
+std::vector<Finding> missing_fonts(const ResourceFolder& folder)
+{
+    std::vector<Finding> findings;
+    for (const char* name : font_files) {
+        if (std::error_code ignored; !std::filesystem::exists(folder.fonts / name, ignored)) {
+            findings.push_back({{"ttf/"},
+                                Severity::Error,
+                                "font",
+                                std::string("without ") + name + " nothing is drawn and measured",
+                                "it in " + folder.fonts.string() + ", or another folder with --fonts",
+                                name});
+        }
+    }
+    return findings;
+}
+
 std::vector<Finding> missing_glyphs(const ResourceFolder& folder)
 {
     std::vector<Font> fonts;
-    for (const char* name : {"font.ttf", "bold_font.ttf", "tcfont.ttf"}) {
+    for (const char* name : font_files) {
         fonts.push_back({name, std::unique_ptr<TTF_Font, Close>(TTF_OpenFont((folder.fonts / name).c_str(), 16))});
     }
     std::vector<Finding> findings;

@@ -62,6 +62,7 @@ const std::vector<Rule>& measure_rules()
          nullptr},
         {overlap_rule, Severity::Error, "A text lies over another, a line or a picture.", nullptr},
         {foot_rule, Severity::Error, "Rows lie below the menu, or over its hints or its message line.", nullptr},
+        {"font", Severity::Error, "The fonts by which pages are measured are there.", nullptr},
         {"missing-glyph", Severity::Error, "A font has no picture of a character.", nullptr, Told::Once},
     };
     return rules;

@@ -7,7 +7,7 @@
 #include <tuple>
 #include <vector>
 
-#include "pages/check/rule.h"
+#include "pages/data/rule.h"
 #include "pages/measure/shown.h"
 
 namespace pages {

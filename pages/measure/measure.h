@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "pages/check/finding.h"
+#include "pages/data/finding.h"
 #include "pages/data/resource_folder.h"
 #include "pages/menu/menu.h"
 
@@ -47,7 +47,7 @@ struct Measures {
     std::vector<TextRoom> rooms;   ///< of each text of each place and language
 };
 
-/// Draws and judges the pages. Takes the menu: any thread, one at a time.
+/// Draws and judges the pages. Takes the menu: any thread, one at a time. Throws BadInput when a font is missing.
 Measures measure(const ResourceFolder& folder, const Wanted& wanted);
 
 /// Where the texts of a language are shown, and the room that they have there. A translation that doesn't fit is found by

@@ -4,7 +4,7 @@
 
 #include "menu/core/item.h"
 #include "menu/core/value_status.h"
-#include "pages/check/text_use.h"
+#include "pages/grammar/text_use.h"
 
 namespace pages {
 namespace {

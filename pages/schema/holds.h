@@ -1,7 +1,7 @@
 // What the values of attributes are, in the schema and in words.
 #pragma once
 
-#include "pages/check/attributes.h"
+#include "pages/grammar/attributes.h"
 
 namespace pages {
 

@@ -4,8 +4,8 @@
 #include <map>
 
 #include "osd_types.h"
-#include "pages/check/text_use.h"
 #include "pages/data/text_file.h"
+#include "pages/grammar/text_use.h"
 #include "pages/measure/glyphs.h"
 #include "pages/texts/language_file.h"
 #include "pages/texts/po_file.h"

@@ -4,7 +4,7 @@
 #include <tuple>
 #include <vector>
 
-#include "pages/check/finding.h"
+#include "pages/data/finding.h"
 
 namespace sim {
 

@@ -10,21 +10,6 @@ namespace {
 
 using nlohmann::json;
 
-const char* kind_name(SettingKind kind)
-{
-    switch (kind) {
-    case SettingKind::Option:
-        return "option";
-    case SettingKind::Integer:
-        return "integer";
-    case SettingKind::Text:
-        return "text";
-    case SettingKind::HexColor:
-        return "color";
-    }
-    return "";
-}
-
 const Setting& named(const Settings& settings, const std::string& name, const std::string& place)
 {
     try {
@@ -39,8 +24,8 @@ const Setting& named(const Settings& settings, const std::string& name, const st
 json setting_object(const Settings& settings, const Setting& setting)
 {
     json object = {
-        {"name", name_of(setting.id)},     {"parent", setting.id.parent},         {"key", setting.id.key},
-        {"kind", kind_name(setting.kind)}, {"value", settings.value(setting.id)}, {"default", setting.default_text}};
+        {"name", name_of(setting.id)},   {"parent", setting.id.parent},         {"key", setting.id.key},
+        {"kind", name_of(setting.kind)}, {"value", settings.value(setting.id)}, {"default", setting.default_text}};
     if (setting.kind == SettingKind::Option) {
         object["options"] = setting.options;
     } else if (setting.kind == SettingKind::Integer) {

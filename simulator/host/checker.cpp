@@ -31,14 +31,15 @@ bool are_equal(const Finding& one, const Finding& other) { return order_of(one) 
 
 /// What shows when pages are drawn: all that isn't said without that. Empty: all pages in all languages, else these
 /// pages, and all pages in these languages.
-std::vector<Finding> measure_files(const Verdict& quick, const std::set<std::string>& files)
+std::vector<Finding> measure_files(const Verdict& quick, const std::set<std::string>& files,
+                                   const std::function<bool()>& is_given_up)
 {
     const pages::ResourceFolder& folder = quick.resources->folder;
     const auto is_one = [&](const pages::PageFile& page, const std::string& language) {
         return files.count(page.file) > 0 || files.count(pages::language_file(language)) > 0;
     };
     const pages::Wanted wanted = files.empty() ? pages::Wanted() : is_one;
-    const std::vector<Finding> all = check_honestly(folder, {true, wanted}).findings;
+    const std::vector<Finding> all = check_honestly(folder, {true, wanted, is_given_up}).findings;
     std::vector<Finding> found;
     std::set_difference(all.begin(), all.end(), quick.findings.begin(), quick.findings.end(), std::back_inserter(found),
                         is_before);
@@ -112,10 +113,10 @@ void Checker::look_again()
     changed_.notify_all();
 }
 
-bool Checker::is_asked()
+bool Checker::is_overtaken()
 {
     const std::lock_guard<std::mutex> lock(mutex_);
-    return asked_;
+    return asked_ || ending_;
 }
 
 void Checker::run()
@@ -149,7 +150,7 @@ void Checker::look()
     quick_ = judge(resources_);
     rest_ = Clock::now() + time_until_rest;
     choose_files(earlier.get());
-    if (!is_asked()) { // else it may tell of what has been mended since
+    if (!is_overtaken()) { // else it may tell of what has been mended since
         tell();
     }
 }
@@ -170,15 +171,17 @@ void Checker::choose_files(const Resources* earlier)
     }
 }
 
-/// All pages when no file is urgent.
+/// All pages when no file is urgent. Ends early when files have changed, and is done again after the look at them.
 void Checker::measure()
 {
-    const std::set<std::string> files = std::exchange(urgent_, {});
-    all_due_ = !files.empty();
-    std::vector<Finding> found = measure_files(quick_, files);
+    std::vector<Finding> found = measure_files(quick_, urgent_, [this] { return is_overtaken(); });
+    if (is_overtaken()) {
+        return;
+    }
+    all_due_ = !std::exchange(urgent_, {}).empty();
     const bool same = std::equal(found.begin(), found.end(), measured_.begin(), measured_.end(), are_equal);
     measured_ = std::move(found);
-    if (!same && !is_asked()) {
+    if (!same) {
         tell();
     }
 }

@@ -63,7 +63,7 @@ private:
 
     void run();
     Step wait_for_step();
-    bool is_asked();
+    bool is_overtaken(); ///< what is under way is of no use any more
     void look();
     void choose_files(const Resources* earlier);
     void measure();

@@ -18,6 +18,7 @@ namespace {
 
 using namespace pages;
 namespace fs = std::filesystem;
+using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Not;
 
@@ -50,6 +51,7 @@ public:
     BadFolder(const BadFolder&) = delete;
     BadFolder& operator=(const BadFolder&) = delete;
 
+    const fs::path& root() const { return path_; }
     ResourceFolder read() const { return read_resource_folder(path_, fonts); }
     std::vector<std::string> expected() const { return lines_of(path_ / "expected.txt"); }
 
@@ -249,6 +251,18 @@ TEST(Check, WhatIsNotDrawnIsHeardOnTheWalk)
     for (const char* name : {"icon_without_picture", "picture_of_menu_missing", "text_empty"}) {
         EXPECT_THAT(Walk(BadFolder(name).read()).failures(), Not(IsEmpty())) << name;
     }
+}
+
+TEST(Check, TellsAllButWhatNeedsFontsWithoutThem)
+{
+    const BadFolder bad("word_misspelt");
+    const ResourceFolder folder = read_resource_folder(bad.root(), cases / "none");
+    std::vector<std::string> rules;
+    for (const Finding& finding : check(folder, {true, {}}).findings) {
+        rules.push_back(finding.rule);
+    }
+    EXPECT_THAT(rules, ElementsAre("word", "font", "font", "font"));
+    EXPECT_THROW(measure(folder, {}), BadInput);
 }
 
 TEST(Check, TellsByItsExitStatus)

@@ -4,9 +4,9 @@
 #include <gmock/gmock.h>
 #include <set>
 
-#include "pages/check/attributes.h"
 #include "pages/data/resource_folder.h"
 #include "pages/data/text_file.h"
+#include "pages/grammar/attributes.h"
 #include "pages/schema/schema.h"
 
 namespace {

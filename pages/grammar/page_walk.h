@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "osd_records.h"
-#include "pages/check/attributes.h"
 #include "pages/data/resource_folder.h"
+#include "pages/grammar/attributes.h"
 
 namespace pages {
 

@@ -1,4 +1,4 @@
-#include "pages/check/attributes.h"
+#include "pages/grammar/attributes.h"
 
 #include <algorithm>
 #include <array>

@@ -1,41 +1,47 @@
-#include "pages/check/text_use.h"
+#include "pages/grammar/text_use.h"
 
 #include <algorithm>
 #include <tuple>
 
 #include "menu/core/value_status.h"
-#include "pages/check/attributes.h"
-#include "pages/check/own_words.h"
+#include "menu/core/words.h"
+#include "pages/grammar/cases.h"
 
 namespace pages {
 namespace {
 
+/// Texts that the menu asks for by itself, on whatever page.
+constexpr const char* own_words[] = {OSD_WORD_STATIC_IP, OSD_WORD_DHCP_IP, OSD_WORD_AUTO_MODE,
+                                     OSD_WORD_CONFIRM,   OSD_WORD_FINISH,  OSD_WORD_LOADING};
+
 struct Part {
-    On on;
     tagATTR_ID_E attribute;
     const char* words;
 };
 
-constexpr Part parts[] = {
-    {On::Page, ATTR_TITLE, "title of page "},      {On::Page, ATTR_MSG, "message of page "},
-    {On::Item, ATTR_ITEM_INDEX, "label on page "}, {On::Item, ATTR_VALUE, "button on page "},
-    {On::Item, ATTR_MSG, "message on page "},      {On::Option, ATTR_MODE_INDEX, "option on page "},
-};
+constexpr Part parts[] = {{ATTR_TITLE, "title"},
+                          {ATTR_MSG, "message"},
+                          {ATTR_ITEM_INDEX, "label"},
+                          {ATTR_VALUE, "button"},
+                          {ATTR_MODE_INDEX, "option"}};
 
 using Uses = std::map<std::string, std::vector<TextUse>>;
 
-/// Pages, items and options go by their depth.
-void add_uses(const PageFile& page, const Element& element, On on, Uses& uses)
+std::string words_of_part(const std::string& attribute)
 {
-    for (const Part& part : parts) {
-        const Attribute* attribute = part.on == on ? element.find(osdAttrName(part.attribute)) : nullptr;
-        if (attribute != nullptr) {
-            uses[attribute->value].push_back({attribute->place, part.words + page.name});
+    const auto* part = std::find_if(std::begin(parts), std::end(parts),
+                                    [&](const Part& one) { return attribute == osdAttrName(one.attribute); });
+    return part == std::end(parts) ? attribute : part->words;
+}
+
+void add_uses(const PageFile& page, Uses& uses)
+{
+    for_each_use(*page.root, [&](const Element& element, const Attribute& attribute, const AttributeUse& use) {
+        if (use.holds == Holds::Label || use.holds == Holds::Key) {
+            const std::string of = element.parent == nullptr ? " of page " : " on page ";
+            uses[attribute.value].push_back({attribute.place, words_of_part(attribute.name) + of + page.name});
         }
-    }
-    for (const auto& child : element.children) {
-        add_uses(page, *child, on == On::Item ? On::Option : On::Item, uses);
-    }
+    });
 }
 
 void add_options(const Setting& setting, Uses& uses)
@@ -63,7 +69,7 @@ Uses text_uses(const ResourceFolder& folder)
     Uses uses;
     for (const auto& [name, page] : folder.pages) {
         if (page.root != nullptr) {
-            add_uses(page, *page.root, On::Page, uses);
+            add_uses(page, uses);
         }
     }
     for (const auto& [id, setting] : folder.definitions.settings) {

@@ -1,4 +1,4 @@
-#include "pages/check/finding.h"
+#include "pages/data/finding.h"
 
 #include <filesystem>
 #include <nlohmann/json.hpp>

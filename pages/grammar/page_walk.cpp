@@ -1,4 +1,4 @@
-#include "pages/check/page_walk.h"
+#include "pages/grammar/page_walk.h"
 
 #include <algorithm>
 

@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "pages/check/finding.h"
+#include "pages/data/finding.h"
 #include "pages/data/resource_folder.h"
 
 namespace pages {

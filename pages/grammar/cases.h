@@ -1,0 +1,47 @@
+// When attributes are needed, and when they are read.
+#pragma once
+
+#include <vector>
+
+#include "pages/grammar/attributes.h"
+#include "pages/grammar/page_walk.h"
+
+namespace pages {
+
+/// When an attribute matters; asked about elements whose kind, context and layout are known.
+struct Case {
+    tagATTR_ID_E id;
+    On on;
+    bool (*holds)(const Element& element);
+    const char* words;
+};
+
+const std::vector<Case>& needed_cases();
+
+/// Where the menu reads an attribute; null for all elements of its name.
+const Case* case_of_reading(const Element& element, const AttributeUse& use);
+/// Whether the menu looks at an attribute of an element of this kind and layout.
+bool is_read(const Element& element, const AttributeUse& use);
+
+/// Calls visit(element, attribute, use) for the attributes that the menu reads of an element and of all below it.
+template <typename Visit>
+void for_each_use(const Element& root, Visit&& visit)
+{
+    for_each_read(root, [&](const Element& element) {
+        for (const Attribute& attribute : element.attributes) {
+            const AttributeUse* use = find_use(role_of(element), attribute.name);
+            if (use != nullptr && is_read(element, *use)) {
+                visit(element, attribute, *use);
+            }
+        }
+    });
+}
+
+/// The same for all pages that can be read.
+template <typename Visit>
+void for_each_use(const ResourceFolder& folder, Visit&& visit)
+{
+    for_each_page(folder, [&](const PageFile&, const Element& root) { for_each_use(root, visit); });
+}
+
+} // namespace pages
