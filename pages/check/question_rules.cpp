@@ -175,6 +175,9 @@ void find_behind_store(const ResourceFolder& folder, const Complain& complain)
 {
     for_each_confirmed(folder, [&](const PageFile&, const Element& root, bool stored) {
         const Element* confirm = stored ? storing_item(root) : nullptr;
+        if (confirm == nullptr) {
+            return;
+        }
         bool behind = false;
         for (const auto& item : root.children) {
             if (behind && (has_options(kind_of(*item)) || is_one_of(kind_of(*item), {COMMON, KEY_WITH_MSG}))) {

@@ -5,9 +5,6 @@
 
 namespace pages {
 
-/// "option", "integer", "text" or "color"
-const char* name_of(SettingKind kind);
-
 /// The setting whose value an item shows; null for none.
 const Setting* setting_of(const ResourceFolder& folder, const Element& item);
 

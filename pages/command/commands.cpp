@@ -2,6 +2,8 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <cstdio>
+#include <exception>
 #include <iostream>
 
 #include "pages/check/check.h"
@@ -49,8 +51,7 @@ int run_check(const Options& options)
     return findings.empty() ? all_well : findings_told;
 }
 
-} // namespace
-
+/// The one that runs sets the status; it throws BadInput for what can't be used.
 void add_commands(CLI::App& app, int& status)
 {
     auto options = std::make_shared<Options>();
@@ -67,6 +68,7 @@ void add_commands(CLI::App& app, int& status)
     add_show_commands(app, status);
 }
 
+/// Throws BadInput for a word that stands where a command is expected, and is none.
 void refuse_unknown_command(const CLI::App& app, const std::vector<std::string>& words)
 {
     const CLI::App* level = &app;
@@ -85,6 +87,35 @@ void refuse_unknown_command(const CLI::App& app, const std::vector<std::string>&
     }
 }
 
-const char* version() { return OSD_VERSION; }
+int run_command(int argc, const char* const* argv)
+{
+    CLI::App app("Checks, measures, shows and translates the pages of a camera's menu.", "osdmenu-pages");
+    app.set_version_flag("--version", "osdmenu-pages " OSD_VERSION);
+    app.require_subcommand(1);
+    int status = all_well;
+    add_commands(app, status);
+    refuse_unknown_command(app, {argv + 1, argv + argc});
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return app.exit(error) == 0 ? all_well : unusable;
+    }
+    if (!std::cout.flush()) {
+        throw BadInput("can't write all that is to be told: the disk is full, or nobody reads it");
+    }
+    return status;
+}
+
+} // namespace
+
+Status run(int argc, const char* const* argv) noexcept
+{
+    try {
+        return static_cast<Status>(run_command(argc, argv));
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "osdmenu-pages: %s\n", error.what());
+    }
+    return unusable;
+}
 
 } // namespace pages

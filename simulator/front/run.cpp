@@ -1,6 +1,5 @@
 #include "simulator/front/run.h"
 
-#include <CLI/CLI.hpp>
 #include <iostream>
 
 #include "pages/command/commands.h"
@@ -52,14 +51,10 @@ void transfer_settings(Camera& camera, const Options& options)
     }
 }
 
-/// As the page tools do it.
 int check_resources(const std::string& folder)
 {
-    CLI::App tools;
-    int status = 0;
-    pages::add_commands(tools, status);
-    tools.parse({folder, "check"}); // the last word goes first
-    return status;
+    const char* const words[] = {"osdmenu-pages", "check", folder.c_str()};
+    return pages::run(3, words);
 }
 
 void write_contact_sheets(const std::filesystem::path& path, const Options& options)

@@ -65,7 +65,7 @@ public:
     explicit Walk(const ResourceFolder& folder) : menu_(folder, folder.languages.begin()->first)
     {
         std::uint32_t style = 1;
-        for (const auto& [language, texts] : folder.languages) {
+        for (const std::string& language : {folder.languages.begin()->first, folder.languages.rbegin()->first}) {
             menu_.look({language, style++ % style_count, false});
             seen_.clear();
             start(folder, "main", Key::Menu);
