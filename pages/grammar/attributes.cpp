@@ -84,7 +84,7 @@ const std::vector<AttributeUse>& attribute_uses()
 {
     static const std::vector<AttributeUse> uses = {
         {ATTR_LAYOUT, On::Page, Holds::Word, "every page", "How the page is drawn and walked.", layouts()},
-        {ATTR_COUNT_PER_LINE, On::Page, Holds::Number, "icon", "Icons in a row, 1 or more, in layout icon.", {}},
+        {ATTR_COUNT_PER_LINE, On::Page, Holds::Number, "icon", "Icons in a row, 1 to 9, in layout icon.", {}},
         {ATTR_TITLE, On::Page, Holds::Label, "", "The title.", {}},
         {ATTR_TITLE_POS, On::Page, Holds::Word, "a page with Title", "Changes nothing on screen.",
          explain(c_astTitlePosWord, {{"Left.", "Right.", "In the middle."}})},
