@@ -1,8 +1,7 @@
-# A target's files are compiled a folder at once: large headers are read once a folder instead of once a file, which takes
-# a third of the time of a compiler and a quarter of clang-tidy's. Helpers of one folder therefore have different names; a
-# compiler calls two of the same name a redefinition. COMPILE_OPTIONS of one file are those of its folder. CMake's own
-# unity builds won't do: the analyzer looks into included files only when the name of the including one begins with
-# "UnifiedSource".
+# A target's files are compiled a folder at once: large headers are read once a folder instead of once a file. Helpers of
+# one folder therefore have different names; a compiler calls two of the same name a redefinition. COMPILE_OPTIONS of one
+# file are those of its folder. CMake's own unity builds won't do: the analyzer looks into included files only when the
+# name of the including one begins with "UnifiedSource".
 function(osd_unite_folders target)
   get_target_property(sources ${target} SOURCES)
   set(names)
