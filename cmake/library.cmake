@@ -65,6 +65,10 @@ target_link_libraries(osdmenu_objects
   PRIVATE osd_flags)
 if(OSD_UNITE_LIBRARY) # for checks alone: the product and what the benchmark measures are compiled file by file
   osd_unite_folders(osdmenu_objects)
+else() # For size GCC clears and copies short texts by a slow instruction. These files read a page, each attribute of it.
+  set_source_files_properties(
+    comm/text.cpp menu/core/attr.cpp menu/core/item_parse.cpp menu/core/page_parse.cpp menu/core/value_bind.cpp
+    PROPERTIES COMPILE_OPTIONS $<$<CONFIG:Release>:-O2>)
 endif()
 target_compile_definitions(osdmenu_objects PRIVATE OSD_RESOURCE_DIR="${OSD_RESOURCE_DIR}")
 # Nobody replaces single functions of the library, so calls within a file need no detour. The camera's flash is small, and

@@ -51,7 +51,7 @@ size_t osdAttrId(const char* pcName)
         return ATTR_ID_CNT;
     }
     for (size_t i = stIndex.au8First[s32Letter]; i < ATTR_ID_CNT && c_aacAttrName[i][0] == *pcName; i++) {
-        if (strcmp(c_aacAttrName[i], pcName) == 0) {
+        if (osdTextEqual(c_aacAttrName[i] + 1, pcName + 1)) { // the letter is the same
             return i;
         }
     }
