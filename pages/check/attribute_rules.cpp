@@ -95,20 +95,39 @@ void find_empty_values(const ResourceFolder& folder, const Complain& complain)
     });
 }
 
+/// Attributes that wait for the same case are told together: one mistake.
+void tell_unread(const Element& element, const Complain& complain)
+{
+    std::map<std::string, std::vector<const Attribute*>> unread; // by the words of the case
+    for (const Attribute& attribute : element.attributes) {
+        const AttributeUse* use = find_use(role_of(element), attribute.name);
+        if (use != nullptr && !is_read(element, *use)) {
+            unread[case_of_reading(element, *use)->words].push_back(&attribute);
+        }
+    }
+    for (const auto& [wanted, attributes] : unread) {
+        const bool one = attributes.size() == 1;
+        std::string names;
+        for (const Attribute* attribute : attributes) {
+            names += (names.empty() ? "" : ", ") + attribute->name;
+        }
+        complain(attributes.front()->place, names + (one ? " does nothing here" : " do nothing here"),
+                 (one ? "none: it works " : "none: they work ") + wanted);
+    }
+}
+
 void find_idle(const ResourceFolder& folder, const Complain& complain)
 {
     for_each_read(folder, [&](const Element& element) {
+        const On role = role_of(element);
         for (const Attribute& attribute : element.attributes) {
-            const On role = role_of(element);
-            const AttributeUse* use = find_use(role, attribute.name);
-            if (use == nullptr && !is_unknown(attribute.name) && stand_in(element) == nullptr) {
+            if (find_use(role, attribute.name) == nullptr && !is_unknown(attribute.name) &&
+                stand_in(element) == nullptr) {
                 complain(attribute.place, attribute.name + " does nothing in <" + element.name + ">",
                          "one of " + joined(names_on(role)));
-            } else if (use != nullptr && !is_read(element, *use)) {
-                complain(attribute.place, attribute.name + " does nothing here",
-                         std::string("none: it works ") + case_of_reading(element, *use)->words);
             }
         }
+        tell_unread(element, complain);
     });
 }
 

@@ -57,6 +57,23 @@ bool is_told_again(const Finding& finding, const std::vector<Finding>& later)
            });
 }
 
+/// Takes out what follows from another finding at its place.
+void drop_followers(std::vector<Finding>& findings)
+{
+    static const std::set<std::string> alone = names_of([](const Rule& rule) { return rule.told == Told::Alone; });
+    std::set<std::tuple<std::string, int, int>> places;
+    for (const Finding& finding : findings) {
+        if (alone.count(finding.rule) > 0) {
+            places.insert({finding.place.file, finding.place.line, finding.place.column});
+        }
+    }
+    const auto follows = [&](const Finding& finding) {
+        const Place& place = finding.place;
+        return alone.count(finding.rule) == 0 && places.count({place.file, place.line, place.column}) > 0;
+    };
+    findings.erase(std::remove_if(findings.begin(), findings.end(), follows), findings.end());
+}
+
 /// What all rules find, the later ones first.
 std::vector<Finding> run_rules(const ResourceFolder& folder)
 {
@@ -68,6 +85,7 @@ std::vector<Finding> run_rules(const ResourceFolder& folder)
         findings.erase(std::remove_if(findings.begin(), findings.end(), again), findings.end());
         all.insert(all.end(), findings.begin(), findings.end());
     }
+    drop_followers(all);
     return all;
 }
 

@@ -143,7 +143,8 @@ const std::vector<Rule>& element_rules()
         {"element-name", Severity::Warning, "Elements are named Page, Item and Option.", find_strange_names},
         {"unread-element", Severity::Warning, "Options stand below items that have some.", find_unread},
         {"stray-text", Severity::Warning, "No text stands between elements.", find_stray_texts},
-        {"xml-reader", Severity::Error, "The menu's own reader takes the file, and reads the same.", find_unloadable},
+        {"xml-reader", Severity::Error, "The menu's own reader takes the file, and reads the same.", find_unloadable,
+         Told::Alone},
     };
     return rules;
 }

@@ -1,9 +1,11 @@
 // What can be said of files before anybody looks into them: whether they can be read, and whether anybody will.
 #include "pages/check/rule_tables.h"
 
+#include <algorithm>
 #include <system_error>
 
 #include "osd_types.h"
+#include "pages/check/setting_rules.h"
 #include "pages/data/picture_file.h"
 #include "pages/data/text_file.h"
 #include "pages/grammar/page_walk.h"
@@ -185,11 +187,14 @@ struct ReadFolder {
     bool (*is_read)(const ResourceFolder& folder, const fs::path& file);
 };
 
-/// Those that are meant to be pages or pictures are told of by other rules.
+/// Those that are meant to be pages, languages or pictures are told of by other rules.
 void find_strays(const ResourceFolder& folder, const Complain& complain)
 {
     const auto is_page = [](const ResourceFolder&, const fs::path& file) { return is_page_file(file); };
-    const auto is_language = [](const ResourceFolder&, const fs::path& file) { return file.extension() == ".json"; };
+    const auto is_language = [](const ResourceFolder& all, const fs::path& file) {
+        const std::vector<std::string> without = languages_without_file(all);
+        return file.extension() == ".json" || std::count(without.begin(), without.end(), file.stem().string()) > 0;
+    };
     const auto is_picture = [](const ResourceFolder& all, const fs::path& file) {
         const auto known = all.pictures.find(file.stem().string());
         return file.extension() == ".svg" || file.extension() == ".bmp" ||

@@ -79,13 +79,14 @@ private:
         });
     }
 
-    /// Whether the cause is known: an error at the element or one of its attributes, anything at the very place, a text
-    /// that is missing in all or in some languages, or a page with a long name.
+    /// Whether the cause is known: an error at the element or one of its attributes, anything at the very place, a layout
+    /// that is for other items, a text that is missing in all or in some languages, or a page with a long name.
     bool is_told(const Fault& fault) const
     {
         const Element& element = *fault.element;
         const PlaceKey place = key_of_place(element.place_of(fault.attribute));
-        if (odd_.count(place) > 0 || wrong_.count(key_of_place(element.place)) > 0 || is_below_told(element)) {
+        if (odd_.count(place) > 0 || wrong_.count(key_of_place(element.place)) > 0 || is_below_told(element) ||
+            contradiction_of(page_of(element))) {
             return true;
         }
         const bool long_page = fault.kind == PAGE_FAULT_TOO_LONG && folder_.pages.count(fault.value) > 0;

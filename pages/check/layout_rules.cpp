@@ -13,6 +13,28 @@
 namespace pages {
 namespace {
 
+void find_contradictions(const ResourceFolder& folder, const Complain& complain)
+{
+    static const std::map<Arrangement, const char*> names = {
+        {Arrangement::Icons, "icons"}, {Arrangement::List, "a list"}, {Arrangement::Question, "a question"}};
+    for_each_page(folder, [&](const PageFile&, const Element& page) {
+        const auto meant = contradiction_of(page);
+        if (!meant) {
+            return;
+        }
+        std::vector<std::string> words;
+        for (const auto& word : c_astLayoutWord) {
+            if (arrangement_of(word.enValue) == *meant) {
+                words.emplace_back(word.pcWord);
+            }
+        }
+        const Attribute& layout = *page.find(osdAttrName(ATTR_LAYOUT));
+        complain(layout.place,
+                 "Layout '" + layout.value + "' fits none of the items, which are made for " + names.at(*meant),
+                 one_of(layout.value, words));
+    });
+}
+
 /// So many icons have a place beside each other.
 int most_icons()
 {
@@ -232,6 +254,7 @@ void find_empty_pages(const ResourceFolder& folder, const Complain& complain)
 const std::vector<Rule>& layout_rules()
 {
     static const std::vector<Rule> rules = {
+        {"layout", Severity::Error, "The layout of a page fits its items.", find_contradictions, Told::Each, true},
         {"grid", Severity::Error, "Icons have a number of columns that fit.", find_no_grids, Told::Each, true},
         {"no-picture", Severity::Error, "Pictures that a page names are there.", find_missing_pictures},
         {"menu-picture", Severity::Error, "Pictures that the menu draws by itself are there.",

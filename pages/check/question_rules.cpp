@@ -25,12 +25,12 @@ void for_each_question(const ResourceFolder& folder, Visit&& visit)
 
 void find_mute_questions(const ResourceFolder& folder, const Complain& complain)
 {
-    for_each_question(folder, [&](const Link& link, const Element&) {
+    for_each_question(folder, [&](const Link& link, const Element& question) {
         const std::string part = OSD_PAGE_PART_CONFIRM;
         const bool on_restart = osdConfirmOnRestart(link.page->name.c_str());
         const bool answered =
             on_restart ? link.target == OSD_PAGE_RESTART : link.target.find(part) != std::string::npos;
-        if (!answered) {
+        if (!answered && is_question(layout_of(question))) {
             complain(link.attribute->place, "the answers of page '" + link.target + "' do nothing here",
                      on_restart ? std::string("page '") + OSD_PAGE_RESTART + "'"
                                 : "a question with '" + part + "' in its name");

@@ -2,6 +2,7 @@
 #include "pages/check/setting_rules.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <set>
 #include <sstream>
 
@@ -110,13 +111,20 @@ bool is_setting_unusable(const ResourceFolder& folder, const std::string& key)
     return are_settings_broken(folder) || is_unusable(folder, settings_file, "setting '" + key + "'");
 }
 
+bool is_of_language(const SettingId& id)
+{
+    return id.parent == language_setting.parent && id.key == language_setting.key;
+}
+
+/// That no setting chooses the language is told of settings.json itself.
 void find_missing_settings(const ResourceFolder& folder, const Complain& complain)
 {
     const Definitions& definitions = folder.definitions;
     for_each_item(folder, [&](const Element& item) {
         const auto wanted = wanted_by(folder, item);
-        if (wanted && definitions.settings.count(wanted->id) == 0 && !is_setting_unusable(folder, wanted->id.key) &&
-            !is_unusable(folder, settings_file, "'zones'") && !is_parent_of_none(definitions, wanted->id.parent)) {
+        if (wanted && !is_of_language(wanted->id) && definitions.settings.count(wanted->id) == 0 &&
+            !is_setting_unusable(folder, wanted->id.key) && !is_unusable(folder, settings_file, "'zones'") &&
+            !is_parent_of_none(definitions, wanted->id.parent)) {
             complain(item.place_of(osdAttrName(ATTR_ITEM_INDEX)), "there is no setting " + to_string(wanted->id),
                      advice(definitions, wanted->id));
         }
@@ -254,18 +262,6 @@ Place place_in_settings(const ResourceFolder& folder, const std::string& part)
     return place;
 }
 
-/// Languages that settings.json names and that have no file.
-std::vector<std::string> languages_without_file(const ResourceFolder& folder)
-{
-    std::vector<std::string> without;
-    for (const auto& [option, language] : folder.definitions.languages) {
-        if (folder.languages.count(language) == 0 && folder.broken.count("lang/" + language + ".json") == 0) {
-            without.push_back(language);
-        }
-    }
-    return without;
-}
-
 bool is_listed(const ResourceFolder& folder, const std::string& language)
 {
     const auto& listed = folder.definitions.languages;
@@ -280,15 +276,25 @@ std::vector<std::string> unlisted_languages(const ResourceFolder& folder)
     return unlisted;
 }
 
-/// A file of another name may be meant.
+/// The file that is meant for a language: one with another ending, or else with a name like it.
+std::string language_file_meant(const ResourceFolder& folder, const std::string& language)
+{
+    std::error_code none;
+    for (const auto& entry : std::filesystem::directory_iterator(folder.root / "lang", none)) {
+        if (entry.path().stem() == language) {
+            return "this name for lang/" + entry.path().filename().string();
+        }
+    }
+    return nearest_or(language, unlisted_languages(folder), "one of lang/: " + joined(keys_of(folder.languages)));
+}
+
 void find_missing_languages(const ResourceFolder& folder, const Complain& complain)
 {
     const std::vector<std::string> without = languages_without_file(folder);
     for (const auto& [option, language] : folder.definitions.languages) {
         if (std::count(without.begin(), without.end(), language) > 0 && !folder.languages.empty()) {
-            complain(
-                place_in_settings(folder, "/languages/" + option), "there is no file lang/" + language + ".json",
-                nearest_or(language, unlisted_languages(folder), "one of lang/: " + joined(keys_of(folder.languages))));
+            complain(place_in_settings(folder, "/languages/" + option), "there is no file lang/" + language + ".json",
+                     language_file_meant(folder, language));
         }
     }
 }
@@ -318,6 +324,17 @@ const Setting* setting_of(const ResourceFolder& folder, const Element& item)
     const auto wanted = wanted_by(folder, item);
     const auto found = wanted ? folder.definitions.settings.find(wanted->id) : folder.definitions.settings.end();
     return found == folder.definitions.settings.end() ? nullptr : &found->second;
+}
+
+std::vector<std::string> languages_without_file(const ResourceFolder& folder)
+{
+    std::vector<std::string> without;
+    for (const auto& [option, language] : folder.definitions.languages) {
+        if (folder.languages.count(language) == 0 && folder.broken.count("lang/" + language + ".json") == 0) {
+            without.push_back(language);
+        }
+    }
+    return without;
 }
 
 const std::vector<Rule>& setting_rules()

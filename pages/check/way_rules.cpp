@@ -128,6 +128,9 @@ void find_sixth_pages(const ResourceFolder& folder, const Complain& complain)
     Walk walk(folder);
     std::set<const Attribute*> told;
     for (const Link& link : walk.circles()) {
+        if (link.is_next() && link.target == link.page->name) {
+            continue; // told as a wrong turn
+        }
         complain(link.attribute->place, "page '" + link.target + "' is opened again above itself",
                  "a page that doesn't lead back to '" + link.page->name + "'");
     }
@@ -145,13 +148,17 @@ void find_sixth_pages(const ResourceFolder& folder, const Complain& complain)
     }
 }
 
-/// Whether a link that leads nowhere may mean the page, or the page that turns to it says otherwise.
+/// Whether the page turns back to another one, which says otherwise, or is a question and something else is asked.
 bool is_missed(const ResourceFolder& folder, const std::vector<Link>& links, const std::string& page)
 {
+    const auto is_question_page = [&](const std::string& name) {
+        const auto found = folder.pages.find(name);
+        return found != folder.pages.end() && found->second.root != nullptr &&
+               is_question(layout_of(*found->second.root));
+    };
     return std::any_of(links.begin(), links.end(), [&](const Link& link) {
-        const bool turns = link.is_back() && link.page->name == page && folder.pages.count(link.target) > 0;
-        return turns || (folder.pages.count(link.target) == 0 &&
-                         nearest_word(page_name(link.target), keys_of(folder.pages)) == page);
+        const bool turns = link.is_back() && link.page->name == page;
+        return turns || (link.is_question() && is_question_page(page) && !is_question_page(link.target));
     });
 }
 
@@ -176,8 +183,10 @@ bool is_plain(const PageFile& page)
 /// A page that is reached from another one that nobody reaches isn't told: one cause.
 void find_unreached(const ResourceFolder& folder, const Complain& complain)
 {
+    const std::vector<Link> links = all_links(folder);
     const bool all_known =
-        std::all_of(folder.pages.begin(), folder.pages.end(), [](const auto& page) { return is_plain(page.second); });
+        std::all_of(folder.pages.begin(), folder.pages.end(), [](const auto& page) { return is_plain(page.second); }) &&
+        std::all_of(links.begin(), links.end(), [&](const Link& link) { return folder.pages.count(link.target) > 0; });
     if (!all_known || folder.pages.count(OSD_PAGE_MAIN) == 0) {
         return; // another rule tells of what may lead to them
     }
@@ -186,7 +195,6 @@ void find_unreached(const ResourceFolder& folder, const Complain& complain)
     for (const char* first : first_pages) {
         walk.from(first, none);
     }
-    const std::vector<Link> links = all_links(folder);
     for (const bool linked : {false, true}) { // those in a circle come last
         for (const auto& [name, page] : folder.pages) {
             const bool has_way = std::any_of(links.begin(), links.end(), [target = name](const Link& link) {
@@ -224,6 +232,8 @@ void find_wrong_turns(const ResourceFolder& folder, const Complain& complain)
         if (link.page->root->find(osdAttrName(ATTR_CUR_PAGES_NUM)) == nullptr) {
             complain(link.attribute->place, link.attribute->name + " does nothing without CurPagesNum",
                      "CurPagesNum=\"...\"");
+        } else if (link.is_next() && link.target == link.page->name) {
+            complain(link.attribute->place, "the page turns to itself", "another page, or no NextPage");
         } else if (root != nullptr && root->value(other) != link.page->name &&
                    !(link.is_back() && is_told_forwards(links, link))) {
             complain(link.attribute->place,

@@ -16,8 +16,9 @@ using Complain = std::function<void(const Place& place, const std::string& what,
 
 /// How its findings are told.
 enum class Told {
-    Each, ///< one by one
-    Once, ///< those with the same words are one cause: at the first place, with the number of the others
+    Each,  ///< one by one
+    Once,  ///< those with the same words are one cause: at the first place, with the number of the others
+    Alone, ///< one by one, and what other rules find at the same place follows from it
 };
 
 struct Rule {

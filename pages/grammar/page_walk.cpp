@@ -1,8 +1,10 @@
 #include "pages/grammar/page_walk.h"
 
 #include <algorithm>
+#include <map>
 
 #include "menu/core/keyword.h"
+#include "menu/core/words.h"
 
 namespace pages {
 namespace {
@@ -30,6 +32,18 @@ const char* mark_of(On role)
     return osdAttrName(role == On::Page ? ATTR_LAYOUT : role == On::Item ? ATTR_ITEM_INDEX : ATTR_MODE_INDEX);
 }
 
+/// What an item says of itself, whatever the page's layout.
+Arrangement made_for(const Element& item)
+{
+    if (has_picture(context_of(item)) || item.find(osdAttrName(ATTR_PIC)) != nullptr) {
+        return Arrangement::Icons;
+    }
+    const std::string key = item.value(osdAttrName(ATTR_ITEM_INDEX));
+    const bool answers = key == OSD_KEY_NO || key == OSD_KEY_YES || item.find(osdAttrName(ATTR_ITEM_CNT)) != nullptr ||
+                         item.find(osdAttrName(ATTR_ITEM_INDEX_ON_LINE)) != nullptr;
+    return answers ? Arrangement::Question : Arrangement::List;
+}
+
 } // namespace
 
 On role_of(const Element& element)
@@ -44,13 +58,45 @@ std::optional<tagITEM_ATTR_E> kind_of(const Element& item) { return meaning_of(c
 
 std::optional<tagITEM_CTX_E> context_of(const Element& item) { return meaning_of(c_astCtxWord, item, ATTR_CTX); }
 
-std::optional<tagPAGE_LAYOUT_E> layout_of(const Element& element)
+const Element& page_of(const Element& element)
 {
     const Element* root = &element;
     while (root->parent != nullptr) {
         root = root->parent;
     }
-    return meaning_of(c_astLayoutWord, *root, ATTR_LAYOUT);
+    return *root;
+}
+
+std::optional<tagPAGE_LAYOUT_E> layout_of(const Element& element)
+{
+    const Element& page = page_of(element);
+    return contradiction_of(page) ? std::nullopt : meaning_of(c_astLayoutWord, page, ATTR_LAYOUT);
+}
+
+Arrangement arrangement_of(tagPAGE_LAYOUT_E layout)
+{
+    return layout == PAGE_LAYOUT_ICON ? Arrangement::Icons
+           : is_question(layout)      ? Arrangement::Question
+                                      : Arrangement::List;
+}
+
+std::optional<Arrangement> contradiction_of(const Element& page)
+{
+    const auto layout = meaning_of(c_astLayoutWord, page, ATTR_LAYOUT);
+    std::map<Arrangement, std::size_t> items; // made for each
+    for (const auto& item : page.children) {
+        const Arrangement made = made_for(*item);
+        if (!layout || made == arrangement_of(*layout)) {
+            return std::nullopt; // at the first that fits: the rules ask for each element
+        }
+        ++items[made];
+    }
+    for (const auto& [made, count] : items) {
+        if (count > 1 && 2 * count > page.children.size()) {
+            return made;
+        }
+    }
+    return std::nullopt;
 }
 
 bool is_question(const std::optional<tagPAGE_LAYOUT_E>& layout)

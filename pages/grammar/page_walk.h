@@ -21,8 +21,18 @@ const char* name_of(On role);
 /// The kind and the context of an item; none for a word that the menu doesn't know.
 std::optional<tagITEM_ATTR_E> kind_of(const Element& item);
 std::optional<tagITEM_CTX_E> context_of(const Element& item);
-/// The layout of the page on which an element stands.
+/// The page on which an element stands.
+const Element& page_of(const Element& element);
+/// The layout of the page on which an element stands; none for a word that the menu doesn't know, nor for a layout that
+/// contradicts the items: one rule tells of each, the others can't say more.
 std::optional<tagPAGE_LAYOUT_E> layout_of(const Element& element);
+
+/// How a layout arranges items, and what an item is made for.
+enum class Arrangement { Icons, List, Question };
+Arrangement arrangement_of(tagPAGE_LAYOUT_E layout);
+
+/// What most items of a page are made for, where its layout is another one and fits none of them.
+std::optional<Arrangement> contradiction_of(const Element& page);
 
 /// Whether there is a value, one of these.
 template <typename Value>
