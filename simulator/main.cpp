@@ -2,7 +2,7 @@
 #include <exception>
 #include <iostream>
 
-#include "simulator/core/data.h"
+#include "simulator/base/data.h"
 #include "simulator/front/options.h"
 #include "simulator/front/run.h"
 

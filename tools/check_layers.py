@@ -6,6 +6,8 @@ import sys
 from pathlib import Path
 
 ROOT = Path(sys.argv[1] if len(sys.argv) > 1 else Path(__file__).parent.parent).resolve()
+SIMULATOR = ["simulator/base", "simulator/settings", "simulator/video", "simulator/camera", "simulator/host", "simulator/web",
+             "simulator/front", "simulator"]  # each sees all before it
 LIBRARY = ["include", "platform", "comm", "menu/core", "menu/nav", "menu/render", "prompt"]
 SEES = {  # folder: what it includes beside itself
     "include": [],
@@ -26,12 +28,21 @@ SEES = {  # folder: what it includes beside itself
     "pages/texts": LIBRARY + ["pages/data", "pages/grammar", "pages/measure"],
     "pages": ["pages/data", "pages/menu", "pages/grammar", "pages/measure", "pages/check", "pages/preview", "pages/map",
               "pages/schema", "pages/texts"],
-    "simulator": ["include", "platform", "pages/data", "pages/check", "pages/preview", "pages"],
+    "simulator/base": ["pages/data"],
+    "simulator/settings": ["pages/data"],
+    "simulator/video": ["include", "pages/data"],
+    "simulator/camera": ["include", "platform", "pages/data"],
+    "simulator/host": ["include", "pages/data", "pages/check"],
+    "simulator/web": ["pages/data"],
+    "simulator/front": ["pages/data", "pages/preview", "pages"],
+    "simulator": [],
     "tools": ["pages/data"],
     "tests": ["include", "platform", "pages/data", "pages/menu", "pages/grammar", "pages/measure", "pages/check",
-              "pages/preview", "pages/map", "pages/schema", "pages/texts", "pages", "simulator"],
+              "pages/preview", "pages/map", "pages/schema", "pages/texts", "pages"] + SIMULATOR,
     "bench": ["include", "platform", "pages/data", "pages/check"],
 }
+for place, layer in enumerate(SIMULATOR):
+    SEES[layer] += SIMULATOR[:place]
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.M)
 
 

@@ -6,9 +6,9 @@
 #include <map>
 #include <sstream>
 
-#include "simulator/core/data.h"
-#include "simulator/core/page_files.h"
-#include "simulator/core/resources.h"
+#include "simulator/base/data.h"
+#include "simulator/base/page_files.h"
+#include "simulator/base/resources.h"
 #include "simulator/video/snapshot.h"
 
 namespace sim {

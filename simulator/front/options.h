@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "simulator/core/faults.h"
+#include "simulator/camera/faults.h"
 #include "simulator/host/key_script.h"
 #include "simulator/web/access.h"
 

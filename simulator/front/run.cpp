@@ -4,12 +4,13 @@
 
 #include "pages/command/commands.h"
 #include "pages/preview/sheet.h"
-#include "simulator/core/data.h"
-#include "simulator/core/resources.h"
-#include "simulator/core/settings_json.h"
+#include "simulator/base/data.h"
+#include "simulator/base/resources.h"
 #include "simulator/front/scenario.h"
 #include "simulator/front/serve.h"
 #include "simulator/front/window.h"
+#include "simulator/host/checker.h"
+#include "simulator/settings/settings_json.h"
 #include "simulator/video/snapshot.h"
 
 namespace sim {
@@ -19,7 +20,7 @@ const char* const default_prompt = "Camera-01";
 
 void write_snapshot(Camera& camera, int channel, const std::filesystem::path& path)
 {
-    save_png(camera.look_at(channel), path);
+    save_png(camera.video.look_at(channel), path);
     std::cout << "wrote " << path.string() << std::endl;
 }
 
@@ -42,11 +43,11 @@ void run_asked(MenuHost& host, const Options& options)
 void transfer_settings(Camera& camera, const Options& options)
 {
     if (options.import_file) {
-        const std::size_t count = import_settings_file(camera.settings(), *options.import_file);
+        const std::size_t count = import_settings_file(camera.settings, *options.import_file);
         std::cout << "took over " << count << " settings from " << options.import_file->string() << std::endl;
     }
     if (options.export_file) {
-        export_settings_file(camera.settings(), *options.export_file);
+        export_settings_file(camera.settings, *options.export_file);
         std::cout << "wrote " << options.export_file->string() << std::endl;
     }
 }
@@ -85,8 +86,8 @@ void run_camera(const Options& options, Pictures& pictures)
     if (options.record) {
         recorder.emplace(*options.record);
     }
-    Camera camera({options.resources, options.data, options.reset, options.uhd, options.still, options.language, {}});
-    camera.faults().set(options.faults);
+    Camera camera({options.resources, options.data, options.reset, {options.uhd, options.still}, options.language, {}});
+    camera.faults.set(options.faults);
     if (recorder) {
         recorder->follow(camera);
     }

@@ -8,7 +8,7 @@
 #include <sstream>
 #include <vector>
 
-#include "simulator/core/data.h"
+#include "simulator/base/data.h"
 #include "simulator/host/key_script.h"
 #include "simulator/video/snapshot.h"
 
@@ -70,8 +70,8 @@ ScenarioOptions read_options(const std::filesystem::path& path)
 void set_up(Camera& camera, const std::map<std::string, std::string>& settings)
 {
     for (const auto& [key, value] : settings) {
-        const Setting* setting = camera.settings().find_key(key);
-        camera.change(setting == nullptr ? SettingId{"", key} : setting->id, value);
+        const Setting* setting = camera.settings.find_key(key);
+        camera.settings.set(setting == nullptr ? SettingId{"", key} : setting->id, value);
     }
 }
 
@@ -84,9 +84,9 @@ Outcome play(const std::filesystem::path& folder)
     Camera camera({OSD_RESOURCE_DIR, data.path(), false, false, true, options.language, folder / "pages"});
     set_up(camera, options.settings);
     MenuHost host(camera, {2, options.style, false, options.page, "Prompt"});
-    camera.events().listen([&outcome](const Event& event) { outcome.calls.push_back(to_line(event)); });
+    camera.events.listen([&outcome](const Event& event) { outcome.calls.push_back(to_line(event)); });
     KeyPlayer(keys, host).press_all_now();
-    outcome.frame = camera.look_at(0);
+    outcome.frame = camera.video.look_at(0);
     return outcome;
 }
 

@@ -14,7 +14,7 @@ public:
 
 /// Plays a folder on a camera with fresh data and a still scene, and compares. The folder holds
 ///   keys.txt      a keys file; its times don't count, each key follows at once
-///   calls.txt     what must happen, one event a line (simulator/core/events.h), "#" begins a comment line
+///   calls.txt     what must happen, one event a line (simulator/camera/events.h), "#" begins a comment line
 ///   frame.png     what the main channel must show at the end, to the pixel
 ///   options.json  if needed: {"language": "German", "style": 1, "page": "image", "settings": {"Zoom": "150"}}
 ///   pages/        if needed: page files that go before the camera's own

@@ -5,11 +5,11 @@
 #include <optional>
 #include <utility>
 
-#include "simulator/core/data.h"
-#include "simulator/core/folder_watch.h"
-#include "simulator/core/log.h"
-#include "simulator/core/output_capture.h"
-#include "simulator/core/resources.h"
+#include "simulator/base/data.h"
+#include "simulator/base/folder_watch.h"
+#include "simulator/base/log.h"
+#include "simulator/base/output_capture.h"
+#include "simulator/base/resources.h"
 #include "simulator/front/browser.h"
 #include "simulator/front/stop_signals.h"
 #include "simulator/host/checker.h"
@@ -32,10 +32,8 @@ public:
               hub.publish_log({{"time", entry.time}, {"level", entry.level}, {"tag", entry.tag}, {"text", entry.text}});
           })
     {
-        camera.events().listen([this](const Event& event) {
-            hub_.publish(event.kind.c_str(), {{"what", event.what}});
-        });
-        camera.settings().listen([this](const SettingId& id, const std::string& value) {
+        camera.events.listen([this](const Event& event) { hub_.publish(event.kind.c_str(), {{"what", event.what}}); });
+        camera.settings.listen([this](const SettingId& id, const std::string& value) {
             hub_.publish("setting", {{"name", name_of(id)}, {"value", value}});
         });
     }
@@ -104,7 +102,7 @@ private:
 std::unique_ptr<FolderWatch> watch_resources(const Camera& camera, const std::function<void()>& on_change)
 {
     try {
-        return std::make_unique<FolderWatch>(resource_folders(camera.resources()), on_change);
+        return std::make_unique<FolderWatch>(resource_folders(camera.resources), on_change);
     } catch (const std::runtime_error& error) {
         log_line(LogLevel::Error, "resources", std::string(error.what()) + "; changed files aren't noticed");
         return nullptr;
@@ -133,7 +131,7 @@ void serve_camera(Camera& camera, Pictures& pictures, const MenuConfig& menu, co
     MenuSession session(camera, menu);
     LiveReload reload(camera, pictures);
     WaitingVerdict waiting;
-    Checker checker(camera.resources(), [&](Verdict verdict) { // has graphics libraries: the session has started them
+    Checker checker(camera.resources, [&](Verdict verdict) { // has graphics libraries: the session has started them
         if (waiting.put(std::move(verdict))) {
             loop.post([&] { reload.take(waiting.take()); });
         }

@@ -1,7 +1,7 @@
 // The camera as a web page and an HTTP interface.
 #pragma once
 
-#include "simulator/core/camera.h"
+#include "simulator/camera/camera.h"
 #include "simulator/front/options.h"
 #include "simulator/host/menu_host.h"
 #include "simulator/host/pictures.h"

@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-#include "simulator/core/data.h"
+#include "simulator/base/data.h"
 #include "simulator/host/keys.h"
 
 namespace sim {
@@ -110,7 +110,7 @@ bool show_window(MenuHost& host, KeyPlayer& keys, int channel)
         return false;
     }
     Camera& camera = host.camera();
-    const Screen screen(camera.channels().size(channel));
+    const Screen screen(camera.video.channels.size(channel));
     if (screen.texture == nullptr) {
         return false;
     }
@@ -118,7 +118,7 @@ bool show_window(MenuHost& host, KeyPlayer& keys, int channel)
         host.overlays().hide_what_is_over();
         with_mistakes_told([&] { keys.press_due(); });
         const Uint32 began = SDL_GetTicks();
-        screen.show(camera.look_at(channel));
+        screen.show(camera.video.look_at(channel));
         const Uint32 used = SDL_GetTicks() - began;
         SDL_Delay(used < frame_ms ? frame_ms - used : 1);
     }

@@ -4,8 +4,8 @@
 #include <iterator>
 
 #include "osd_menu.h"
-#include "simulator/core/camera.h"
-#include "simulator/core/log.h"
+#include "simulator/base/log.h"
+#include "simulator/camera/camera.h"
 
 namespace sim {
 namespace {
@@ -18,7 +18,7 @@ bool in_zone(const Camera& camera, const char* zone, const SettingId& id)
 
 void restore_zone(Camera& camera, const char* zone)
 {
-    camera.settings().restore_defaults([&](const SettingId& id) { return in_zone(camera, zone, id); });
+    camera.settings.restore_defaults([&](const SettingId& id) { return in_zone(camera, zone, id); });
 }
 
 // The menu reads the page again by itself behind these three.
@@ -29,7 +29,7 @@ void restore_white_balance(Camera& camera) { restore_zone(camera, "WhiteBalance"
 /// Whoever stands before the camera must still be able to read the menu, and whoever doesn't, to reach the camera.
 void restore_factory_settings(Camera& camera)
 {
-    camera.settings().restore_defaults([&](const SettingId& id) {
+    camera.settings.restore_defaults([&](const SettingId& id) {
         return to_string(id) != to_string(language_setting) && !in_zone(camera, "Network", id);
     });
     OSD_MENU_RefreshPage(); // the page below the question; the menu draws it behind this call
@@ -39,15 +39,15 @@ void restore_factory_settings(Camera& camera)
 void correct_lens(Camera& camera)
 {
     char zoom_key[] = "Zoom";
-    if (const Setting* zoom = camera.settings().find_key(zoom_key)) {
-        camera.change(zoom->id, text_of(*zoom, zoom->min));
+    if (const Setting* zoom = camera.settings.find_key(zoom_key)) {
+        camera.settings.set(zoom->id, text_of(*zoom, zoom->min));
         OSD_MENU_RefreshItem(zoom_key);
     }
 }
 
 void go_back(Camera& /*camera*/) { OSD_MENU_ReturnMenu(); }
 
-void restart(Camera& camera) { camera.ask_for_restart(); }
+void restart(Camera& camera) { camera.video.ask_for_restart(); }
 
 struct Action {
     const char* key;

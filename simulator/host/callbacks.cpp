@@ -5,9 +5,9 @@
 #include <optional>
 #include <string>
 
-#include "simulator/core/camera.h"
-#include "simulator/core/guard.h"
-#include "simulator/core/log.h"
+#include "simulator/base/guard.h"
+#include "simulator/base/log.h"
+#include "simulator/camera/camera.h"
 #include "simulator/host/actions.h"
 
 namespace sim {
@@ -55,7 +55,7 @@ SettingId setting_of(const tagITEM_NODE_S& item, const std::string& key)
 
 void store(Camera& camera, const SettingId& id, const std::string& text)
 {
-    camera.change(id, text);
+    camera.settings.set(id, text);
     log_line(LogLevel::Info, "business", to_string(id) + " is now " + text);
 }
 
@@ -65,11 +65,11 @@ bool store_color_part(Camera& camera, const tagITEM_NODE_S& item)
     for (const ColorPart& part : color_parts) {
         if (std::string(item.acItemIndex) == part.item) {
             const SettingId id = setting_of(item, custom_color);
-            const Setting* setting = camera.settings().find(id);
+            const Setting* setting = camera.settings.find(id);
             if (setting == nullptr) {
                 return false;
             }
-            const auto old = static_cast<unsigned>(camera.settings().number(id));
+            const auto old = static_cast<unsigned>(camera.settings.number(id));
             const unsigned byte = static_cast<unsigned>(item.s32Cur) & 0xFFU;
             const unsigned color = (old & ~(0xFFU << part.shift)) | byte << part.shift;
             store(camera, id, text_of(*setting, static_cast<std::int32_t>(color)));
@@ -89,8 +89,8 @@ void store_value(Camera& camera, const tagITEM_NODE_S& item)
 std::string answer_text(Camera& camera, const std::string& name)
 {
     if (name == custom_color) {
-        const Setting* color = camera.settings().find_key(name);
-        return color == nullptr ? "" : camera.settings().value(color->id);
+        const Setting* color = camera.settings.find_key(name);
+        return color == nullptr ? "" : camera.settings.value(color->id);
     }
     return camera.definitions().facts.at(name);
 }
@@ -107,7 +107,7 @@ int apply_item(tagITEM_NODE_S* item)
     return guarded("business", -1, [&] {
         const std::string key = item->acItemIndex;
         const bool value = carries_value(*item);
-        camera->events().tell({"business", value ? key + "=" + value_of(*item) : key});
+        camera->events.tell({"business", value ? key + "=" + value_of(*item) : key});
         if (value) {
             store_value(*camera, *item);
         } else if (!run_action(*camera, key)) {

@@ -6,10 +6,10 @@
 #include <utility>
 
 #include "pages/check/check.h"
-#include "simulator/core/data.h"
-#include "simulator/core/faults.h"
-#include "simulator/core/guard.h"
-#include "simulator/core/resources.h"
+#include "simulator/base/data.h"
+#include "simulator/base/guard.h"
+#include "simulator/base/resources.h"
+#include "simulator/camera/faults.h"
 
 namespace sim {
 namespace {
@@ -88,6 +88,23 @@ Verdict judge(const fs::path& resources)
     } catch (const BadInput& mistake) { // the folder has gone
         return {nullptr, {{Place{"pages"}, pages::Severity::Error, "unusable", mistake.what(), ""}}, {}};
     }
+}
+
+void require_usable(const fs::path& resources)
+{
+    const pages::ResourceFolder folder = pages::read_resource_folder(resources);
+    const auto is_of_settings = [](const BadInput& mistake) { return mistake.place().file == "settings.json"; };
+    const auto has_texts = [&folder](const auto& language) { return folder.languages.count(language.second) > 0; };
+    const auto& languages = folder.definitions.languages;
+    if (std::none_of(folder.mistakes.begin(), folder.mistakes.end(), is_of_settings) &&
+        std::all_of(languages.begin(), languages.end(), has_texts)) {
+        return;
+    }
+    std::string words = "resources " + resources.string() + " can't be used:";
+    for (const pages::Finding& finding : pages::check(folder, {false, {}}).findings) {
+        words += "\n" + pages::line_of(finding, resources.string());
+    }
+    throw BadInput(words);
 }
 
 Checker::Checker(fs::path resources, std::function<void(Verdict)> tell)

@@ -14,7 +14,7 @@
 #include <vector>
 
 #include "pages/data/resource_folder.h"
-#include "simulator/core/problems.h"
+#include "simulator/base/problems.h"
 
 namespace sim {
 
@@ -42,6 +42,10 @@ struct Verdict {
 /// Looks at the resources and checks all but what must be drawn for it. Any thread, one at a time: others wait. The
 /// menu's graphics libraries must have been started.
 Verdict judge(const std::filesystem::path& resources);
+
+/// Throws BadInput, which tells all that is wrong with them, when the camera can't start with these resources: their
+/// settings definitions have a mistake, or a language has no texts.
+void require_usable(const std::filesystem::path& resources);
 
 /// Checks resources on a thread of its own: what can be said at once is told first, then what shows when the changed
 /// pages are drawn, and all pages in a changed language; when nothing has changed for a second, all is drawn.

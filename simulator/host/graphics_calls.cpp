@@ -10,7 +10,7 @@
 #include <mutex>
 #include <unistd.h>
 
-#include "simulator/core/resources.h"
+#include "simulator/base/resources.h"
 
 namespace sim {
 namespace {

@@ -6,7 +6,7 @@
 #include <string>
 #include <utility>
 
-#include "simulator/core/faults.h"
+#include "simulator/camera/faults.h"
 
 namespace sim {
 

@@ -9,7 +9,7 @@
 #include <stdexcept>
 #include <thread>
 
-#include "simulator/core/data.h"
+#include "simulator/base/data.h"
 
 namespace sim {
 namespace {
@@ -84,7 +84,7 @@ std::vector<TimedKey> read_keys_file(const std::filesystem::path& path)
 
 void KeyPlayer::press_due()
 {
-    while (!done() && keys_[next_].at <= host_.camera().seconds()) {
+    while (!done() && keys_[next_].at <= host_.camera().uptime.seconds()) {
         press_next();
     }
 }
@@ -92,7 +92,7 @@ void KeyPlayer::press_due()
 void KeyPlayer::press_all()
 {
     while (!done()) {
-        const std::chrono::duration<double> wait(keys_[next_].at - host_.camera().seconds());
+        const std::chrono::duration<double> wait(keys_[next_].at - host_.camera().uptime.seconds());
         std::this_thread::sleep_for(wait); // at once when the time is over
         press_next();
     }
@@ -119,9 +119,9 @@ KeyRecorder::KeyRecorder(const std::filesystem::path& path) : path_(path)
 
 void KeyRecorder::follow(Camera& camera)
 {
-    camera.events().listen([this, &camera](const Event& event) {
+    camera.events.listen([this, &camera](const Event& event) {
         if (event.kind == "key") {
-            write(camera.seconds(), event.what);
+            write(camera.uptime.seconds(), event.what);
         }
     });
 }

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "osd_menu.h"
-#include "simulator/core/data.h"
+#include "simulator/base/data.h"
 
 namespace sim {
 namespace {
@@ -23,13 +23,13 @@ void step_zoom(MenuHost& host, int direction)
 {
     char zoom_key[] = "Zoom";
     Camera& camera = host.camera();
-    const Setting* zoom = camera.settings().find_key(zoom_key);
+    const Setting* zoom = camera.settings.find_key(zoom_key);
     if (zoom == nullptr) {
         throw BadInput("the settings definitions have no 'Zoom'");
     }
-    const int wanted = camera.settings().number(zoom->id) + direction * zoom->step;
+    const int wanted = camera.settings.number(zoom->id) + direction * zoom->step;
     const int percent = std::clamp(wanted, zoom->min, zoom->max);
-    camera.change(zoom->id, text_of(*zoom, percent));
+    camera.settings.set(zoom->id, text_of(*zoom, percent));
     OSD_MENU_RefreshItem(zoom_key);
     host.overlays().show_zoom(percent / 100.0);
 }
@@ -105,7 +105,7 @@ const Key* find_keyboard_key(SDL_Keycode code, bool menu_is_open)
 
 void press(const Key& key, MenuHost& host)
 {
-    host.camera().events().tell({"key", key.name});
+    host.camera().events.tell({"key", key.name});
     host.overlays().hide_what_is_over();
     key.function(host);
 }

@@ -3,15 +3,15 @@
 #include <algorithm>
 
 #include "osd_menu.h"
-#include "simulator/core/data.h"
-#include "simulator/core/log.h"
-#include "simulator/core/resources.h"
+#include "simulator/base/data.h"
+#include "simulator/base/log.h"
+#include "simulator/base/resources.h"
 #include "simulator/host/page_stack.h"
 
 namespace sim {
 
 LiveReload::LiveReload(Camera& camera, Pictures& pictures)
-    : camera_(camera), pictures_(pictures), files_(read_files(camera.resources()))
+    : camera_(camera), pictures_(pictures), files_(read_files(camera.resources))
 {
     pictures_.take_outdated();
 }
@@ -51,11 +51,11 @@ bool LiveReload::take_texts(const Verdict& verdict)
     bool spoken = false;
     for (const auto& [language, texts] : verdict.resources->folder.languages) {
         pages::Texts all = texts;
-        const auto present = camera_.texts().find(language);
-        if (!verdict.refused.empty() && present != camera_.texts().end()) {
-            all.insert(present->second.begin(), present->second.end());
+        if (!verdict.refused.empty() && camera_.texts.has(language)) {
+            const pages::Texts& present = camera_.texts.of(language);
+            all.insert(present.begin(), present.end());
         }
-        const bool other = camera_.replace_texts(language, std::move(all));
+        const bool other = camera_.texts.replace(language, std::move(all));
         spoken = spoken || (other && language == camera_.language());
     }
     return spoken;
@@ -65,7 +65,7 @@ bool LiveReload::take_texts(const Verdict& verdict)
 bool LiveReload::take_definitions(const pages::ResourceFolder& folder)
 {
     const auto is_in_them = [](const BadInput& mistake) { return mistake.place().file == "settings.json"; };
-    const auto has_texts = [this](const auto& language) { return camera_.texts().count(language.second) > 0; };
+    const auto has_texts = [this](const auto& language) { return camera_.texts.has(language.second); };
     const auto& languages = folder.definitions.languages;
     if (!definitions_wait_ || std::any_of(folder.mistakes.begin(), folder.mistakes.end(), is_in_them) ||
         !std::all_of(languages.begin(), languages.end(), has_texts)) {
@@ -84,8 +84,8 @@ bool LiveReload::take_pages(const Verdict& verdict, const Names& changed)
         if (page.root == nullptr || verdict.refused.count(name) > 0) {
             continue;
         }
-        const bool was_kept = camera_.kept_pages().count(name) > 0; // else it has been read from its file
-        const bool other = camera_.keep_page(name, page.text) && (was_kept || changed.count(page.file) > 0);
+        const bool was_kept = camera_.pages.is_kept(name); // else it has been read from its file
+        const bool other = camera_.pages.keep(name, page.text) && (was_kept || changed.count(page.file) > 0);
         shown = shown || (other && std::count(open.begin(), open.end(), name) > 0);
     }
     return shown;
@@ -93,7 +93,7 @@ bool LiveReload::take_pages(const Verdict& verdict, const Names& changed)
 
 bool LiveReload::take_pictures(const Names& changed)
 {
-    const std::filesystem::path root = plain_path(camera_.resources());
+    const std::filesystem::path root = plain_path(camera_.resources);
     bool other = false;
     for (const std::string& file : changed) {
         other = pictures_.take(root / file) || other;

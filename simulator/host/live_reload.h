@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "simulator/core/camera.h"
-#include "simulator/core/problems.h"
+#include "simulator/base/problems.h"
+#include "simulator/camera/camera.h"
 #include "simulator/host/checker.h"
 #include "simulator/host/pictures.h"
 

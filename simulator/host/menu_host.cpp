@@ -4,8 +4,8 @@
 #include <utility>
 
 #include "osd_page.h"
-#include "simulator/core/data.h"
-#include "simulator/core/log.h"
+#include "simulator/base/data.h"
+#include "simulator/base/log.h"
 #include "simulator/host/callbacks.h"
 #include "simulator/host/page_stack.h"
 
@@ -36,7 +36,7 @@ MenuHost::MenuHost(Camera& camera, MenuConfig config) : camera_(camera), config_
         throw std::runtime_error("the menu doesn't start, see the log above");
     }
     Osd_GetVersionCallback(answer_event, &camera_);
-    memory_at_start_ = camera_.memory().in_use();
+    memory_at_start_ = camera_.memory.in_use();
 }
 
 MenuHost::~MenuHost()
@@ -46,7 +46,7 @@ MenuHost::~MenuHost()
     }
     overlays_.hide_all();
     Osd_GetVersionCallback(nullptr, nullptr);
-    for (const auto& [name, use] : camera_.memory().in_use()) {
+    for (const auto& [name, use] : camera_.memory.in_use()) {
         const std::size_t expected = memory_at_start_[name].blocks;
         if (use.blocks > expected) {
             log_line(LogLevel::Warning, "media",
@@ -62,7 +62,7 @@ void MenuHost::call(int (*key_function)())
     if (key_function() != 0) {
         log_line(LogLevel::Warning, "menu", "the key has no effect");
     }
-    if (camera_.restart_if_asked()) {
+    if (camera_.video.restart_if_asked()) {
         OSD_MENU_CloseMenu();
     }
 }

@@ -6,7 +6,7 @@
 #include <map>
 #include <string>
 
-#include "simulator/core/camera.h"
+#include "simulator/camera/camera.h"
 #include "simulator/host/graphics_calls.h"
 #include "simulator/host/overlays.h"
 
@@ -52,7 +52,7 @@ private:
     Camera& camera_;
     MenuConfig config_;
     Overlays overlays_{camera_};
-    GraphicsFaults graphics_faults_{camera_.faults()}; ///< from before the menu's start
+    GraphicsFaults graphics_faults_{camera_.faults}; ///< from before the menu's start
     std::map<std::string, MemoryUse> memory_at_start_;
 };
 

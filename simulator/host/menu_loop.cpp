@@ -4,7 +4,7 @@
 #include <future>
 #include <memory>
 
-#include "simulator/core/guard.h"
+#include "simulator/base/guard.h"
 
 namespace sim {
 namespace {

@@ -3,10 +3,10 @@
 #include <algorithm>
 
 #include "osd_menu.h"
-#include "simulator/core/data.h"
-#include "simulator/core/log.h"
-#include "simulator/core/settings_json.h"
+#include "simulator/base/data.h"
+#include "simulator/base/log.h"
 #include "simulator/host/page_stack.h"
+#include "simulator/settings/settings_json.h"
 
 namespace sim {
 
@@ -25,7 +25,7 @@ void MenuSession::start()
     hold_.end();
     host_.reset(); // the library has one menu
     try {
-        camera_.resize(config_.uhd);
+        camera_.video.resize(config_.uhd);
         host_.emplace(camera_, config_);
     } catch (const std::exception& error) {
         log_line(LogLevel::Error, "menu", error.what());
@@ -47,7 +47,7 @@ void MenuSession::show_page(const std::string& name)
 void MenuSession::change(const SettingId& id, const std::string& text)
 {
     const std::string language = camera_.language();
-    camera_.change(id, text);
+    camera_.settings.set(id, text);
     if (!host_) {
         return;
     }
@@ -61,7 +61,7 @@ void MenuSession::change(const SettingId& id, const std::string& text)
 
 std::size_t MenuSession::import(const nlohmann::json& values)
 {
-    const std::size_t count = import_settings(camera_.settings(), values);
+    const std::size_t count = import_settings(camera_.settings, values);
     if (host_) {
         reopen_pages();
     }

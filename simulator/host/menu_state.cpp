@@ -4,7 +4,7 @@
 #include <array>
 
 #include "osd_menu.h"
-#include "simulator/core/camera.h"
+#include "simulator/camera/camera.h"
 #include "simulator/host/page_stack.h"
 
 namespace sim {
@@ -33,12 +33,12 @@ bool shows_value(const tagITEM_NODE_S& item)
 /// A value that the menu reads anew at each draw: the setting's own.
 std::string live_value(Camera& camera, const tagITEM_NODE_S& item)
 {
-    const Setting* setting = camera.settings().find_key(text_of_field(item.acItemIndex));
+    const Setting* setting = camera.settings.find_key(text_of_field(item.acItemIndex));
     if (setting == nullptr) {
         return "";
     }
-    const std::string value = camera.settings().value(setting->id);
-    const std::string* text = camera.find_text(camera.language(), value);
+    const std::string value = camera.settings.value(setting->id);
+    const std::string* text = camera.texts.find(camera.language(), value);
     return text == nullptr ? value : *text;
 }
 

@@ -4,8 +4,8 @@
 #include <filesystem>
 #include <fstream>
 
-#include "simulator/core/data.h"
-#include "simulator/core/log.h"
+#include "simulator/base/data.h"
+#include "simulator/base/log.h"
 
 namespace sim {
 namespace {
@@ -34,7 +34,7 @@ void report(int result, const char* what)
 void Overlays::show_zoom(double ratio)
 {
     report(OSD_PROMPT_ShowZoomRatio(static_cast<float>(ratio)), "the zoom ratio");
-    zoom_ends_ = camera_.seconds() + zoom_seconds;
+    zoom_ends_ = camera_.uptime.seconds() + zoom_seconds;
 }
 
 void Overlays::show_prompt(const std::string& text)
@@ -44,7 +44,7 @@ void Overlays::show_prompt(const std::string& text)
     }
     std::string copy = text;
     report(OSD_PROMPT_Create(prompt_look, copy.data()), "the prompt");
-    prompt_ends_ = camera_.seconds() + prompt_seconds;
+    prompt_ends_ = camera_.uptime.seconds() + prompt_seconds;
 }
 
 void Overlays::toggle_recording_mark()
@@ -59,10 +59,10 @@ void Overlays::toggle_recording_mark()
 
 void Overlays::hide_what_is_over()
 {
-    if (OSD_PROMPT_IsZoomRatioActive() != 0 && camera_.seconds() >= zoom_ends_) {
+    if (OSD_PROMPT_IsZoomRatioActive() != 0 && camera_.uptime.seconds() >= zoom_ends_) {
         OSD_PROMPT_HideZoomRatio();
     }
-    if (gsOsdPromptItem.pstSurface != nullptr && camera_.seconds() >= prompt_ends_) {
+    if (gsOsdPromptItem.pstSurface != nullptr && camera_.uptime.seconds() >= prompt_ends_) {
         OSD_PROMPT_Destroy();
     }
 }
@@ -76,7 +76,7 @@ std::optional<double> Overlays::seconds_left() const
     if (gsOsdPromptItem.pstSurface != nullptr) {
         end = std::min(end.value_or(prompt_ends_), prompt_ends_);
     }
-    return end ? std::optional(std::max(0.0, *end - camera_.seconds())) : std::nullopt;
+    return end ? std::optional(std::max(0.0, *end - camera_.uptime.seconds())) : std::nullopt;
 }
 
 void Overlays::hide_all()

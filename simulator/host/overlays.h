@@ -6,7 +6,7 @@
 #include <string>
 
 #include "osd_prompt.h"
-#include "simulator/core/camera.h"
+#include "simulator/camera/camera.h"
 
 namespace sim {
 

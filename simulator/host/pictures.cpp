@@ -4,9 +4,9 @@
 #include <system_error>
 
 #include "pages/data/picture_file.h"
-#include "simulator/core/data.h"
-#include "simulator/core/guard.h"
-#include "simulator/core/resources.h"
+#include "simulator/base/data.h"
+#include "simulator/base/guard.h"
+#include "simulator/base/resources.h"
 
 namespace sim {
 namespace {

@@ -11,7 +11,7 @@
 
 #include <jpeglib.h>
 
-#include "simulator/core/surface.h"
+#include "simulator/base/surface.h"
 
 namespace sim {
 namespace {

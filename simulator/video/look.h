@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "simulator/core/settings.h"
+#include "simulator/settings/settings.h"
 #include "simulator/video/arrange.h"
 #include "simulator/video/tones.h"
 

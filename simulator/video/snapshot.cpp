@@ -10,8 +10,8 @@
 #include <string>
 #include <unistd.h>
 
-#include "simulator/core/data.h"
-#include "simulator/core/surface.h"
+#include "simulator/base/data.h"
+#include "simulator/base/surface.h"
 #include "simulator/video/encode.h"
 
 namespace sim {

@@ -6,7 +6,7 @@
 #include <charconv>
 #include <cstring>
 
-#include "simulator/core/data.h"
+#include "simulator/base/data.h"
 #include "simulator/web/http.h"
 
 namespace sim {

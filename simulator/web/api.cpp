@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <utility>
 
-#include "simulator/core/data.h"
-#include "simulator/core/log.h"
-#include "simulator/core/page_files.h"
-#include "simulator/core/settings_json.h"
+#include "simulator/base/data.h"
+#include "simulator/base/log.h"
+#include "simulator/base/page_files.h"
 #include "simulator/host/keys.h"
+#include "simulator/settings/settings_json.h"
 #include "simulator/video/encode.h"
 #include "simulator/web/static_files.h"
 
@@ -152,7 +152,7 @@ void Api::get_stream(const Call& call)
         throw HttpError(400, "the name of a viewer has at most " + std::to_string(longest_viewer_name) + " bytes");
     }
     const auto place = take_viewer_place();
-    parts_.loop.call([&] { parts_.camera.attach(stream.channel()); });
+    parts_.loop.call([&] { parts_.camera.video.attach(stream.channel()); });
     const auto viewer = std::make_shared<ChannelStream::Viewer>(stream, name);
     call.response.set_header("Cache-Control", "no-store");
     // The boundary stands right behind each picture: a browser shows a picture when it has seen the next boundary.
@@ -174,8 +174,8 @@ void Api::get_stream(const Call& call)
 Image Api::picture(const std::string& channel)
 {
     const int number = stream_of(channel).channel();
-    parts_.loop.call([&] { parts_.camera.attach(number); });
-    return parts_.camera.draw(number);
+    parts_.loop.call([&] { parts_.camera.video.attach(number); });
+    return parts_.camera.video.draw(number);
 }
 
 /// A client has half a minute to read it.
@@ -208,8 +208,8 @@ void Api::get_png(const Call& call)
 void Api::get_overlay(const Call& call)
 {
     answer_picture(call, "image/png", [&] {
-        const auto canvas = parts_.camera.channels().lowest_canvas(0);
-        return encode_png(canvas ? *canvas : Image(parts_.camera.channels().size(0)), true);
+        const auto canvas = parts_.camera.video.channels.lowest_canvas(0);
+        return encode_png(canvas ? *canvas : Image(parts_.camera.video.channels.size(0)), true);
     });
 }
 
@@ -270,7 +270,7 @@ void Api::get_channels(const Call& call)
 
 void Api::get_settings(const Call& call)
 {
-    answer_json(call.response, parts_.loop.call([&] { return settings_list(parts_.camera.settings()); }));
+    answer_json(call.response, parts_.loop.call([&] { return settings_list(parts_.camera.settings); }));
 }
 
 void Api::put_setting(const Call& call)
@@ -279,9 +279,9 @@ void Api::put_setting(const Call& call)
     refuse_other_fields(body, {"value"});
     const std::string text = value_text(body.value("value", json()), "'value'");
     const auto change = [&] {
-        const SettingId id = parts_.camera.settings().by_name(call.arguments[0]).id;
+        const SettingId id = parts_.camera.settings.by_name(call.arguments[0]).id;
         parts_.session.change(id, text);
-        return setting_object(parts_.camera.settings(), *parts_.camera.settings().find(id));
+        return setting_object(parts_.camera.settings, *parts_.camera.settings.find(id));
     };
     answer_json(call.response, parts_.loop.call(change));
 }
@@ -289,7 +289,7 @@ void Api::put_setting(const Call& call)
 void Api::get_export(const Call& call)
 {
     call.response.set_header("Content-Disposition", "attachment; filename=\"settings.json\"");
-    answer_json(call.response, parts_.loop.call([&] { return export_settings(parts_.camera.settings()); }));
+    answer_json(call.response, parts_.loop.call([&] { return export_settings(parts_.camera.settings); }));
 }
 
 void Api::put_import(const Call& call)
@@ -328,7 +328,7 @@ void Api::post_menu(const Call& call)
         body.contains("page") ? std::optional(text_field(body, "page")) : std::nullopt;
     const MenuConfig config = parts_.loop.call([&] {
         if (page) {
-            require_page(*page, parts_.camera.resources());
+            require_page(*page, parts_.camera.resources);
         }
         MenuConfig wanted = parts_.session.config();
         wanted.style = body.contains("style") ? style.get<std::uint32_t>() : wanted.style;
@@ -345,7 +345,7 @@ void Api::post_menu(const Call& call)
     answer_json(call.response, {{"style", config.style}, {"size", config.uhd ? "4k" : "1080p"}});
 }
 
-void Api::get_faults(const Call& call) { answer_json(call.response, faults_json(parts_.camera.faults())); }
+void Api::get_faults(const Call& call) { answer_json(call.response, faults_json(parts_.camera.faults)); }
 
 void Api::put_faults(const Call& call)
 {
@@ -357,8 +357,8 @@ void Api::put_faults(const Call& call)
         throw HttpError(400, "expected a list of names in 'on', GET /faults tells them");
     }
     parts_.loop.call([&] {
-        parts_.camera.faults().set(parse_faults(names));
-        parts_.hub.publish("faults", faults_json(parts_.camera.faults()));
+        parts_.camera.faults.set(parse_faults(names));
+        parts_.hub.publish("faults", faults_json(parts_.camera.faults));
     });
     get_faults(call);
 }

@@ -1,6 +1,6 @@
 #include "simulator/web/camera_parts.h"
 
-#include "simulator/core/page_files.h"
+#include "simulator/base/page_files.h"
 #include "simulator/host/menu_state.h"
 
 namespace sim {
@@ -68,7 +68,7 @@ json channels_json(Camera& camera)
 {
     json channels = json::array();
     for (int i = 0; i < channel_count; ++i) {
-        const Size size = camera.channels().size(i);
+        const Size size = camera.video.channels.size(i);
         channels.push_back(
             {{"name", channel_names.at(static_cast<std::size_t>(i))}, {"width", size.width}, {"height", size.height}});
     }
@@ -93,10 +93,10 @@ json state_json(const CameraParts& parts)
             {"size", config.uhd ? "4k" : "1080p"},
             {"channels", channels_json(parts.camera)},
             {"pages", std::move(list)},
-            {"all_pages", page_names(parts.camera.resources())},
+            {"all_pages", page_names(parts.camera.resources)},
             {"focus", focus_json(pages)},
             {"problems", problems_json(parts.reload)},
-            {"faults", parts.camera.faults().names()}};
+            {"faults", parts.camera.faults.names()}};
 }
 
 json faults_json(const Faults& faults)

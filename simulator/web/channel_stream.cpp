@@ -4,7 +4,7 @@
 #include <exception>
 #include <utility>
 
-#include "simulator/core/log.h"
+#include "simulator/base/log.h"
 #include "simulator/video/encode.h"
 
 namespace sim {
@@ -35,7 +35,7 @@ void ChannelStream::close()
     const std::lock_guard<std::mutex> lock(mutex_);
     closed_ = true;
     changed_.notify_all();
-    camera_.channels().wake();
+    camera_.video.channels.wake();
 }
 
 std::multiset<std::string> ChannelStream::viewers() const
@@ -66,7 +66,7 @@ bool ChannelStream::has_frame() const
 
 void ChannelStream::encode()
 {
-    Image image = camera_.draw(channel_);
+    Image image = camera_.video.draw(channel_);
     if (has_frame() && image.size.width == last_.size.width && image.pixels == last_.pixels) {
         return;
     }
@@ -101,9 +101,9 @@ void ChannelStream::work()
         const auto begin = Clock::now();
         due =
             std::clamp(due + frame_time, begin, begin + frame_time); // however long drawing takes, or often pushes come
-        const std::uint64_t seen = camera_.channels().changes();
+        const std::uint64_t seen = camera_.video.channels.changes();
         failing = !encode_or_tell(failing);
-        (void)camera_.channels().wait_for_change(seen, due); // either way the next picture is due
+        (void)camera_.video.channels.wait_for_change(seen, due); // either way the next picture is due
         std::this_thread::sleep_until(begin + shortest_frame_time);
     }
 }

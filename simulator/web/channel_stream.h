@@ -10,7 +10,7 @@
 #include <string>
 #include <thread>
 
-#include "simulator/core/camera.h"
+#include "simulator/camera/camera.h"
 
 namespace sim {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <sstream>
 
-#include "simulator/core/data.h"
+#include "simulator/base/data.h"
 
 namespace sim {
 

@@ -9,7 +9,7 @@
 
 #include <httplib.h>
 
-#include "simulator/core/data.h"
+#include "simulator/base/data.h"
 
 namespace sim {
 

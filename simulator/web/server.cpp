@@ -5,8 +5,8 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
-#include "simulator/core/data.h"
-#include "simulator/core/log.h"
+#include "simulator/base/data.h"
+#include "simulator/base/log.h"
 #include "simulator/web/connection.h"
 #include "simulator/web/workers.h"
 

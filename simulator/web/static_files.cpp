@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string>
 
-#include "simulator/core/data.h"
+#include "simulator/base/data.h"
 #include "simulator/web/http.h"
 
 namespace sim {

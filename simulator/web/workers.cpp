@@ -3,7 +3,7 @@
 #include <exception>
 #include <system_error>
 
-#include "simulator/core/log.h"
+#include "simulator/base/log.h"
 
 namespace sim {
 namespace {

@@ -5,9 +5,9 @@
 
 #include "platform/config_call.h"
 #include "platform/media_service.h"
-#include "simulator/core/camera.h"
-#include "simulator/core/services.h"
-#include "simulator/core/settings_json.h"
+#include "simulator/camera/camera.h"
+#include "simulator/camera/services.h"
+#include "simulator/settings/settings_json.h"
 #include "tests/simulator/temp_folder.h"
 
 using namespace sim;
@@ -28,7 +28,7 @@ struct CameraTest : Test {
     {
         settings.listen(
             [this](const SettingId& id, const std::string& value) { told += name_of(id) + "=" + value + " "; });
-        camera.events().listen([this](const Event& event) { told += "(" + to_line(event) + ") "; });
+        camera.events.listen([this](const Event& event) { told += "(" + to_line(event) + ") "; });
     }
     CameraConfig config() const
     {
@@ -44,14 +44,14 @@ struct CameraTest : Test {
 
     TempFolder folder;
     Camera camera{config()};
-    Settings& settings = camera.settings();
+    Settings& settings = camera.settings;
     std::string told;
 };
 
 TEST_F(CameraTest, TellsOnlyWhatChanged)
 {
-    camera.change({"A", "Gain"}, "7");
-    camera.change({"A", "Gain"}, "7");
+    camera.settings.set({"A", "Gain"}, "7");
+    camera.settings.set({"A", "Gain"}, "7");
     EXPECT_EQ(std::exchange(told, ""), "A.Gain=7 ");
     settings.set_all({{language_setting, "German"}, {{"A", "Gain"}, "7"}, {{"B", "Mode"}, "On"}});
     EXPECT_EQ(std::exchange(told, ""), "(language Deutsch) Language=German B.Mode=On ");
@@ -61,7 +61,7 @@ TEST_F(CameraTest, TellsOnlyWhatChanged)
 
 TEST_F(CameraTest, TakesSettingsOverAsAWholeOrNotAtAll)
 {
-    camera.change({"A", "Gain"}, "7");
+    camera.settings.set({"A", "Gain"}, "7");
     export_settings_file(settings, folder.path("all.json"));
     EXPECT_EQ(nlohmann::json::parse(folder.read("all.json")),
               nlohmann::json::parse(R"({"A.Gain": "7", "B.Gain": "1E90FF", "B.Mode": "Off", "Language": "English",
@@ -90,7 +90,7 @@ TEST_F(CameraTest, TakesSettingsOverAsAWholeOrNotAtAll)
 
 TEST_F(CameraTest, FollowsNewDefinitions)
 {
-    camera.change({"A", "Gain"}, "7");
+    camera.settings.set({"A", "Gain"}, "7");
     told.clear();
     const std::pair<const char*, const char*> steps[] = {
         {R"("max": 6, "default": 2)", "A.Gain=2 (definitions) "},  // 7 fits no more
@@ -134,7 +134,7 @@ TEST_F(CameraTest, ShowsCanvasesAsTheyWereWhenPushed)
         return 0;
     };
     EXPECT_EQ(MPP_MENU_SetMenuCb(refresh), 0);
-    const Color bare = camera.look_at(2).pixels[0];
+    const Color bare = camera.video.look_at(2).pixels[0];
     tagOSD_MENU_CANVAS_S canvas{{}, {}, {0, 0, 16, 16}, {0, 0, 1920, 1080}, 2, 0, 0, 0, 0, 0, {}};
     EXPECT_NE(MPP_MENU_UpdateCanvasToAllChns(1, &canvas), 0); // no pixels yet
     ASSERT_EQ(MPP_AllocMem("menu", 16 * 16 * 4, 0, &canvas.stMem), 0);
@@ -143,12 +143,12 @@ TEST_F(CameraTest, ShowsCanvasesAsTheyWereWhenPushed)
     std::memset(canvas.stMem.pvVirAddr, 0x80, 1024);
     OSD_ATTACH_INFO_S preview{2};
     EXPECT_EQ(MPP_MENU_UpdateCanvasToOneChn(0, &preview, &canvas), 0);
-    EXPECT_EQ(camera.look_at(0).pixels[0], 0xFFFFFFFFU);
-    EXPECT_EQ(camera.look_at(2).pixels[0], bare);
+    EXPECT_EQ(camera.video.look_at(0).pixels[0], 0xFFFFFFFFU);
+    EXPECT_EQ(camera.video.look_at(2).pixels[0], bare);
     EXPECT_EQ(asked, std::vector({2, 0})); // each at its first look
-    const std::uint64_t changes = camera.channels().changes();
-    EXPECT_FALSE(camera.channels().wait_for_change(changes, {}));
-    EXPECT_TRUE(camera.channels().wait_for_change(changes - 1, {}));
+    const std::uint64_t changes = camera.video.channels.changes();
+    EXPECT_FALSE(camera.video.channels.wait_for_change(changes, {}));
+    EXPECT_TRUE(camera.video.channels.wait_for_change(changes - 1, {}));
     EXPECT_EQ(MPP_FreeMem(&canvas.stMem), 0);
     EXPECT_NE(MPP_FreeMem(&canvas.stMem), 0);
 }

@@ -2,8 +2,8 @@
 #include <SDL_image.h>
 #include <gmock/gmock.h>
 
-#include "simulator/core/camera.h"
-#include "simulator/core/log.h"
+#include "simulator/base/log.h"
+#include "simulator/camera/camera.h"
 #include "simulator/host/key_script.h"
 #include "tests/simulator/temp_folder.h"
 
@@ -18,9 +18,9 @@ TEST(Faults, AreLoggedAndLeaveNothingBehind)
     auto host = std::make_unique<MenuHost>(camera, menu);
     const auto press_keys = [&](const char* keys) { KeyPlayer(parse_keys(keys), *host).press_all_now(); };
     const auto fresh_menu = [&] {
-        camera.settings().restore_defaults([](const SettingId&) { return true; });
+        camera.settings.restore_defaults([](const SettingId&) { return true; });
         press_keys("close menu home");
-        return camera.look_at(2).pixels;
+        return camera.video.look_at(2).pixels;
     };
     const auto before = fresh_menu();
     const std::pair<const char*, const char*> cases[] = {
@@ -34,21 +34,21 @@ TEST(Faults, AreLoggedAndLeaveNothingBehind)
     for (const auto& [fault, words] : cases) {
         std::string log;
         const LogListener listener([&log](const LogEntry& entry) { log += entry.text + "\n"; });
-        camera.faults().set(parse_faults({fault}));
+        camera.faults.set(parse_faults({fault}));
         press_keys("right down return right home right zoom+ prompt rec close menu home right");
         SDL_Surface* loaded = IMG_Load(OSD_RESOURCE_DIR "/pic/bar.bmp");
         EXPECT_EQ(loaded == nullptr, std::string(fault) == "pictures-missing");
         SDL_FreeSurface(loaded);
         EXPECT_THAT(log, HasSubstr(words));
-        camera.faults().set({});
+        camera.faults.set({});
         host->overlays().hide_all();
         EXPECT_EQ(fresh_menu(), before) << fault;
     }
     host.reset();
     for (const char* fault : {"memory-exhausted", "fonts-missing"}) {
-        camera.faults().set(parse_faults({fault}));
+        camera.faults.set(parse_faults({fault}));
         EXPECT_THROW(MenuHost(camera, menu), std::runtime_error) << fault;
-        camera.faults().set({});
+        camera.faults.set({});
         MenuHost{camera, menu}; // the next try starts it
     }
 }

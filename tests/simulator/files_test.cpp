@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 #include <sqlite3.h>
 
-#include "simulator/core/settings.h"
+#include "simulator/settings/settings.h"
 #include "tests/simulator/temp_folder.h"
 
 using namespace sim;

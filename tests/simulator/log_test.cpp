@@ -5,8 +5,8 @@
 #include <thread>
 #include <vector>
 
-#include "simulator/core/log.h"
-#include "simulator/core/output_capture.h"
+#include "simulator/base/log.h"
+#include "simulator/base/output_capture.h"
 
 using namespace sim;
 using namespace testing;

@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 #include <sys/wait.h>
 
-#include "simulator/core/settings_store.h"
+#include "simulator/settings/settings_store.h"
 #include "tests/simulator/running_camera.h"
 
 using namespace testing;

@@ -6,8 +6,8 @@
 #include <optional>
 
 #include "osd_page.h"
-#include "simulator/core/folder_watch.h"
-#include "simulator/core/resources.h"
+#include "simulator/base/folder_watch.h"
+#include "simulator/base/resources.h"
 #include "simulator/host/key_script.h"
 #include "simulator/host/live_reload.h"
 #include "simulator/host/page_stack.h"
@@ -92,7 +92,7 @@ struct Reload : testing::Test {
         tagITEM_NODE_S* item = osdMenuGetSelectedItem(&gstPageMgr.astPage[gstPageMgr.s32PageCnt - 1]);
         return item == nullptr ? "" : item->acItemIndex;
     }
-    std::vector<Color> screen() { return camera.look_at(2).pixels; }
+    std::vector<Color> screen() { return camera.video.look_at(2).pixels; }
 
     TempFolder folder;
     Camera camera{config()};
@@ -148,7 +148,7 @@ TEST_F(Reload, ShowsEachGoodChangeOnceWithAllCursors)
     const std::string texts = "lang/English.json";
     const auto before = screen();
     std::string told;
-    camera.events().listen([&told](const Event& event) { told += to_line(event) + ";"; });
+    camera.events.listen([&told](const Event& event) { told += to_line(event) + ";"; });
     const std::tuple<std::string, const char*, const char*> cases[] = {
         {page, "<Item", "<Item ItemIndex=\"Mirror\" Ctx=\"NAME\" Attr=\"CONST_TXT\"/><Item"},
         {texts, "\"ExpComp\": \"", "\"ExpComp\": \"Light "},
@@ -166,7 +166,7 @@ TEST_F(Reload, ShowsEachGoodChangeOnceWithAllCursors)
         EXPECT_EQ(screen(), before) << to;
     }
     told.clear();
-    camera.faults().set(parse_faults({"language-refusing"})); // says nothing about pages
+    camera.faults.set(parse_faults({"language-refusing"})); // says nothing about pages
     EXPECT_EQ(change(page, folder.read(page)), "");
     EXPECT_EQ(told, "") << "it is the same again";
     press_keys("return");
@@ -202,7 +202,7 @@ TEST_F(Reload, ChecksOnAThreadOfItsOwn)
         return came.wait_for(lock, std::chrono::seconds(30), [&] { return rule == expected; });
     };
     const std::string good = folder.read("lang/English.json");
-    camera.faults().set(parse_faults({"fonts-missing"})); // is for the menu alone
+    camera.faults.set(parse_faults({"fonts-missing"})); // is for the menu alone
     EXPECT_TRUE(comes(""));
     folder.write("lang/English.json", "{");
     EXPECT_TRUE(comes("text"));

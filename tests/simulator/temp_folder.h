@@ -6,7 +6,7 @@
 #include <iterator>
 #include <string>
 
-#include "simulator/core/data_folder.h"
+#include "simulator/base/data_folder.h"
 
 class TempFolder {
 public:

@@ -1,4 +1,4 @@
-#include "simulator/core/settings_store.h"
+#include "simulator/settings/settings_store.h"
 
 #include <sqlite3.h>
 

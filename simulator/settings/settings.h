@@ -8,8 +8,8 @@
 #include <utility>
 #include <vector>
 
-#include "simulator/core/data.h"
-#include "simulator/core/settings_store.h"
+#include "simulator/base/data.h"
+#include "simulator/settings/settings_store.h"
 
 namespace sim {
 

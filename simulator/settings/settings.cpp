@@ -1,9 +1,9 @@
-#include "simulator/core/settings.h"
+#include "simulator/settings/settings.h"
 
 #include <algorithm>
 #include <iterator>
 
-#include "simulator/core/log.h"
+#include "simulator/base/log.h"
 
 namespace sim {
 

@@ -5,7 +5,7 @@
 #include <nlohmann/json.hpp>
 #include <string>
 
-#include "simulator/core/settings.h"
+#include "simulator/settings/settings.h"
 
 namespace sim {
 

@@ -4,7 +4,7 @@
 #include <exception>
 #include <string_view>
 
-#include "simulator/core/log.h"
+#include "simulator/base/log.h"
 
 namespace sim {
 

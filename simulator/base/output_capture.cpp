@@ -1,4 +1,4 @@
-#include "simulator/core/output_capture.h"
+#include "simulator/base/output_capture.h"
 
 #include <array>
 #include <cerrno>
@@ -10,7 +10,7 @@
 #include <system_error>
 #include <unistd.h>
 
-#include "simulator/core/log.h"
+#include "simulator/base/log.h"
 
 namespace sim {
 namespace {

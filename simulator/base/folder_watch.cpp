@@ -1,4 +1,4 @@
-#include "simulator/core/folder_watch.h"
+#include "simulator/base/folder_watch.h"
 
 #include <algorithm>
 #include <array>
@@ -14,7 +14,7 @@
 #include <unistd.h>
 #include <utility>
 
-#include "simulator/core/guard.h"
+#include "simulator/base/guard.h"
 
 namespace sim {
 namespace {

@@ -1,11 +1,11 @@
-#include "simulator/core/problems.h"
+#include "simulator/base/problems.h"
 
 #include <algorithm>
 #include <set>
 #include <string>
 #include <utility>
 
-#include "simulator/core/log.h"
+#include "simulator/base/log.h"
 
 namespace sim {
 

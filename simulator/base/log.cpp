@@ -1,4 +1,4 @@
-#include "simulator/core/log.h"
+#include "simulator/base/log.h"
 
 #include <algorithm>
 #include <array>

@@ -1,9 +1,9 @@
-#include "simulator/core/settings_json.h"
+#include "simulator/settings/settings_json.h"
 
 #include <fstream>
 #include <map>
 
-#include "simulator/core/data.h"
+#include "simulator/base/data.h"
 
 namespace sim {
 namespace {

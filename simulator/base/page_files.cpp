@@ -1,11 +1,11 @@
-#include "simulator/core/page_files.h"
+#include "simulator/base/page_files.h"
 
 #include <algorithm>
 #include <system_error>
 #include <tinyxml2.h>
 #include <utility>
 
-#include "simulator/core/log.h"
+#include "simulator/base/log.h"
 
 namespace sim {
 

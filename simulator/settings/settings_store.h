@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "simulator/core/data.h"
+#include "simulator/base/data.h"
 
 struct sqlite3;
 struct sqlite3_stmt;

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "simulator/core/data.h"
+#include "simulator/base/data.h"
 
 namespace tinyxml2 {
 class XMLDocument;

@@ -1,4 +1,4 @@
-#include "simulator/core/media_memory.h"
+#include "simulator/camera/media_memory.h"
 
 #include <cstring>
 

@@ -18,10 +18,6 @@ std::filesystem::path staged_fonts();
 /// The folders with files of the resources, beginning with their own.
 std::vector<std::filesystem::path> resource_folders(const std::filesystem::path& resources);
 
-/// Throws BadInput, which tells all that is wrong with them, when the camera can't start with these resources: their
-/// settings definitions have a mistake, or a language has no texts.
-void require_usable(const std::filesystem::path& resources);
-
 /// The folder with its path from the root, with no "." and ".." in it and no slash at its end: two paths of one folder
 /// are equal then, links aside.
 std::filesystem::path plain_path(const std::filesystem::path& folder);

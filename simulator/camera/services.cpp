@@ -1,4 +1,4 @@
-#include "simulator/core/services.h"
+#include "simulator/camera/services.h"
 
 #include <array>
 #include <chrono>
@@ -14,9 +14,9 @@
 #include "platform/config_service.h"
 #include "platform/log_service.h"
 #include "platform/media_service.h"
-#include "simulator/core/camera.h"
-#include "simulator/core/guard.h"
-#include "simulator/core/log.h"
+#include "simulator/base/guard.h"
+#include "simulator/base/log.h"
+#include "simulator/camera/camera.h"
 
 namespace sim {
 namespace {
@@ -50,7 +50,7 @@ std::string text_or_empty(const char* text) { return text == nullptr ? "" : text
 
 const Setting* find_setting(Camera& camera, const SettingId& id, bool number)
 {
-    const Setting* setting = camera.settings().find(id);
+    const Setting* setting = camera.settings.find(id);
     if (setting == nullptr) {
         log_line(LogLevel::Warning, "settings", "no setting " + to_string(id));
         return nullptr;
@@ -69,7 +69,7 @@ template <typename Body>
 int serve_setting(Body body)
 {
     return serve("settings", [&](Camera& camera) {
-        if (camera.faults().is_on(Fault::SettingsSlow)) {
+        if (camera.faults.is_on(Fault::SettingsSlow)) {
             std::this_thread::sleep_for(slow_call);
         }
         return body(camera);
@@ -78,7 +78,7 @@ int serve_setting(Body body)
 
 bool refuses(Camera& camera, Fault fault, const char* tag, const std::string& what)
 {
-    if (!camera.faults().is_on(fault)) {
+    if (!camera.faults.is_on(fault)) {
         return false;
     }
     log_line(LogLevel::Warning, tag,
@@ -106,7 +106,7 @@ int get_text(const char* parent, const char* key, tagCFG_VALUE_TXT_S* value)
         if (setting == nullptr || value == nullptr) {
             return failed;
         }
-        if (camera.faults().is_on(Fault::SettingsOutOfRange)) {
+        if (camera.faults.is_on(Fault::SettingsOutOfRange)) {
             answer_nonsense(*value);
             return ok;
         }
@@ -115,7 +115,7 @@ int get_text(const char* parent, const char* key, tagCFG_VALUE_TXT_S* value)
             list += (list.empty() ? "" : ":") + option;
         }
         fill_field(value->acList, list);
-        fill_field(value->acValue, camera.settings().value(id));
+        fill_field(value->acValue, camera.settings.value(id));
         return ok;
     });
 }
@@ -131,8 +131,8 @@ int get_number(const char* parent, const char* key, tagCFG_VALUE_INT_S* value)
         if (setting == nullptr || value == nullptr) {
             return failed;
         }
-        const bool nonsense = camera.faults().is_on(Fault::SettingsOutOfRange);
-        const std::int32_t present = nonsense ? no_number : camera.settings().number(id);
+        const bool nonsense = camera.faults.is_on(Fault::SettingsOutOfRange);
+        const std::int32_t present = nonsense ? no_number : camera.settings.number(id);
         *value = {setting->min, setting->max, 0, setting->step, present};
         return ok;
     });
@@ -141,7 +141,14 @@ int get_number(const char* parent, const char* key, tagCFG_VALUE_INT_S* value)
 int push(bool show, std::optional<int> channel, const tagOSD_MENU_CANVAS_S* canvas)
 {
     return serve("media", [&](Camera& camera) {
-        return canvas != nullptr && camera.push_canvas(show, *canvas, channel) ? ok : failed;
+        if (canvas == nullptr ||
+            !camera.video.push(show, *canvas, camera.memory.size_at(canvas->stMem.pvVirAddr), channel)) {
+            return failed;
+        }
+        if (!channel) {
+            camera.events.tell({show ? "show" : "hide", ""});
+        }
+        return ok;
     });
 }
 
@@ -174,13 +181,13 @@ int CFG_COM_SetTxtParams(char* pcKey, char* pcValue, OSD_BOOL /*bSave*/)
     return serve_setting([&](Camera& camera) {
         const SettingId id{"", text_or_empty(pcKey)};
         const std::string value = text_or_empty(pcValue);
-        camera.events().tell({"set", id.key + "=" + value});
-        if (camera.settings().find(id) == nullptr) {
+        camera.events.tell({"set", id.key + "=" + value});
+        if (camera.settings.find(id) == nullptr) {
             // Also the usual case of a page's confirm button, which the menu stores with the page's values.
             log_line(LogLevel::Info, "settings", "nothing to store for '" + id.key + "'");
             return failed;
         }
-        camera.change(id, value);
+        camera.settings.set(id, value);
         return ok;
     });
 }
@@ -202,7 +209,7 @@ int CFG_LANG_GetString(char* pcLanguage, char* pcKey, char* pcOut)
         if (refuses(camera, Fault::LanguageRefusing, "language", "a text")) {
             return failed;
         }
-        const std::string* text = camera.translate(text_or_empty(pcLanguage), text_or_empty(pcKey));
+        const std::string* text = camera.texts.translate(text_or_empty(pcLanguage), text_or_empty(pcKey));
         if (text == nullptr) {
             return failed;
         }
@@ -215,7 +222,12 @@ tinyxml2::XMLDocument* CFG_GetDocByFileName(const char* pcPath, OSD_BOOL /*bRead
 {
     tinyxml2::XMLDocument* const none = nullptr;
     return guarded("pages", none, [&] {
-        return current_camera == nullptr ? none : current_camera->open_page(text_or_empty(pcPath)).release();
+        const std::filesystem::path path = text_or_empty(pcPath);
+        auto document = current_camera == nullptr ? nullptr : current_camera->pages.open(path);
+        if (document != nullptr) {
+            current_camera->events.tell({"page", page_name(path)});
+        }
+        return document.release();
     });
 }
 
@@ -241,8 +253,8 @@ int MPP_AllocMem(const char* pcName, uint32_t u32Size, int /*s32Flag*/, void* ps
 {
     return serve("media", [&](Camera& camera) {
         auto* block = static_cast<tagOSD_MEM_S*>(pstBlock);
-        const bool exhausted = camera.faults().is_on(Fault::MemoryExhausted);
-        if (block != nullptr && !exhausted && camera.memory().allocate(text_or_empty(pcName), u32Size, *block)) {
+        const bool exhausted = camera.faults.is_on(Fault::MemoryExhausted);
+        if (block != nullptr && !exhausted && camera.memory.allocate(text_or_empty(pcName), u32Size, *block)) {
             return ok;
         }
         log_line(LogLevel::Error, "media",
@@ -255,7 +267,7 @@ int MPP_FreeMem(void* pstBlock)
 {
     return serve("media", [&](Camera& camera) {
         auto* block = static_cast<tagOSD_MEM_S*>(pstBlock);
-        if (block != nullptr && camera.memory().release(*block)) {
+        if (block != nullptr && camera.memory.release(*block)) {
             return ok;
         }
         log_line(LogLevel::Error, "media", "a block is given back that is not handed out");
@@ -278,7 +290,7 @@ int MPP_MENU_CreateSdkResource(tagOSD_MENU_CANVAS_S* pstCanvas)
 int MPP_MENU_SetMenuCb(int (*pfnUpdate)(OSD_BOOL, OSD_ATTACH_INFO_S*))
 {
     return serve("media", [&](Camera& camera) {
-        camera.set_menu_refresh(pfnUpdate);
+        camera.video.set_menu_refresh(pfnUpdate);
         return ok;
     });
 }

@@ -1,4 +1,4 @@
-#include "simulator/core/data_folder.h"
+#include "simulator/base/data_folder.h"
 
 #include <cerrno>
 #include <cstdlib>
@@ -10,7 +10,7 @@
 #include <unistd.h>
 #include <utility>
 
-#include "simulator/core/data.h"
+#include "simulator/base/data.h"
 
 namespace sim {
 namespace {

@@ -1,8 +1,8 @@
-#include "simulator/core/faults.h"
+#include "simulator/camera/faults.h"
 
 #include <algorithm>
 
-#include "simulator/core/data.h"
+#include "simulator/base/data.h"
 
 namespace sim {
 namespace {
