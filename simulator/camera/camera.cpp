@@ -36,7 +36,7 @@ Camera::Camera(const CameraConfig& config)
     if (!forced_language_.empty()) {
         settings.set_for_this_run(language_setting, forced_language_);
     }
-    settings.listen([this](const SettingId& id, const std::string&) {
+    language_changes_ = settings.listen([this](const SettingId& id, const std::string&) {
         if (name_of(id) == name_of(language_setting)) {
             events.tell({"language", language()});
         }

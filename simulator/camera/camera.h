@@ -5,9 +5,9 @@
 #include <optional>
 #include <string>
 
-#include "simulator/base/uptime.h"
 #include "simulator/base/data.h"
 #include "simulator/base/data_folder.h"
+#include "simulator/base/uptime.h"
 #include "simulator/camera/events.h"
 #include "simulator/camera/faults.h"
 #include "simulator/camera/media_memory.h"
@@ -67,6 +67,9 @@ public:
     PageSource pages;
     Settings settings;
     VideoOutput video;
+
+private:
+    Subscription language_changes_;
 };
 
 } // namespace sim

@@ -1,10 +1,9 @@
 // What happens in the camera, told as it happens.
 #pragma once
 
-#include <functional>
 #include <string>
-#include <utility>
-#include <vector>
+
+#include "simulator/base/listeners.h"
 
 namespace sim {
 
@@ -26,22 +25,7 @@ inline std::string to_line(const Event& event)
     return event.what.empty() ? event.kind : event.kind + " " + event.what;
 }
 
-/// Passes events on. All calls are made on the thread that presses the keys.
-class Events {
-public:
-    using Listener = std::function<void(const Event& event)>;
-
-    /// Listeners are called in the order in which they came, and stay.
-    void listen(Listener listener) { listeners_.push_back(std::move(listener)); }
-    void tell(const Event& event) const
-    {
-        for (const Listener& listener : listeners_) {
-            listener(event);
-        }
-    }
-
-private:
-    std::vector<Listener> listeners_;
-};
+/// All calls are made on the thread that presses the keys.
+using Events = Listeners<Event>;
 
 } // namespace sim

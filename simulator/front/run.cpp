@@ -24,11 +24,15 @@ void write_snapshot(Camera& camera, int channel, const std::filesystem::path& pa
     std::cout << "wrote " << path.string() << std::endl;
 }
 
-void run_asked(MenuHost& host, const Options& options)
+void run_asked(MenuSession& session, const Options& options)
 {
+    MenuHost& host = session.menu();
+    if (options.prompt) {
+        host.overlays().show_prompt(*options.prompt);
+    }
     KeyPlayer keys(options.keys.value_or(std::vector<TimedKey>()), host);
     if (options.window) {
-        if (!show_window(host, keys, options.channel)) {
+        if (!show_window(session, keys, options.channel)) {
             throw BadInput(std::string("no window can be opened: ") + SDL_GetError());
         }
         return;
@@ -97,11 +101,8 @@ void run_camera(const Options& options, Pictures& pictures)
     if (options.web) {
         serve_camera(camera, pictures, menu, options);
     } else if (!options.export_file) {
-        MenuHost host(camera, menu);
-        if (options.prompt) {
-            host.overlays().show_prompt(*options.prompt);
-        }
-        run_asked(host, options);
+        MenuSession session(camera, menu);
+        run_asked(session, options);
     }
 }
 

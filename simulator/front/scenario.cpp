@@ -84,7 +84,8 @@ Outcome play(const std::filesystem::path& folder)
     Camera camera({OSD_RESOURCE_DIR, data.path(), false, false, true, options.language, folder / "pages"});
     set_up(camera, options.settings);
     MenuHost host(camera, {2, options.style, false, options.page, "Prompt"});
-    camera.events.listen([&outcome](const Event& event) { outcome.calls.push_back(to_line(event)); });
+    const Subscription calls =
+        camera.events.listen([&outcome](const Event& event) { outcome.calls.push_back(to_line(event)); });
     KeyPlayer(keys, host).press_all_now();
     outcome.frame = camera.video.look_at(0);
     return outcome;

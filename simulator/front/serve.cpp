@@ -1,8 +1,7 @@
 #include "simulator/front/serve.h"
 
 #include <malloc.h>
-#include <mutex>
-#include <optional>
+#include <memory>
 #include <utility>
 
 #include "simulator/base/data.h"
@@ -24,44 +23,6 @@ namespace {
 
 using nlohmann::json;
 
-/// What the camera's parts tell, passed on to the web. All but the log comes on the menu thread.
-class EventBridge {
-public:
-    EventBridge(Camera& camera, EventHub& hub)
-        : hub_(hub), log_([&hub](const LogEntry& entry) {
-              hub.publish_log({{"time", entry.time}, {"level", entry.level}, {"tag", entry.tag}, {"text", entry.text}});
-          })
-    {
-        camera.events.listen([this](const Event& event) { hub_.publish(event.kind.c_str(), {{"what", event.what}}); });
-        camera.settings.listen([this](const SettingId& id, const std::string& value) {
-            hub_.publish("setting", {{"name", name_of(id)}, {"value", value}});
-        });
-    }
-
-    /// Comparing finds every change, whoever made it.
-    void publish_state(const CameraParts& parts)
-    {
-        if (!hub_.has_listeners()) {
-            return;
-        }
-        json state = state_json(parts);
-        if (state != last_state_) {
-            hub_.publish("state", state);
-            last_state_ = std::move(state);
-        }
-    }
-
-private:
-    EventHub& hub_;
-    LogListener log_;
-    json last_state_;
-};
-
-std::string address_with_token(const ListenAddress& listen, const Options& options)
-{
-    return address_of(listen) + (options.token ? "?token=" + *options.token : "");
-}
-
 std::unique_ptr<WebServer> start_server(Api& api, const Options& options)
 {
     if (options.listen) {
@@ -73,30 +34,6 @@ std::unique_ptr<WebServer> start_server(Api& api, const Options& options)
         return std::make_unique<WebServer>(api, ListenAddress{"127.0.0.1", 0});
     }
 }
-
-/// The last verdict, which waits for the menu thread. However fast files change and however long the menu takes to follow,
-/// one task waits.
-class WaitingVerdict {
-public:
-    /// True when none waited so far.
-    bool put(Verdict verdict)
-    {
-        const std::lock_guard<std::mutex> lock(mutex_);
-        const bool first = !verdict_;
-        verdict_ = std::move(verdict);
-        return first;
-    }
-
-    Verdict take()
-    {
-        const std::lock_guard<std::mutex> lock(mutex_);
-        return std::exchange(verdict_, std::nullopt).value();
-    }
-
-private:
-    std::mutex mutex_;
-    std::optional<Verdict> verdict_;
-};
 
 /// Null when the system refuses to watch; the camera runs without it.
 std::unique_ptr<FolderWatch> watch_resources(const Camera& camera, const std::function<void()>& on_change)
@@ -118,47 +55,97 @@ void give_memory_back()
     (void)::mallopt(M_TRIM_THRESHOLD, 32 << 20);
 }
 
+/// The camera behind its web page. The order of the members is that of their making, and they end in the reverse one: who
+/// brings work comes last, the menu's thread, on which it is done, first.
+class WebCamera {
+public:
+    WebCamera(Camera& camera, Pictures& pictures, const MenuConfig& menu, const Options& options)
+        : options_(options), parts_{camera, session_, reload_, loop_, hub_}, session_(camera, menu),
+          reload_(camera, pictures),
+          checker_(camera.resources, [this] { loop_.post([this] { reload_.take(checker_.take()); }); }),
+          watch_(watch_resources(camera, [this] { checker_.look_again(); })), api_(parts_, OSD_WEB_DIR, options.token)
+    {
+        checker_.look_again(); // from behind the start of the watch, so that no change falls between
+    }
+
+    /// Until somebody asks for the end.
+    void run()
+    {
+        play_what_is_asked();
+        server_ = start_server(api_, options_);
+        tell_address();
+        loop_.run([this] {
+            const auto next = session_.tick();
+            publish_state();
+            return next;
+        });
+    }
+
+private:
+    void play_what_is_asked()
+    {
+        if (options_.prompt && session_.has_menu()) {
+            session_.menu().overlays().show_prompt(*options_.prompt);
+        }
+        if (options_.keys && session_.has_menu()) {
+            KeyPlayer(*options_.keys, session_.menu()).press_all();
+        }
+    }
+
+    void tell_address()
+    {
+        const std::string address =
+            address_of(server_->listens_at()) + (options_.token ? "?token=" + *options_.token : "");
+        output_.print(address + "\n");
+        const std::string problem = options_.open ? open_browser(address) : "";
+        if (!problem.empty()) {
+            log_line(LogLevel::Warning, "web", problem);
+        }
+    }
+
+    /// Comparing finds every change, whoever made it.
+    void publish_state()
+    {
+        if (!hub_.has_listeners()) {
+            return;
+        }
+        json state = state_json(parts_);
+        if (state != last_state_) {
+            hub_.publish("state", state);
+            last_state_ = std::move(state);
+        }
+    }
+
+    const Options& options_;
+    MenuLoop loop_;
+    StopSignals signals_{[this] { loop_.stop(); }};
+    OutputCapture output_; ///< the library writes to standard output, which is for the one line with the address
+    EventHub hub_;
+    const LogListener log_{[this](const LogEntry& entry) {
+        hub_.publish_log({{"time", entry.time}, {"level", entry.level}, {"tag", entry.tag}, {"text", entry.text}});
+    }};
+    CameraParts parts_;
+    const Subscription events_ = parts_.camera.events.listen([this](const Event& event) {
+        hub_.publish(event.kind.c_str(), {{"what", event.what}});
+    });
+    const Subscription values_ = parts_.camera.settings.listen([this](const SettingId& id, const std::string& value) {
+        hub_.publish("setting", {{"name", name_of(id)}, {"value", value}});
+    });
+    json last_state_;
+    MenuSession session_;
+    LiveReload reload_;
+    Checker checker_; ///< needs graphics libraries: the session has started them
+    std::unique_ptr<FolderWatch> watch_;
+    Api api_;
+    std::unique_ptr<WebServer> server_;
+};
+
 } // namespace
 
 void serve_camera(Camera& camera, Pictures& pictures, const MenuConfig& menu, const Options& options)
 {
     give_memory_back();
-    MenuLoop loop;
-    const StopSignals signals([&loop] { loop.stop(); });
-    OutputCapture output; // the library writes to standard output, which is for the one line with the address
-    EventHub hub;
-    EventBridge bridge(camera, hub);
-    MenuSession session(camera, menu);
-    LiveReload reload(camera, pictures);
-    WaitingVerdict waiting;
-    Checker checker(camera.resources, [&](Verdict verdict) { // has graphics libraries: the session has started them
-        if (waiting.put(std::move(verdict))) {
-            loop.post([&] { reload.take(waiting.take()); });
-        }
-    });
-    const auto watch = watch_resources(camera, [&checker] { checker.look_again(); });
-    checker.look_again(); // from behind the start of the watch, so that no change falls between
-    const CameraParts parts{camera, session, reload, loop, hub};
-    Api api(parts, OSD_WEB_DIR, options.token);
-    if (options.prompt && session.has_menu()) {
-        session.menu().overlays().show_prompt(*options.prompt);
-    }
-    if (options.keys && session.has_menu()) {
-        KeyPlayer(*options.keys, session.menu()).press_all();
-    }
-    const auto server = start_server(api, options);
-    output.print(address_with_token(server->listens_at(), options) + "\n");
-    if (options.open) {
-        const std::string problem = open_browser(address_with_token(server->listens_at(), options));
-        if (!problem.empty()) {
-            log_line(LogLevel::Warning, "web", problem);
-        }
-    }
-    loop.run([&] {
-        const auto next = session.tick();
-        bridge.publish_state(parts);
-        return next;
-    });
+    WebCamera(camera, pictures, menu, options).run();
 }
 
 } // namespace sim

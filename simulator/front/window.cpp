@@ -1,7 +1,6 @@
 #include "simulator/front/window.h"
 
 #include <SDL.h>
-#include <iostream>
 #include <memory>
 #include <string>
 
@@ -67,26 +66,15 @@ struct Screen {
     std::unique_ptr<SDL_Texture, Destroy> texture;
 };
 
-/// A page file with a mistake must not end the camera.
-template <typename Action>
-void with_mistakes_told(Action action)
+void press_keyboard(MenuSession& session, SDL_Keycode code)
 {
-    try {
-        action();
-    } catch (const BadInput& error) {
-        std::cerr << "camera-sim: " << error.what() << std::endl;
-    }
-}
-
-void press_keyboard(MenuHost& host, SDL_Keycode code)
-{
-    if (const Key* key = find_keyboard_key(code, host.is_open())) {
-        with_mistakes_told([&] { press(find_key(key->name), host); });
+    if (const Key* key = find_keyboard_key(code, session.menu().is_open())) {
+        session.press(*key);
     }
 }
 
 /// Handles the events at hand; false when the window is to be closed.
-bool handle_events(MenuHost& host)
+bool handle_events(MenuSession& session)
 {
     SDL_Event event;
     while (SDL_PollEvent(&event) != 0) {
@@ -94,7 +82,7 @@ bool handle_events(MenuHost& host)
             return false;
         }
         if (event.type == SDL_KEYDOWN) {
-            press_keyboard(host, event.key.keysym.sym);
+            press_keyboard(session, event.key.keysym.sym);
         }
     }
     return true;
@@ -102,21 +90,21 @@ bool handle_events(MenuHost& host)
 
 } // namespace
 
-bool show_window(MenuHost& host, KeyPlayer& keys, int channel)
+bool show_window(MenuSession& session, KeyPlayer& keys, int channel)
 {
     const VideoSystem video;
     if (!video.can_show()) {
         SDL_SetError("there is no display");
         return false;
     }
-    Camera& camera = host.camera();
+    Camera& camera = session.camera();
     const Screen screen(camera.video.channels.size(channel));
     if (screen.texture == nullptr) {
         return false;
     }
-    while (handle_events(host)) {
-        host.overlays().hide_what_is_over();
-        with_mistakes_told([&] { keys.press_due(); });
+    while (handle_events(session)) {
+        (void)session.tick(); // again in any case
+        keys.press_due(session);
         const Uint32 began = SDL_GetTicks();
         screen.show(camera.video.look_at(channel));
         const Uint32 used = SDL_GetTicks() - began;

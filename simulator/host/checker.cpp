@@ -107,7 +107,7 @@ void require_usable(const fs::path& resources)
     throw BadInput(words);
 }
 
-Checker::Checker(fs::path resources, std::function<void(Verdict)> tell)
+Checker::Checker(fs::path resources, std::function<void()> tell)
     : resources_(std::move(resources)), tell_(std::move(tell))
 {
     thread_ = std::thread([this] { run(); });
@@ -203,14 +203,26 @@ void Checker::measure()
     }
 }
 
-void Checker::tell() const
+void Checker::tell()
 {
     Verdict verdict = quick_;
     std::vector<Finding> all;
     std::merge(quick_.findings.begin(), quick_.findings.end(), measured_.begin(), measured_.end(),
                std::back_inserter(all), is_before);
     verdict.findings = std::move(all);
-    tell_(std::move(verdict));
+    std::unique_lock<std::mutex> lock(mutex_);
+    const bool waits = told_.has_value();
+    told_ = std::move(verdict);
+    lock.unlock();
+    if (!waits) {
+        tell_();
+    }
+}
+
+Verdict Checker::take()
+{
+    const std::lock_guard<std::mutex> lock(mutex_);
+    return std::exchange(told_, std::nullopt).value();
 }
 
 } // namespace sim

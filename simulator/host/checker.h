@@ -51,8 +51,9 @@ void require_usable(const std::filesystem::path& resources);
 /// pages are drawn, and all pages in a changed language; when nothing has changed for a second, all is drawn.
 class Checker {
 public:
-    /// The function is called on that thread, with all that is known then. The first look waits for look_again().
-    Checker(std::filesystem::path resources, std::function<void(Verdict)> tell);
+    /// The function is called on that thread when there is a verdict to take(), once until somebody takes it. The first
+    /// look waits for look_again().
+    Checker(std::filesystem::path resources, std::function<void()> tell);
     /// Waits for the end of a check under way.
     ~Checker();
     Checker(const Checker&) = delete;
@@ -60,6 +61,9 @@ public:
 
     /// Files have changed; what is being found out of the earlier ones isn't told any more. Any thread.
     void look_again();
+
+    /// All that is known, of the last check. Any thread.
+    Verdict take();
 
 private:
     using Clock = std::chrono::steady_clock;
@@ -71,10 +75,10 @@ private:
     void look();
     void choose_files(const Resources* earlier);
     void measure();
-    void tell() const;
+    void tell();
 
     const std::filesystem::path resources_;
-    const std::function<void(Verdict)> tell_;
+    const std::function<void()> tell_;
 
     Verdict quick_;                 ///< of the last look
     std::vector<Finding> measured_; ///< what showed when pages were drawn, by place
@@ -82,9 +86,10 @@ private:
     bool all_due_ = false;          ///< to draw all pages at rest
     Clock::time_point rest_;        ///< when that begins
 
-    std::mutex mutex_; ///< guards what is waited for: the two below
+    std::mutex mutex_; ///< guards what is waited for: the three below
     bool asked_ = false;
     bool ending_ = false;
+    std::optional<Verdict> told_; ///< until somebody takes it
     std::condition_variable changed_;
     std::thread thread_;
 };

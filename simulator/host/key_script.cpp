@@ -10,6 +10,7 @@
 #include <thread>
 
 #include "simulator/base/data.h"
+#include "simulator/host/menu_session.h"
 
 namespace sim {
 namespace {
@@ -82,10 +83,10 @@ std::vector<TimedKey> read_keys_file(const std::filesystem::path& path)
     return keys;
 }
 
-void KeyPlayer::press_due()
+void KeyPlayer::press_due(MenuSession& session)
 {
     while (!done() && keys_[next_].at <= host_.camera().uptime.seconds()) {
-        press_next();
+        session.press(*keys_[next_++].key);
     }
 }
 
@@ -119,7 +120,7 @@ KeyRecorder::KeyRecorder(const std::filesystem::path& path) : path_(path)
 
 void KeyRecorder::follow(Camera& camera)
 {
-    camera.events.listen([this, &camera](const Event& event) {
+    keys_ = camera.events.listen([this, &camera](const Event& event) {
         if (event.kind == "key") {
             write(camera.uptime.seconds(), event.what);
         }

@@ -7,9 +7,12 @@
 #include <utility>
 #include <vector>
 
+#include "simulator/base/listeners.h"
 #include "simulator/host/keys.h"
 
 namespace sim {
+
+class MenuSession;
 
 struct TimedKey {
     double at = 0; ///< seconds since the camera's start, never before the key in front of it
@@ -29,7 +32,7 @@ public:
     KeyPlayer(std::vector<TimedKey> keys, MenuHost& host) : keys_(std::move(keys)), host_(host) {}
 
     /// Presses the keys whose time has come. A key that throws counts as pressed.
-    void press_due();
+    void press_due(MenuSession& session);
     /// Presses all keys, each at its time.
     void press_all();
     /// Presses all keys without waiting for their times.
@@ -50,7 +53,7 @@ class KeyRecorder {
 public:
     /// Makes the file. Throws BadInput when it can't, and when there is one that isn't empty.
     explicit KeyRecorder(const std::filesystem::path& path);
-    /// Listens to the camera, which must not outlive the recorder.
+    /// Listens to the camera.
     void follow(Camera& camera);
 
 private:
@@ -58,6 +61,7 @@ private:
 
     std::filesystem::path path_;
     std::ofstream file_;
+    Subscription keys_;
 };
 
 } // namespace sim

@@ -106,9 +106,7 @@ Settings::Values Settings::replace(const Values& values)
 void Settings::tell(const Values& changed) const
 {
     for (const auto& [id, text] : changed) {
-        for (const Listener& listener : listeners_) {
-            listener(id, text);
-        }
+        changes_.tell(id, text);
     }
 }
 

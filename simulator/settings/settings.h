@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "simulator/base/data.h"
+#include "simulator/base/listeners.h"
 #include "simulator/settings/settings_store.h"
 
 namespace sim {
@@ -28,7 +29,7 @@ class Settings {
 public:
     using Values = std::map<SettingId, std::string>;
     /// Told of each value that is another one than before, on the thread that changed it, with no lock held.
-    using Listener = std::function<void(const SettingId& id, const std::string& value)>;
+    using Changes = Listeners<SettingId, std::string>;
 
     /// Stored values that no longer fit their definition are reported and their defaults taken; the database keeps
     /// them.
@@ -43,8 +44,7 @@ public:
     const Setting& by_name(const std::string& name) const;
     const std::map<SettingId, Setting>& definitions() const { return definitions_; }
 
-    /// Listeners are called in the order in which they came, and stay.
-    void listen(Listener listener) { listeners_.push_back(std::move(listener)); }
+    [[nodiscard]] Subscription listen(Changes::Function listener) { return changes_.listen(std::move(listener)); }
 
     /// The present value of a setting that exists.
     std::string value(const SettingId& id) const;
@@ -83,7 +83,7 @@ private:
     mutable std::mutex mutex_; ///< guards values_
     Values values_;
     Values this_run_; ///< what the database doesn't have
-    std::vector<Listener> listeners_;
+    Changes changes_;
 };
 
 } // namespace sim

@@ -24,12 +24,6 @@ static std::string settings_with_gain(const std::string& range)
 }
 
 struct CameraTest : Test {
-    CameraTest()
-    {
-        settings.listen(
-            [this](const SettingId& id, const std::string& value) { told += name_of(id) + "=" + value + " "; });
-        camera.events.listen([this](const Event& event) { told += "(" + to_line(event) + ") "; });
-    }
     CameraConfig config() const
     {
         folder.write("settings.json", settings_with_gain(R"("max": 10, "default": 5)"));
@@ -46,6 +40,9 @@ struct CameraTest : Test {
     Camera camera{config()};
     Settings& settings = camera.settings;
     std::string told;
+    Subscription values = settings.listen(
+        [this](const SettingId& id, const std::string& value) { told += name_of(id) + "=" + value + " "; });
+    Subscription events = camera.events.listen([this](const Event& event) { told += "(" + to_line(event) + ") "; });
 };
 
 TEST_F(CameraTest, TellsOnlyWhatChanged)

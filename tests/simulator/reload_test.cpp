@@ -148,7 +148,7 @@ TEST_F(Reload, ShowsEachGoodChangeOnceWithAllCursors)
     const std::string texts = "lang/English.json";
     const auto before = screen();
     std::string told;
-    camera.events.listen([&told](const Event& event) { told += to_line(event) + ";"; });
+    const Subscription events = camera.events.listen([&told](const Event& event) { told += to_line(event) + ";"; });
     const std::tuple<std::string, const char*, const char*> cases[] = {
         {page, "<Item", "<Item ItemIndex=\"Mirror\" Ctx=\"NAME\" Attr=\"CONST_TXT\"/><Item"},
         {texts, "\"ExpComp\": \"", "\"ExpComp\": \"Light "},
@@ -190,7 +190,8 @@ TEST_F(Reload, ChecksOnAThreadOfItsOwn)
     std::mutex mutex;
     std::condition_variable came;
     std::optional<std::string> rule; // of the first finding
-    Checker checker(folder.path(), [&](const Verdict& verdict) {
+    Checker checker(folder.path(), [&] {
+        const Verdict verdict = checker.take();
         const std::lock_guard<std::mutex> lock(mutex);
         rule = verdict.findings.empty() ? "" : verdict.findings.front().rule;
         came.notify_all();
