@@ -56,22 +56,32 @@ const Attribute* stand_in(const Element& element)
     return other && !is_unknown(element.attributes.front().name) ? &element.attributes.front() : nullptr;
 }
 
+/// Whether a name that nobody knows may be meant as this attribute, which is told.
+bool is_misspelt(const Element& element, const std::string& name)
+{
+    return std::any_of(element.attributes.begin(), element.attributes.end(),
+                       [&](const Attribute& one) { return meant_by(element, one.name) == name; });
+}
+
+/// Attributes that are needed in the same case are told together.
 void find_missing(const ResourceFolder& folder, const Complain& complain)
 {
-    const auto is_misspelt = [](const Element& element, const std::string& name) {
-        return std::any_of(element.attributes.begin(), element.attributes.end(),
-                           [&](const Attribute& one) { return meant_by(element, one.name) == name; });
-    };
     for_each_read(folder, [&](const Element& element) {
-        for (const Case& one : needed_cases()) {
-            const std::string name = osdAttrName(one.id);
-            if (one.on == role_of(element) && element.find(name) == nullptr && one.holds(element) &&
-                !is_misspelt(element, name)) {
-                const Attribute* other = stand_in(element);
-                complain(element.place, name + " is missing",
-                         name + "=\"...\", which " + one.words + " needs" +
-                             (other == nullptr ? "" : ", in place of " + other->name));
+        std::map<std::string, std::vector<std::string>> missing; // by the words of the case
+        for (const Case& one : missing_in(element)) {
+            if (!is_misspelt(element, osdAttrName(one.id)) && !has_odd_context(element)) {
+                missing[one.words].emplace_back(osdAttrName(one.id));
             }
+        }
+        for (const auto& [needing, names] : missing) {
+            std::string given;
+            for (const std::string& name : names) {
+                given += (given.empty() ? "" : " ") + name + "=\"...\"";
+            }
+            const Attribute* other = stand_in(element);
+            complain(element.place, joined(names) + (names.size() == 1 ? " is missing" : " are missing"),
+                     given + ", which " + needing + " needs" +
+                         (other == nullptr ? "" : ", in place of " + other->name));
         }
     });
 }
@@ -95,9 +105,12 @@ void find_empty_values(const ResourceFolder& folder, const Complain& complain)
     });
 }
 
-/// Attributes that wait for the same case are told together: one mistake.
+/// Attributes that wait for the same case are told together; none of an element that may be meant otherwise.
 void tell_unread(const Element& element, const Complain& complain)
 {
+    if (has_odd_context(element) || !missing_in(element).empty()) {
+        return;
+    }
     std::map<std::string, std::vector<const Attribute*>> unread; // by the words of the case
     for (const Attribute& attribute : element.attributes) {
         const AttributeUse* use = find_use(role_of(element), attribute.name);
@@ -107,11 +120,11 @@ void tell_unread(const Element& element, const Complain& complain)
     }
     for (const auto& [wanted, attributes] : unread) {
         const bool one = attributes.size() == 1;
-        std::string names;
+        std::vector<std::string> names;
         for (const Attribute* attribute : attributes) {
-            names += (names.empty() ? "" : ", ") + attribute->name;
+            names.push_back(attribute->name);
         }
-        complain(attributes.front()->place, names + (one ? " does nothing here" : " do nothing here"),
+        complain(attributes.front()->place, joined(names) + (one ? " does nothing here" : " do nothing here"),
                  (one ? "none: it works " : "none: they work ") + wanted);
     }
 }
@@ -191,7 +204,8 @@ const std::vector<Rule>& attribute_rules()
 {
     static const std::vector<Rule> rules = {
         {"unknown-attribute", Severity::Error, "The menu knows each attribute.", find_unknown},
-        {"missing-attribute", Severity::Error, "Elements have the attributes that they need.", find_missing},
+        {"missing-attribute", Severity::Error, "Elements have the attributes that they need.", find_missing,
+         Told::Once},
         {"empty-button", Severity::Warning, "A button that shows a value has a text on it.", find_empty_buttons},
         {"empty-value", Severity::Warning, "A text with a value beside it has ShowValue.", find_empty_values},
         {"idle-attribute", Severity::Warning, "An attribute stands where the menu reads it.", find_idle},

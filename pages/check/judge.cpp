@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <tuple>
 
-#include "pages/grammar/attributes.h"
+#include "pages/grammar/cases.h"
 #include "pages/grammar/page_walk.h"
 #include "pages/menu/menu.h"
 
@@ -91,18 +91,23 @@ private:
         }
         const bool long_page = fault.kind == PAGE_FAULT_TOO_LONG && folder_.pages.count(fault.value) > 0;
         return long_page || (fault.kind == PAGE_FAULT_NO_TEXT && is_text_told(fault.value)) ||
-               std::any_of(element.attributes.begin(), element.attributes.end(),
-                           [&](const Attribute& attribute) { return wrong_.count(key_of_place(attribute.place)) > 0; });
+               std::any_of(
+                   element.attributes.begin(), element.attributes.end(),
+                   [&](const Attribute& attribute) { return wrong_.count(key_of_place(attribute.place)) > 0; }) ||
+               has_odd_context(element);
     }
 
-    /// Whether the text of a key is told missing or unusable, at whatever place.
+    /// Whether the text of a key is told missing or unusable, at whatever place; each that some languages have and others
+    /// lack is.
     bool is_text_told(const std::string& key) const
     {
-        return std::any_of(told_.begin(), told_.end(), [&](const Finding& finding) {
-            const bool of_texts =
-                finding.rule == "missing-text" || finding.rule == "translation" || finding.rule == "text";
-            return of_texts && words_of(finding).find("'" + key + "'") != std::string::npos;
-        });
+        const auto has_text = [&key](const auto& language) { return language.second.count(key) > 0; };
+        return std::any_of(folder_.languages.begin(), folder_.languages.end(), has_text) ||
+               std::any_of(told_.begin(), told_.end(), [&](const Finding& finding) {
+                   const bool of_texts =
+                       finding.rule == "missing-text" || finding.rule == "translation" || finding.rule == "text";
+                   return of_texts && words_of(finding).find("'" + key + "'") != std::string::npos;
+               });
     }
 
     /// Whether it is part of something that stands wrong.

@@ -86,31 +86,6 @@ void find_missing_own_pictures(const ResourceFolder& folder, const Complain& com
     }
 }
 
-/// What goes with a kind of item.
-struct Pair {
-    tagITEM_ATTR_E kind;
-    tagITEM_CTX_E context;
-    tagITEM_VAL_TYPE_E type; ///< where there is a value; else any
-};
-
-constexpr Pair pairs[] = {{CONST_TXT, NAME, OPTTXT},
-                          {CONST_TXT, NAME_VAL, OPTTXT},
-                          {CONST_TXT, NAME_IP_VAL, OPTTXT},
-                          {STATUS, NAME_VAL, OPTTXT},
-                          {STATUS, NAME_IP_VAL, OPTTXT},
-                          {COMMON, NAME_VAL, OPTTXT},
-                          {COMMON, NAME_BAR_VAL, NUMERICAL},
-                          {KEY_WITH_MSG, NAME_VAL, OPTTXT},
-                          {KEY_WITH_MSG, NAME_BAR_VAL, NUMERICAL},
-                          {SUBITEM, NAME_VAL, OPTTXT},
-                          {MSG_WITH_SUBITEM, NAME_VAL, OPTTXT},
-                          {EDITABLE, NAME_IP_VAL, EDITTXT},
-                          {CONFIRM, NAME, OPTTXT},
-                          {CONFIRM, NAME_VAL, OPTTXT},
-                          {CONFIRM_POP, NAME_VAL, OPTTXT},
-                          {CONFIRM_POP_BTN, NAME, OPTTXT},
-                          {SUBPAGE, NAME, OPTTXT}};
-
 template <typename Keyword, std::size_t N, typename Value>
 std::string word_of(const Keyword (&table)[N], Value value)
 {
@@ -119,33 +94,22 @@ std::string word_of(const Keyword (&table)[N], Value value)
     return found == std::end(table) ? "" : found->pcWord;
 }
 
-/// The contexts that go with a kind on a page that isn't one of icons.
-std::vector<std::string> contexts_of(tagITEM_ATTR_E kind)
-{
-    std::vector<std::string> words;
-    for (const Pair& pair : pairs) {
-        if (pair.kind == kind) {
-            words.push_back(word_of(c_astCtxWord, pair.context));
-        }
-    }
-    return words;
-}
-
 void find_odd_contexts(const ResourceFolder& folder, const Complain& complain)
 {
     for_each_item(folder, [&](const Element& item) {
-        const auto kind = kind_of(item);
-        if (!kind || !context_of(item) || !layout_of(item) || layout_of(item) == PAGE_LAYOUT_ICON ||
-            (kind == CONFIRM_POP && context_of(item) == NAME)) {
-            return; // other rules tell of these
+        if (!has_odd_context(item)) {
+            return;
+        }
+        std::vector<std::string> words;
+        for (const Pair& pair : pairs) {
+            if (kind_of(item) == pair.kind) {
+                words.push_back(word_of(c_astCtxWord, pair.context));
+            }
         }
         const Attribute& context = *item.find(osdAttrName(ATTR_CTX));
-        const std::vector<std::string> words = contexts_of(*kind);
-        if (std::count(words.begin(), words.end(), context.value) == 0) {
-            complain(context.place,
-                     "Ctx '" + context.value + "' doesn't go with Attr '" + item.value(osdAttrName(ATTR_ATTR)) + "'",
-                     one_of(context.value, words));
-        }
+        complain(context.place,
+                 "Ctx '" + context.value + "' doesn't go with Attr '" + item.value(osdAttrName(ATTR_ATTR)) + "'",
+                 one_of(context.value, words));
     });
 }
 

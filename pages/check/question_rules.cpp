@@ -79,6 +79,17 @@ void find_missing_answers(const ResourceFolder& folder, const Complain& complain
     });
 }
 
+/// The first answer is selected when the question opens.
+void find_hasty_answers(const ResourceFolder& folder, const Complain& complain)
+{
+    for_each_question(folder, [&](const Link&, const Element& question) {
+        const bool both = has_answer(question, OSD_KEY_NO) && has_answer(question, OSD_KEY_YES);
+        if (is_question(layout_of(question)) && both && key_of(*question.children.front()) == OSD_KEY_YES) {
+            complain(question.children.front()->place, "one press too many says 'Yes'", "'No' as the first answer");
+        }
+    });
+}
+
 void find_opening_answers(const ResourceFolder& folder, const Complain& complain)
 {
     for_each_question(folder, [&](const Link&, const Element& question) {
@@ -127,14 +138,27 @@ std::vector<std::string> confirmed_pages()
     return names;
 }
 
+bool waits_for_question(const Element& root)
+{
+    return root.value(osdAttrName(ATTR_CONFIRM_BTN)) == "Yes" && layout_of(root) && !is_question(layout_of(root));
+}
+
+bool can_store(const PageFile& page)
+{
+    static const std::vector<std::string> known = confirmed_pages();
+    return std::count(known.begin(), known.end(), page.name) > 0;
+}
+
+/// What one rule tells of a whole page.
+bool is_never_stored(const PageFile& page, const Element& root) { return waits_for_question(root) && !can_store(page); }
+
 /// Calls visit(page, root, whether the menu can store its values) for the lists whose values wait for a question.
 template <typename Visit>
 void for_each_confirmed(const ResourceFolder& folder, Visit&& visit)
 {
-    static const std::vector<std::string> known = confirmed_pages();
     for_each_page(folder, [&](const PageFile& page, const Element& root) {
-        if (root.value(osdAttrName(ATTR_CONFIRM_BTN)) == "Yes" && layout_of(root) && !is_question(layout_of(root))) {
-            visit(page, root, std::count(known.begin(), known.end(), page.name) > 0);
+        if (waits_for_question(root)) {
+            visit(page, root, can_store(page));
         }
     });
 }
@@ -189,12 +213,59 @@ void find_behind_store(const ResourceFolder& folder, const Complain& complain)
     });
 }
 
+/// How "Yes" stores the values of a page.
+struct Storing {
+    const char* page;
+    int levels;        ///< of items below options
+    bool options_only; ///< of settings without parent
+};
+
+constexpr Storing storings[] = {{OSD_PAGE_NETWORK, 2, false},
+                                {OSD_PAGE_FORMAT, 1, false},
+                                {OSD_PAGE_VIDEO, 1, true},
+                                {OSD_PAGE_PIP, 0, true},
+                                {OSD_PAGE_ROTATE, 0, false}};
+
+int level_of(const Element& item)
+{
+    int level = 0;
+    for (const Element* above = item.parent; above != nullptr; above = above->parent) {
+        level += role_of(*above) == On::Option ? 1 : 0;
+    }
+    return level;
+}
+
+void find_unstorable(const ResourceFolder& folder, const Complain& complain)
+{
+    for_each_confirmed(folder, [&](const PageFile& page, const Element& root, bool) {
+        const auto* storing = std::find_if(std::begin(storings), std::end(storings),
+                                           [&page](const Storing& one) { return page.name == one.page; });
+        for_each_read(root, [&](const Element& element) {
+            const bool changed = role_of(element) == On::Item && has_value(context_of(element)) &&
+                                 (has_options(kind_of(element)) || is_one_of(kind_of(element), {COMMON, KEY_WITH_MSG}));
+            if (!changed || storing == std::end(storings)) {
+                return;
+            }
+            if (level_of(element) > storing->levels) {
+                complain(element.place, "what is changed in '" + key_of(element) + "' is never stored",
+                         storing->levels == 0 ? "it on page '" + page.name + "' itself"
+                                              : "it at most " + counted(storing->levels, "level") + " below options");
+            } else if (storing->options_only &&
+                       (context_of(element) == NAME_BAR_VAL || element.find(osdAttrName(ATTR_DATA_ZONE)) != nullptr)) {
+                complain(element.place,
+                         "'" + key_of(element) + "' isn't stored: page '" + page.name +
+                             "' stores options of settings without parent",
+                         "such a setting, or another page");
+            }
+        });
+    });
+}
+
 void find_idle_stores(const ResourceFolder& folder, const Complain& complain)
 {
     for_each_page(folder, [&](const PageFile& page, const Element& root) {
-        const std::vector<std::string> known = confirmed_pages();
-        if (std::count(known.begin(), known.end(), page.name) > 0 && storing_item(root) != nullptr &&
-            root.find(osdAttrName(ATTR_CONFIRM_BTN)) == nullptr) {
+        const std::string button = root.value(osdAttrName(ATTR_CONFIRM_BTN));
+        if (can_store(page) && storing_item(root) != nullptr && (button.empty() || button == "No")) {
             complain(root.place, "no value on page '" + page.name + "' waits for its item 'Confirm'",
                      "ConfirmBtn=\"Yes\"");
         }
@@ -208,7 +279,8 @@ void find_lost_addresses(const ResourceFolder& folder, const Complain& complain)
     for_each_page(folder, [&](const PageFile& page, const Element& root) {
         for_each_read(root, [&](const Element& element) {
             const bool edited = role_of(element) == On::Item && kind_of(element) == EDITABLE;
-            if (edited && (page.name != OSD_PAGE_NETWORK || !is_below_option(element))) {
+            if (edited && !(page.name == OSD_PAGE_NETWORK && is_below_option(element)) &&
+                !is_never_stored(page, root)) {
                 complain(element.place, "the address '" + key_of(element) + "' is edited and never stored",
                          "such an item below an option on page 'network'");
             }
@@ -226,6 +298,7 @@ const std::vector<Rule>& question_rules()
         {"no-question", Severity::Warning, "A question is asked side by side, over the page below.", find_no_questions},
         {"no-answer", Severity::Error, "A question has the buttons No and Yes.", find_missing_answers},
         {"answer", Severity::Error, "The buttons No and Yes open no page.", find_opening_answers},
+        {"first-answer", Severity::Warning, "A question begins with No.", find_hasty_answers},
         {"answer-place", Severity::Error, "Answers stand side by side.", find_heaped_answers, Told::Each, true},
         {"asks-nothing", Severity::Error, "A CONFIRM_POP has a value.", find_silent_buttons},
         {"confirmed-page", Severity::Warning,
@@ -234,6 +307,7 @@ const std::vector<Rule>& question_rules()
          find_no_way_to_store},
         {"behind-confirm", Severity::Warning, "No value stands behind the button that stores those of a page.",
          find_behind_store},
+        {"unstorable", Severity::Warning, "A page stores the values that wait on it.", find_unstorable},
         {"idle-confirm", Severity::Warning, "Values wait on a page that has a button to store them.", find_idle_stores},
         {"edited-address", Severity::Warning, "Addresses are edited on page 'network', below an option.",
          find_lost_addresses},

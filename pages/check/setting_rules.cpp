@@ -341,11 +341,13 @@ const std::vector<Rule>& setting_rules()
 {
     static const std::vector<Rule> rules = {
         {"zone", Severity::Error, "A DataZone is one of 'zones' in settings.json.", find_strange_zones, Told::Once},
-        {"no-setting", Severity::Error, "An item that shows a value has a setting.", find_missing_settings},
-        {"setting-kind", Severity::Error, "The setting is of the kind that the item shows.", find_wrong_kinds},
+        {"no-setting", Severity::Error, "An item that shows a value has a setting.", find_missing_settings, Told::Once},
+        {"setting-kind", Severity::Error, "The setting is of the kind that the item shows.", find_wrong_kinds,
+         Told::Once},
         {"address", Severity::Error, "A setting that is shown as an address is one.", find_no_addresses, Told::Once},
         {"options", Severity::Error, "An item with options has those of its setting.", find_other_options},
-        {"fact", Severity::Error, "A STATUS item shows something that the camera knows.", find_strange_facts},
+        {"fact", Severity::Error, "A STATUS item shows something that the camera knows.", find_strange_facts,
+         Told::Once},
         {"no-language", Severity::Error, "Each language of settings.json has its file.", find_missing_languages},
         {"unlisted-language", Severity::Warning, "Each language file is named in settings.json.",
          find_unlisted_languages},

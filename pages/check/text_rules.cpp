@@ -115,6 +115,35 @@ void take_misspelt(const ResourceFolder& folder, Gaps& gaps, const Complain& com
     }
 }
 
+constexpr std::size_t many_gaps = 20;
+
+/// Takes out the languages that lack many texts: somebody is about to translate them.
+void tell_half_done(const ResourceFolder& folder, Gaps& gaps, const Complain& complain)
+{
+    for (const std::string& language : keys_of(folder.languages)) {
+        std::vector<std::string> lacking;
+        for (const auto& [key, without] : gaps) {
+            if (std::count(without.begin(), without.end(), language) > 0) {
+                lacking.push_back(key);
+            }
+        }
+        if (lacking.size() < many_gaps) {
+            continue;
+        }
+        complain({language_file(language)},
+                 std::to_string(lacking.size()) + " keys have no text in " + language + ", the first is '" +
+                     lacking.front() + "'",
+                 "all texts: osdmenu-pages texts export FOLDER " + language + " FILE.po has them to translate");
+        for (const std::string& key : lacking) {
+            std::vector<std::string>& without = gaps[key];
+            without.erase(std::find(without.begin(), without.end(), language));
+            if (without.empty()) {
+                gaps.erase(key);
+            }
+        }
+    }
+}
+
 void find_untranslated(const ResourceFolder& folder, const Complain& complain)
 {
     const std::map<std::string, Place> keys = all_keys(folder);
@@ -126,6 +155,7 @@ void find_untranslated(const ResourceFolder& folder, const Complain& complain)
         }
     }
     take_misspelt(folder, gaps, complain);
+    tell_half_done(folder, gaps, complain);
     for (const auto& [key, without] : gaps) {
         const Place& known = keys.at(key);
         complain({language_file(without.front())}, "'" + key + "' has no text in " + joined(without),

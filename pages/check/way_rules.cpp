@@ -6,20 +6,40 @@
 #include "menu/core/words.h"
 #include "osd_types.h"
 #include "pages/check/links.h"
-#include "pages/grammar/page_walk.h"
+#include "pages/grammar/cases.h"
 
 namespace pages {
 namespace {
 
 constexpr const char* first_pages[] = {OSD_PAGE_MAIN, OSD_PAGE_ADVANCED}; ///< that a key opens
 
+/// The page that a link to a missing one may mean: another one than its own, and of names like "confirm_image" one whose
+/// last part is near.
+std::string page_meant(const ResourceFolder& folder, const Link& link)
+{
+    const std::string name = page_name(link.target);
+    const std::string head = name.substr(0, name.rfind('_') + 1);
+    std::vector<std::string> parts; // behind the head
+    std::vector<std::string> others;
+    for (const std::string& page : keys_of(folder.pages)) {
+        if (!head.empty() && page.compare(0, head.size(), head) == 0) {
+            parts.push_back(page.substr(head.size()));
+        } else if (page != link.page->name) {
+            others.push_back(page);
+        }
+    }
+    const std::string part = nearest_word(name.substr(head.size()), parts);
+    return part.empty() ? nearest_word(name, others) : head + part;
+}
+
 void find_broken_links(const ResourceFolder& folder, const Complain& complain)
 {
     for (const Link& link : all_links(folder)) {
         if (folder.pages.count(link.target) == 0) {
+            const std::string name = page_name(link.target);
+            const std::string meant = page_meant(folder, link);
             complain(link.attribute->place, link.attribute->name + ": there is no page '" + link.target + "'",
-                     nearest_or(page_name(link.target), keys_of(folder.pages),
-                                "a file " + page_name(link.target) + "_page.xml"));
+                     meant.empty() ? "a file " + name + "_page.xml" : "'" + meant + "'");
         }
     }
 }
@@ -85,41 +105,33 @@ private:
                            [&](const Link& circle) { return circle.attribute == link.attribute; });
     }
 
-    /// How many links it takes to the pages that can be reached.
-    std::map<std::string, int> distances(const std::vector<std::string>& from) const
-    {
-        std::map<std::string, int> far;
-        std::vector<std::string> pages = from;
-        for (const std::string& page : from) {
-            far.emplace(page, 0);
-        }
-        for (std::size_t i = 0; i < pages.size(); ++i) { // which grows
-            const auto links = links_.find(pages[i]);
-            const int next = far.at(pages[i]) + 1;
-            for (std::size_t j = 0; links != links_.end() && j < links->second.size(); ++j) {
-                if (far.emplace(links->second[j].target, next).second) {
-                    pages.push_back(links->second[j].target);
-                }
-            }
-        }
-        return far;
-    }
-
+    /// Goes as deep as it can, from the first pages on: a link to a page below itself leads back.
     void find_circles()
     {
-        const std::map<std::string, int> far = distances({std::begin(first_pages), std::end(first_pages)});
-        for (const auto& [page, links] : links_) {
-            for (const Link& link : links) {
-                const bool backwards = far.count(page) > 0 && far.at(link.target) <= far.at(page);
-                if (backwards && distances({link.target}).count(page) > 0) {
-                    circles_.push_back(link);
-                }
-            }
+        Stack stack;
+        for (const char* first : first_pages) {
+            go_down(first, stack);
         }
+    }
+
+    void go_down(const std::string& page, Stack& stack)
+    {
+        if (!entered_.insert(page).second) {
+            return;
+        }
+        stack.push_back(page);
+        for (const Link& link : links_[page]) {
+            if (std::count(stack.begin(), stack.end(), link.target) > 0) {
+                circles_.push_back(link);
+            }
+            go_down(link.target, stack);
+        }
+        stack.pop_back();
     }
 
     std::map<std::string, std::vector<Link>> links_;
     std::vector<Link> circles_;
+    std::set<std::string> entered_;
     std::set<std::string> reached_;
 };
 
@@ -148,7 +160,21 @@ void find_sixth_pages(const ResourceFolder& folder, const Complain& complain)
     }
 }
 
-/// Whether the page turns back to another one, which says otherwise, or is a question and something else is asked.
+/// Whether an item names the page where that does nothing.
+bool is_named_idly(const ResourceFolder& folder, const std::string& page)
+{
+    bool named = false;
+    for_each_item(folder, [&](const Element& item) {
+        for (const Attribute& attribute : item.attributes) {
+            const AttributeUse* use = attribute.value == page ? find_use(role_of(item), attribute.name) : nullptr;
+            named = named || (use != nullptr && use->holds == Holds::Page && !is_read(item, *use));
+        }
+    });
+    return named;
+}
+
+/// Whether another rule tells of it: the page turns back to another one, which says otherwise, it is a question and
+/// something else is asked, or an item names it and doesn't open it.
 bool is_missed(const ResourceFolder& folder, const std::vector<Link>& links, const std::string& page)
 {
     const auto is_question_page = [&](const std::string& name) {
@@ -156,25 +182,21 @@ bool is_missed(const ResourceFolder& folder, const std::vector<Link>& links, con
         return found != folder.pages.end() && found->second.root != nullptr &&
                is_question(layout_of(*found->second.root));
     };
-    return std::any_of(links.begin(), links.end(), [&](const Link& link) {
-        const bool turns = link.is_back() && link.page->name == page;
-        return turns || (link.is_question() && is_question_page(page) && !is_question_page(link.target));
-    });
+    return is_named_idly(folder, page) || std::any_of(links.begin(), links.end(), [&](const Link& link) {
+               const bool turns = link.is_back() && link.page->name == page;
+               return turns || (link.is_question() && is_question_page(page) && !is_question_page(link.target));
+           });
 }
 
-/// Whether all is known that leads from a page: it can be read, no item is passed over, and each that is to open
-/// a page says which one.
+/// Whether all is known that leads from a page: it can be read, no item is passed over, and none may be meant otherwise.
 bool is_plain(const PageFile& page)
 {
     bool plain = page.root != nullptr;
     if (plain) {
         for_each_element(*page.root, [&](const Element& element) {
-            const bool opens = role_of(element) == On::Item && kind_of(element) == SUBPAGE;
-            const bool asking = role_of(element) == On::Item && asks(kind_of(element));
-            const bool idle = role_of(element) == On::Item && is_idle_icon(element);
-            plain = plain && !idle && !is_misplaced(element) && (!is_blind(element) || element.children.empty()) &&
-                    (!opens || element.find(osdAttrName(ATTR_SUB_PAGE)) != nullptr) &&
-                    (!asking || element.find(osdAttrName(ATTR_CONFIRM_PAGE)) != nullptr);
+            const bool item = role_of(element) == On::Item;
+            plain = plain && !is_misplaced(element) && (!is_blind(element) || element.children.empty()) &&
+                    missing_in(element).empty() && !(item && (is_idle_icon(element) || has_odd_context(element)));
         });
     }
     return plain;
@@ -211,11 +233,14 @@ void find_unreached(const ResourceFolder& folder, const Complain& complain)
     }
 }
 
-/// Whether a page says itself where it turns to, or another one says that it turns to this one: the fault is told there.
-bool is_told_forwards(const std::vector<Link>& links, const Link& back)
+/// Whether the other page turns to a third one that doesn't turn back to it, or another one to this page: told there.
+bool is_told_forwards(const ResourceFolder& folder, const std::vector<Link>& links, const Link& back)
 {
     return std::any_of(links.begin(), links.end(), [&](const Link& link) {
-        return link.is_next() && (link.page->name == back.target || link.target == back.page->name);
+        const auto target = folder.pages.find(link.target);
+        const bool fits = target != folder.pages.end() && target->second.root != nullptr &&
+                          target->second.root->value(osdAttrName(ATTR_PREV_PAGE)) == link.page->name;
+        return link.is_next() && !fits && (link.page->name == back.target || link.target == back.page->name);
     });
 }
 
@@ -235,7 +260,7 @@ void find_wrong_turns(const ResourceFolder& folder, const Complain& complain)
         } else if (link.is_next() && link.target == link.page->name) {
             complain(link.attribute->place, "the page turns to itself", "another page, or no NextPage");
         } else if (root != nullptr && root->value(other) != link.page->name &&
-                   !(link.is_back() && is_told_forwards(links, link))) {
+                   !(link.is_back() && is_told_forwards(folder, links, link))) {
             complain(link.attribute->place,
                      "page '" + link.target + "' doesn't turn to this one: its " + other + " is '" +
                          root->value(other) + "'",
@@ -249,7 +274,7 @@ void find_wrong_turns(const ResourceFolder& folder, const Complain& complain)
 const std::vector<Rule>& way_rules()
 {
     static const std::vector<Rule> rules = {
-        {"no-page", Severity::Error, "A page that another one opens has a file.", find_broken_links},
+        {"no-page", Severity::Error, "A page that another one opens has a file.", find_broken_links, Told::Once},
         {"main-page", Severity::Error, "The menu has its first page.", find_missing_main},
         {"sixth-page", Severity::Error, "At most five pages are open.", find_sixth_pages, Told::Once},
         {"unreached-page", Severity::Warning, "Keys lead to each page.", find_unreached},

@@ -70,10 +70,26 @@ bool is_clear(const Element& element)
 
 } // namespace
 
-const std::vector<Case>& needed_cases()
+std::vector<Case> missing_in(const Element& element)
 {
-    static const std::vector<Case> cases(std::begin(needed), std::end(needed));
-    return cases;
+    std::vector<Case> missing;
+    for (const Case& one : needed) {
+        if (one.on == role_of(element) && element.find(osdAttrName(one.id)) == nullptr && one.holds(element)) {
+            missing.push_back(one);
+        }
+    }
+    return missing;
+}
+
+bool has_odd_context(const Element& item)
+{
+    const auto kind = kind_of(item);
+    if (!kind || !context_of(item) || !layout_of(item) || layout_of(item) == PAGE_LAYOUT_ICON ||
+        (kind == CONFIRM_POP && context_of(item) == NAME)) {
+        return false; // other rules tell of these
+    }
+    return std::none_of(std::begin(pairs), std::end(pairs),
+                        [&](const Pair& pair) { return kind == pair.kind && context_of(item) == pair.context; });
 }
 
 const Case* case_of_reading(const Element& element, const AttributeUse& use)

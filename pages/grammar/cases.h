@@ -16,7 +16,36 @@ struct Case {
     const char* words;
 };
 
-const std::vector<Case>& needed_cases();
+/// The attributes that an element needs and hasn't, with the words of their cases.
+std::vector<Case> missing_in(const Element& element);
+
+/// What goes with a kind of item.
+struct Pair {
+    tagITEM_ATTR_E kind;
+    tagITEM_CTX_E context;
+    tagITEM_VAL_TYPE_E type; ///< where there is a value; else any
+};
+
+inline constexpr Pair pairs[] = {{CONST_TXT, NAME, OPTTXT},
+                                 {CONST_TXT, NAME_VAL, OPTTXT},
+                                 {CONST_TXT, NAME_IP_VAL, OPTTXT},
+                                 {STATUS, NAME_VAL, OPTTXT},
+                                 {STATUS, NAME_IP_VAL, OPTTXT},
+                                 {COMMON, NAME_VAL, OPTTXT},
+                                 {COMMON, NAME_BAR_VAL, NUMERICAL},
+                                 {KEY_WITH_MSG, NAME_VAL, OPTTXT},
+                                 {KEY_WITH_MSG, NAME_BAR_VAL, NUMERICAL},
+                                 {SUBITEM, NAME_VAL, OPTTXT},
+                                 {MSG_WITH_SUBITEM, NAME_VAL, OPTTXT},
+                                 {EDITABLE, NAME_IP_VAL, EDITTXT},
+                                 {CONFIRM, NAME, OPTTXT},
+                                 {CONFIRM, NAME_VAL, OPTTXT},
+                                 {CONFIRM_POP, NAME_VAL, OPTTXT},
+                                 {CONFIRM_POP_BTN, NAME, OPTTXT},
+                                 {SUBPAGE, NAME, OPTTXT}};
+
+/// Whether what an item shows doesn't go with its kind, on a page that isn't one of icons: either may be meant.
+bool has_odd_context(const Element& item);
 
 /// Where the menu reads an attribute; null for all elements of its name.
 const Case* case_of_reading(const Element& element, const AttributeUse& use);
