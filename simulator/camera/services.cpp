@@ -95,46 +95,43 @@ void answer_nonsense(tagCFG_VALUE_TXT_S& value)
     }
 }
 
-int get_text(const char* parent, const char* key, tagCFG_VALUE_TXT_S* value)
+/// Runs the body of a call for the value of a setting, a number or none.
+template <typename Value, typename Body>
+int answer_setting(const char* parent, const char* key, bool number, Value* value, Body body)
 {
     return serve_setting([&](Camera& camera) {
         const SettingId id{text_or_empty(parent), text_or_empty(key)};
-        if (refuses(camera, Fault::SettingsRefusing, "settings", "setting " + to_string(id))) {
-            return failed;
-        }
-        const Setting* setting = find_setting(camera, id, false);
+        const bool refused = refuses(camera, Fault::SettingsRefusing, "settings", "setting " + to_string(id));
+        const Setting* setting = refused ? nullptr : find_setting(camera, id, number);
         if (setting == nullptr || value == nullptr) {
             return failed;
         }
-        if (camera.faults.is_on(Fault::SettingsOutOfRange)) {
+        body(camera, *setting, camera.faults.is_on(Fault::SettingsOutOfRange));
+        return ok;
+    });
+}
+
+int get_text(const char* parent, const char* key, tagCFG_VALUE_TXT_S* value)
+{
+    return answer_setting(parent, key, false, value, [value](Camera& camera, const Setting& setting, bool nonsense) {
+        if (nonsense) {
             answer_nonsense(*value);
-            return ok;
+            return;
         }
         std::string list;
-        for (const std::string& option : setting->options) {
+        for (const std::string& option : setting.options) {
             list += (list.empty() ? "" : ":") + option;
         }
         fill_field(value->acList, list);
-        fill_field(value->acValue, camera.settings.value(id));
-        return ok;
+        fill_field(value->acValue, camera.settings.value(setting.id));
     });
 }
 
 int get_number(const char* parent, const char* key, tagCFG_VALUE_INT_S* value)
 {
-    return serve_setting([&](Camera& camera) {
-        const SettingId id{text_or_empty(parent), text_or_empty(key)};
-        if (refuses(camera, Fault::SettingsRefusing, "settings", "setting " + to_string(id))) {
-            return failed;
-        }
-        const Setting* setting = find_setting(camera, id, true);
-        if (setting == nullptr || value == nullptr) {
-            return failed;
-        }
-        const bool nonsense = camera.faults.is_on(Fault::SettingsOutOfRange);
-        const std::int32_t present = nonsense ? no_number : camera.settings.number(id);
-        *value = {setting->min, setting->max, 0, setting->step, present};
-        return ok;
+    return answer_setting(parent, key, true, value, [value](Camera& camera, const Setting& setting, bool nonsense) {
+        const std::int32_t present = nonsense ? no_number : camera.settings.number(setting.id);
+        *value = {setting.min, setting.max, 0, setting.step, present};
     });
 }
 
