@@ -38,7 +38,7 @@ Selection checked(const Selection& selection, const ResourceFolder& folder)
     }
     for (const std::uint32_t style : selection.styles) {
         if (style >= style_count) {
-            throw BadInput("no style " + std::to_string(style) + ", expected 0, 1 or 2");
+            throw BadInput("no style " + std::to_string(style) + ", expected " + style_words);
         }
     }
     if (folder.languages.empty()) {

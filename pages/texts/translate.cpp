@@ -50,8 +50,8 @@ std::string comment_for(const std::vector<TextUse>& uses, const TextRoom* room)
     comment = (comment.empty() ? "nothing here uses it, but a camera may tell this key" : comment) + "\nat most " +
               std::to_string(max_text_bytes) + " bytes";
     if (room != nullptr) {
-        comment += ", and " + std::to_string(room->room) + " pixels on page " + room->page +
-                   (room->view.uhd ? " at 4k" : " at 1080p") + ", where the English has " + std::to_string(room->width);
+        comment += ", and " + std::to_string(room->room) + " pixels on page " + room->page + " at " +
+                   size_name(room->view.uhd) + ", where the English has " + std::to_string(room->width);
     }
     return comment + "\n";
 }

@@ -4,6 +4,7 @@
 #include "pages/data/definitions.h"
 #include "pages/data/errors.h"
 #include "pages/data/json_file.h"
+#include "pages/data/looks.h"
 #include "pages/data/page_file.h"
 #include "pages/data/text_file.h"
 #include "pages/data/texts.h"
@@ -31,6 +32,10 @@ using pages::read_text_file;
 using pages::Setting;
 using pages::SettingId;
 using pages::SettingKind;
+using pages::size_name;
+using pages::size_names;
+using pages::style_count;
+using pages::style_words;
 using pages::text_of;
 using pages::to_string;
 

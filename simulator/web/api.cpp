@@ -320,9 +320,11 @@ void Api::post_menu(const Call& call)
     const json body = read_object(call.request);
     refuse_other_fields(body, {"style", "size", "page"});
     const json style = body.value("style", json(0));
-    const json size = body.value("size", json("1080p"));
-    if (body.empty() || !style.is_number_integer() || style < 0 || style > 2 || (size != "1080p" && size != "4k")) {
-        throw HttpError(400, "expected a 'style' of 0, 1 or 2, a 'size' of \"1080p\" or \"4k\", or a 'page'");
+    const json size = body.value("size", json(size_name(false)));
+    if (body.empty() || !style.is_number_integer() || style < 0 || style >= style_count ||
+        std::count(size_names.begin(), size_names.end(), size) == 0) {
+        throw HttpError(400, std::string("expected a 'style' of ") + style_words + ", a 'size' of \"" +
+                                 size_name(false) + "\" or \"" + size_name(true) + "\", or a 'page'");
     }
     const std::optional<std::string> page =
         body.contains("page") ? std::optional(text_field(body, "page")) : std::nullopt;
@@ -332,7 +334,7 @@ void Api::post_menu(const Call& call)
         }
         MenuConfig wanted = parts_.session.config();
         wanted.style = body.contains("style") ? style.get<std::uint32_t>() : wanted.style;
-        wanted.uhd = body.contains("size") ? size == "4k" : wanted.uhd;
+        wanted.uhd = body.contains("size") ? size == size_name(true) : wanted.uhd;
         if (body.contains("style") || body.contains("size")) {
             parts_.session.restart(wanted);
         }
@@ -342,7 +344,7 @@ void Api::post_menu(const Call& call)
         }
         return wanted;
     });
-    answer_json(call.response, {{"style", config.style}, {"size", config.uhd ? "4k" : "1080p"}});
+    answer_json(call.response, {{"style", config.style}, {"size", size_name(config.uhd)}});
 }
 
 void Api::get_faults(const Call& call) { answer_json(call.response, faults_json(parts_.camera.faults())); }

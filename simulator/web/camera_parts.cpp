@@ -90,7 +90,7 @@ json state_json(const CameraParts& parts)
             {"language", parts.camera.language()},
             {"languages", languages_json(parts.camera)},
             {"style", config.style},
-            {"size", config.uhd ? "4k" : "1080p"},
+            {"size", size_name(config.uhd)},
             {"channels", channels_json(parts.camera)},
             {"pages", std::move(list)},
             {"all_pages", page_names(parts.camera.resources())},
