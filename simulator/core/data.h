@@ -8,6 +8,7 @@
 #include "pages/data/page_file.h"
 #include "pages/data/text_file.h"
 #include "pages/data/texts.h"
+#include "pages/data/words.h"
 
 namespace sim {
 
@@ -17,11 +18,13 @@ using pages::Definitions;
 using pages::fact_of_event;
 using pages::FieldReader;
 using pages::is_page_file;
+using pages::joined;
 using pages::language_setting;
 using pages::load_definitions;
 using pages::load_json_object;
 using pages::number_of;
 using pages::on_one_line;
+using pages::one_of;
 using pages::option_of_language;
 using pages::page_folder;
 using pages::page_name;

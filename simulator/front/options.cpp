@@ -71,15 +71,6 @@ std::string key_help()
     return text + "Escape is the menu key while the menu is open.\n";
 }
 
-std::string fault_names()
-{
-    std::string names;
-    for (const FaultRow& row : all_faults()) {
-        names += " " + std::string(row.name);
-    }
-    return names;
-}
-
 std::uint32_t pixel_format_of(const std::string& name)
 {
     return static_cast<std::uint32_t>(std::find(format_names.begin(), format_names.end(), name) - format_names.begin());
@@ -155,7 +146,7 @@ void declare_others(CLI::App& app, Options& options)
 {
     app.add_option_function<std::vector<std::string>>(
            "--faults", [&options](const std::vector<std::string>& names) { options.faults = parse_faults(names); },
-           "Let parts of the camera fail, separated by commas:" + fault_names())
+           "Let parts of the camera fail, separated by commas: " + joined(fault_names()))
         ->delimiter(',')
         ->allow_extra_args(false)
         ->type_name("NAME,NAME");

@@ -61,6 +61,7 @@ const std::vector<Api::Route>& Api::routes()
         {"GET", "/channels/*/snapshot.jpg", &Api::get_jpeg},
         {"GET", "/channels/*/snapshot.png", &Api::get_png},
         {"GET", "/overlay.png", &Api::get_overlay},
+        {"GET", "/keys", &Api::get_keys},
         {"POST", "/keys", &Api::post_keys},
         {"GET", "/state", &Api::get_state},
         {"GET", "/settings", &Api::get_settings},
@@ -110,7 +111,7 @@ void Api::serve(const httplib::Request& request, httplib::Response& response)
 void Api::dispatch(const httplib::Request& request, httplib::Response& response)
 {
     const std::string method = request.method == "HEAD" ? "GET" : request.method;
-    std::string allowed;
+    std::vector<std::string> allowed;
     for (const Route& route : routes()) {
         const auto arguments = match_path(route.path, request.path);
         if (arguments && method == route.method) {
@@ -118,7 +119,7 @@ void Api::dispatch(const httplib::Request& request, httplib::Response& response)
             return;
         }
         if (arguments) {
-            allowed += (allowed.empty() ? "" : ", ") + std::string(route.method);
+            allowed.emplace_back(route.method);
         }
     }
     if (allowed.empty() && serve_page_file(page_, request, response)) {
@@ -127,8 +128,8 @@ void Api::dispatch(const httplib::Request& request, httplib::Response& response)
     if (allowed.empty()) {
         throw HttpError(404, "there is nothing at " + request.path);
     }
-    response.set_header("Allow", allowed);
-    throw HttpError(405, request.path + " takes " + allowed + ", not " + request.method);
+    response.set_header("Allow", joined(allowed));
+    throw HttpError(405, request.path + " takes " + joined(allowed) + ", not " + request.method);
 }
 
 ChannelStream& Api::stream_of(const std::string& channel)
@@ -212,6 +213,8 @@ void Api::get_overlay(const Call& call)
         return encode_png(canvas ? *canvas : Image(parts_.camera.channels().size(0)), true);
     });
 }
+
+void Api::get_keys(const Call& call) { answer_json(call.response, keys_json()); }
 
 /// Each key in a turn of its own, so that a long list doesn't keep others away.
 std::size_t Api::press_keys(const json& names)
