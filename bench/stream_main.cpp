@@ -6,19 +6,20 @@
 #include <atomic>
 #include <chrono>
 #include <condition_variable>
-#include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <jpeglib.h>
 #include <mutex>
 #include <string>
-#include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
 #include <vector>
 
 #include <httplib.h>
+
+#include "tests/simulator/camera_process.h"
 
 namespace {
 
@@ -46,40 +47,38 @@ std::string format(const char* pattern, Values... values)
     return words;
 }
 
-/// A camera with settings of its own, which go with it.
+/// A folder of its own, which goes with all in it.
+struct Folder {
+    Folder()
+    {
+        if (mkdtemp(path) == nullptr) {
+            throw std::runtime_error("no temporary folder");
+        }
+    }
+    ~Folder() { std::filesystem::remove_all(path); }
+    Folder(const Folder&) = delete;
+    Folder& operator=(const Folder&) = delete;
+
+    char path[32] = "/tmp/bench-stream-XXXXXX";
+};
+
+/// A camera with settings of its own.
 class Camera {
 public:
-    Camera(const char* program, const char* pixel_format)
+    Camera(const char* program, const std::string& pixel_format)
+        : process_(folder_.path, std::filesystem::absolute(program).string(),
+                   "--format " + pixel_format + " --listen 127.0.0.1:0 2>/dev/null"),
+          port_(port_of(process_.next_line()))
     {
-        int ends[2];
-        if (mkdtemp(folder_) == nullptr || pipe(ends) != 0) {
-            throw std::runtime_error("no temporary folder or no pipe");
-        }
-        child_ = fork();
-        if (child_ == 0) {
-            dup2(ends[1], STDOUT_FILENO);
-            close(ends[0]);
-            (void)!freopen("/dev/null", "w", stderr);
-            execl(program, program, "--data", folder_, "--format", pixel_format, "--listen", "127.0.0.1:0", nullptr);
-            _exit(127);
-        }
-        close(ends[1]);
-        char line[200] = "";
-        FILE* lines = fdopen(ends[0], "r");
-        const bool started = fgets(line, sizeof line, lines) != nullptr;
-        fclose(lines);
-        if (!started) {
+        if (port_ == 0) {
             throw std::runtime_error(std::string(program) + " doesn't start");
         }
-        const std::string address = line;
-        port_ = std::atoi(address.substr(address.rfind(':') + 1).c_str());
     }
 
     ~Camera()
     {
-        kill(child_, SIGTERM);
-        waitpid(child_, nullptr, 0);
-        (void)!std::system(("rm -r '" + std::string(folder_) + "'").c_str());
+        process_.send(SIGTERM);
+        process_.end();
     }
 
     Camera(const Camera&) = delete;
@@ -97,7 +96,7 @@ public:
     /// Seconds of processor time that it has used so far.
     double cpu_seconds() const
     {
-        std::ifstream stat("/proc/" + std::to_string(child_) + "/stat");
+        std::ifstream stat("/proc/" + std::to_string(process_.id()) + "/stat");
         std::string word;
         long ticks = 0;
         for (int field = 1; field <= 15 && stat >> word; ++field) {
@@ -109,16 +108,16 @@ public:
     /// Bytes of memory that are in use.
     double resident_mebibytes() const
     {
-        std::ifstream statm("/proc/" + std::to_string(child_) + "/statm");
+        std::ifstream statm("/proc/" + std::to_string(process_.id()) + "/statm");
         double pages = 0;
         statm >> pages >> pages;
         return pages * static_cast<double>(sysconf(_SC_PAGESIZE)) / (1 << 20);
     }
 
 private:
-    char folder_[32] = "/tmp/bench-stream-XXXXXX";
-    pid_t child_ = 0;
-    int port_ = 0;
+    const Folder folder_;
+    const CameraProcess process_;
+    const int port_;
 };
 
 /// The left 896 columns of a picture, where the menu stands, at an eighth of their size.

@@ -39,7 +39,7 @@ SEES = {  # folder: what it includes beside itself
     "tools": ["pages/data"],
     "tests": ["include", "platform", "pages/data", "pages/menu", "pages/grammar", "pages/measure", "pages/check",
               "pages/preview", "pages/map", "pages/schema", "pages/texts", "pages"] + SIMULATOR,
-    "bench": ["include", "platform", "pages/data", "pages/check"],
+    "bench": ["include", "platform", "pages/data", "pages/check", "tests"],  # starts cameras as the tests do
 }
 for place, layer in enumerate(SIMULATOR):
     SEES[layer] += SIMULATOR[:place]

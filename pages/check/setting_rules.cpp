@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <filesystem>
 #include <set>
-#include <sstream>
 
 #include "menu/core/led_color.h"
 #include "menu/core/value_status.h"
@@ -156,19 +155,6 @@ std::optional<std::vector<std::string>> offer_of(const Element& item)
         offered.push_back(option->value(osdAttrName(ATTR_MODE_INDEX)));
     }
     return offered;
-}
-
-bool is_address(const std::string& text)
-{
-    std::istringstream parts(text + ".");
-    int count = 0;
-    for (std::string part; std::getline(parts, part, '.'); ++count) {
-        if (part.empty() || part.size() > 3 || part.find_first_not_of("0123456789") != part.npos ||
-            std::stoi(part) > 255) {
-            return false;
-        }
-    }
-    return count == 4;
 }
 
 void find_no_addresses(const ResourceFolder& folder, const Complain& complain)

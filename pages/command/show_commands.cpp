@@ -36,7 +36,7 @@ Selection selection_of(const ShowOptions& options)
 {
     Selection selection = options.selection;
     if (!options.size.empty()) {
-        selection.uhd = options.size == "4k";
+        selection.uhd = options.size == size_name(true);
     }
     return selection;
 }
@@ -96,7 +96,7 @@ void add_common(CLI::App& command, ShowOptions& options)
     command.add_option("--fonts", options.fonts, "folder with font.ttf, bold_font.ttf and tcfont.ttf");
     command.add_option("--language", options.selection.languages, "this language only; more than one can be given");
     command.add_option("--style", options.selection.styles, "this style only, 0 to 2; more than one can be given");
-    command.add_option("--size", options.size, "this size only")->check(CLI::IsMember({"1080p", "4k"}));
+    command.add_option("--size", options.size, "this size only")->check(CLI::IsMember(size_names));
 }
 
 } // namespace

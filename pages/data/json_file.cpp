@@ -20,6 +20,8 @@ namespace {
 
 using nlohmann::json;
 
+constexpr int deepest = 32; ///< copying and writing JSON takes stack for each level
+
 /// Where the token begins that ends before a place: the opening quotation mark of a text; all else is one character.
 std::size_t token_begin(const std::string& text, std::size_t end)
 {
@@ -46,9 +48,12 @@ public:
     {
     }
 
-    bool operator()(int /*depth*/, json::parse_event_t event, json& parsed)
+    bool operator()(int depth, json::parse_event_t event, json& parsed)
     {
         using Event = json::parse_event_t;
+        if (depth > deepest) {
+            throw BadInput(token_place(), "this nests deeper than " + std::to_string(deepest) + " levels");
+        }
         if (event == Event::key) {
             take_key(parsed.get<std::string>());
         } else if (event == Event::object_end || event == Event::array_end) {

@@ -1,6 +1,7 @@
 #include "pages/data/setting.h"
 
 #include <algorithm>
+#include <arpa/inet.h>
 #include <charconv>
 #include <cstdio>
 #include <tuple>
@@ -21,11 +22,25 @@ bool parse_whole(const std::string& text, int base, std::int32_t& number)
 std::string problem_with_number(const Setting& setting, const std::string& text)
 {
     std::int32_t number = 0;
-    if (parse_whole(text, 10, number) && number >= setting.min && number <= setting.max) {
+    const bool fits = parse_whole(text, 10, number) && number >= setting.min && number <= setting.max;
+    if (fits && text == std::to_string(number)) {
         return "";
+    }
+    if (fits) {
+        return "'" + text + "' can't be used, expected '" + std::to_string(number) + "', without zeros in front";
     }
     return "'" + text + "' can't be used, expected a whole number from " + std::to_string(setting.min) + " to " +
            std::to_string(setting.max);
+}
+
+std::string problem_with_text(const Setting& setting, const std::string& text)
+{
+    if (text.size() >= OSD_CFG_VALUE_LEN) {
+        return "'" + text + "' is too long, expected at most 15 bytes";
+    }
+    return !holds_address(setting) || is_address(text)
+               ? ""
+               : "'" + text + "' is no address, expected one such as " + setting.default_text;
 }
 
 } // namespace
@@ -44,6 +59,17 @@ std::string to_string(const SettingId& id)
     return "'" + id.key + "'" + (id.parent.empty() ? "" : " of '" + id.parent + "'");
 }
 
+bool is_address(const std::string& text)
+{
+    in_addr address{};
+    return ::inet_pton(AF_INET, text.c_str(), &address) == 1;
+}
+
+bool holds_address(const Setting& setting)
+{
+    return setting.kind == SettingKind::Text && is_address(setting.default_text);
+}
+
 std::string problem_with(const Setting& setting, const std::string& text)
 {
     std::int32_t number = 0;
@@ -55,7 +81,7 @@ std::string problem_with(const Setting& setting, const std::string& text)
     case SettingKind::Integer:
         return problem_with_number(setting, text);
     case SettingKind::Text:
-        return text.size() < OSD_CFG_VALUE_LEN ? "" : "'" + text + "' is too long, expected at most 15 bytes";
+        return problem_with_text(setting, text);
     case SettingKind::HexColor:
         return text.size() == 6 && parse_whole(text, 16, number) && number >= 0
                    ? ""

@@ -45,8 +45,14 @@ struct Setting {
     Place place; ///< in the definitions
 };
 
+/// Whether a text is an address such as 192.168.1.120: four numbers up to 255, without zeros in front.
+bool is_address(const std::string& text);
+/// Whether all values of a setting must be addresses: so it is when its default is one, as the default of each setting
+/// must be that a page shows as an address.
+bool holds_address(const Setting& setting);
+
 /// Why the setting can't have this value, in words; empty when it can. All values are texts: an option's key, a
-/// decimal number, a text of at most 15 bytes, six hexadecimal digits.
+/// decimal number, a text of at most 15 bytes or an address, six hexadecimal digits.
 std::string problem_with(const Setting& setting, const std::string& text);
 
 /// The number in the text of an Integer or HexColor setting. The text must fit the setting.

@@ -175,11 +175,11 @@ std::string Judge::words_of(const Looks& looks) const
     for (const auto& [language, style, uhd] : looks) {
         languages.insert(language);
         styles.insert("style " + std::to_string(style));
-        sizes.insert(uhd ? "4k" : "1080p");
+        sizes.insert(size_name(uhd));
     }
     std::string words;
-    for (const std::string& part :
-         {list_of(languages, folder_.languages.size()), list_of(styles, style_count), list_of(sizes, 2)}) {
+    for (const std::string& part : {list_of(languages, folder_.languages.size()), list_of(styles, style_count),
+                                    list_of(sizes, size_names.size())}) {
         words += part.empty() ? "" : (words.empty() ? "" : ", ") + part;
     }
     return words.empty() ? "" : " (" + words + ")";
@@ -227,7 +227,7 @@ Finding Judge::finding_of(const Cut& cut) const
     const std::string misfit = cut_by_number ? counted(worst.lost, "byte") + " too long with the number behind it"
                                              : counted(-worst.left(), "pixel") + " too wide";
     const std::string fit = cut_by_number ? std::to_string(max_text_bytes) + " bytes with two blanks and the number"
-                                          : std::to_string(worst.room) + " at " + (worst.view.uhd ? "4k" : "1080p");
+                                          : std::to_string(worst.room) + " at " + size_name(worst.view.uhd);
     return {cut.place,
             Severity::Error,
             cut_rule,

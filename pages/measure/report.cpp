@@ -16,15 +16,13 @@ std::string item_of(const TextRoom& room)
     return key.empty() && room.element->parent != nullptr ? room.element->parent->value("ItemIndex") : key;
 }
 
-const char* size_of(const TextRoom& room) { return room.view.uhd ? "4k" : "1080p"; }
-
 Row row_of(const TextRoom& room)
 {
     return {room.page,
             item_of(room),
             name_of(room.role),
             room.view.language,
-            "style " + std::to_string(room.view.style) + " " + size_of(room),
+            "style " + std::to_string(room.view.style) + " " + size_name(room.view.uhd),
             std::to_string(room.width),
             std::to_string(room.room),
             std::to_string(room.left()),
@@ -78,7 +76,7 @@ std::string to_json(const Measures& measures)
                                  {"text", room.text},
                                  {"language", room.view.language},
                                  {"style", room.view.style},
-                                 {"size", size_of(room)},
+                                 {"size", size_name(room.view.uhd)},
                                  {"width", room.width},
                                  {"room", room.room},
                                  {"left", room.left()},

@@ -17,11 +17,6 @@ constexpr std::array<const char*, 3> finishing{OSD_KEY_FACTORY_RESTORE, OSD_KEY_
 
 bool is_button(const tagITEM_NODE_S& item) { return item.enAttr == CONFIRM || item.enAttr == CONFIRM_POP; }
 
-bool is_address(const std::string& text)
-{
-    return std::count(text.begin(), text.end(), '.') == 3 && text.find_first_not_of("0123456789.") == text.npos;
-}
-
 /// The setting behind a value that is read at each draw; null for any other item.
 const Setting* live_setting(const tagITEM_NODE_S& item)
 {
@@ -100,7 +95,7 @@ void choose_live(Node& node, const Setting& setting, int step)
     if (setting.kind == SettingKind::Option) {
         node.value_key = setting.options[static_cast<std::size_t>(step)];
         camera().store(setting, node.value_key);
-    } else if (is_address(setting.default_text)) {
+    } else if (holds_address(setting)) {
         camera().store(setting, widest_address);
     }
 }

@@ -66,7 +66,7 @@ void parse_items(const std::string& language, const tinyxml2::XMLElement* parent
 
 std::string to_string(const View& view)
 {
-    return view.language + ", style " + std::to_string(view.style) + ", " + (view.uhd ? "4k" : "1080p");
+    return view.language + ", style " + std::to_string(view.style) + ", " + size_name(view.uhd);
 }
 
 std::vector<View> all_views(const ResourceFolder& folder)

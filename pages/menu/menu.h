@@ -11,11 +11,10 @@
 
 #include "menu/core/page_fault.h"
 #include "osd_records.h"
+#include "pages/data/looks.h"
 #include "pages/data/resource_folder.h"
 
 namespace pages {
-
-constexpr std::uint32_t style_count = 3;
 
 /// How the menu is looked at.
 struct View {

@@ -17,7 +17,7 @@ const char* word_of(Change change)
 
 std::string folder_of(const View& view)
 {
-    return view.language + "/style" + std::to_string(view.style) + "-" + (view.uhd ? "4k" : "1080p");
+    return view.language + "/style" + std::to_string(view.style) + "-" + size_name(view.uhd);
 }
 
 std::string preview_page(const std::vector<Shot>& shots, const std::vector<View>& views, const Changes& changes,
@@ -34,7 +34,7 @@ std::string preview_page(const std::vector<Shot>& shots, const std::vector<View>
         data["views"].push_back({{"folder", folder_of(view)},
                                  {"language", view.language},
                                  {"style", std::to_string(view.style)},
-                                 {"size", view.uhd ? "4k" : "1080p"}});
+                                 {"size", size_name(view.uhd)}});
     }
     data["changes"] = nlohmann::json::object();
     for (const auto& [file, change] : changes) {

@@ -1,14 +1,16 @@
 #include "pages/preview/selection.h"
 
+#include "pages/data/words.h"
+
 namespace pages {
 namespace {
 
 template <typename Map>
-std::string names_of(const Map& map)
+std::vector<std::string> names_in(const Map& map)
 {
-    std::string names;
+    std::vector<std::string> names;
     for (const auto& [name, value] : map) {
-        names += (names.empty() ? "" : ", ") + name;
+        names.push_back(name);
     }
     return names;
 }
@@ -17,7 +19,7 @@ std::string checked_language(const std::string& wanted, const ResourceFolder& fo
 {
     const std::string name = language_named(folder.definitions, wanted);
     if (folder.languages.count(name) == 0) {
-        throw BadInput("no language '" + wanted + "', expected one of: " + names_of(folder.languages));
+        throw BadInput("no language '" + wanted + "', expected " + one_of(name, names_in(folder.languages)));
     }
     return name;
 }
@@ -33,12 +35,12 @@ Selection checked(const Selection& selection, const ResourceFolder& folder)
     }
     for (const std::string& page : selection.pages) {
         if (folder.pages.count(page) == 0) {
-            throw BadInput("no page '" + page + "', expected one of: " + names_of(folder.pages));
+            throw BadInput("no page '" + page + "', expected " + one_of(page, names_in(folder.pages)));
         }
     }
     for (const std::uint32_t style : selection.styles) {
         if (style >= style_count) {
-            throw BadInput("no style " + std::to_string(style) + ", expected 0, 1 or 2");
+            throw BadInput("no style " + std::to_string(style) + ", expected " + style_words);
         }
     }
     if (folder.languages.empty()) {

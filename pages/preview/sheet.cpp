@@ -11,10 +11,7 @@ namespace fs = std::filesystem;
 
 constexpr int columns_of_pages = 7;
 
-std::string size_of(const View& view)
-{
-    return "style" + std::to_string(view.style) + "-" + (view.uhd ? "4k" : "1080p");
-}
+std::string size_of(const View& view) { return "style" + std::to_string(view.style) + "-" + size_name(view.uhd); }
 
 /// Draws tiles, and puts them together.
 class SheetMaker {

@@ -40,18 +40,14 @@ std::string comment_for(const std::vector<TextUse>& uses, const TextRoom* room)
             words.push_back(use.words);
         }
     }
-    std::string comment;
-    for (std::size_t i = 0; i < std::min(words.size(), told_uses); ++i) {
-        comment += (i == 0 ? "" : ", ") + words[i];
-    }
-    if (words.size() > told_uses) {
-        comment += " and " + std::to_string(words.size() - told_uses) + " more";
-    }
+    const std::size_t more = words.size() - std::min(words.size(), told_uses);
+    words.resize(words.size() - more);
+    std::string comment = joined(words) + (more > 0 ? " and " + std::to_string(more) + " more" : "");
     comment = (comment.empty() ? "nothing here uses it, but a camera may tell this key" : comment) + "\nat most " +
               std::to_string(max_text_bytes) + " bytes";
     if (room != nullptr) {
-        comment += ", and " + std::to_string(room->room) + " pixels on page " + room->page +
-                   (room->view.uhd ? " at 4k" : " at 1080p") + ", where the English has " + std::to_string(room->width);
+        comment += ", and " + std::to_string(room->room) + " pixels on page " + room->page + " at " +
+                   size_name(room->view.uhd) + ", where the English has " + std::to_string(room->width);
     }
     return comment + "\n";
 }

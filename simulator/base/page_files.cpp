@@ -46,11 +46,7 @@ void require_page(const std::string& name, const std::filesystem::path& resource
     if (std::count(names.begin(), names.end(), name) > 0) {
         return;
     }
-    std::string known;
-    for (const std::string& page : names) {
-        known += " " + page;
-    }
-    throw BadInput("unknown page '" + name + "', expected one of:" + known);
+    throw BadInput("unknown page '" + name + "', expected " + one_of(name, names));
 }
 
 } // namespace sim

@@ -26,6 +26,15 @@ const std::array<FaultRow, fault_count>& all_faults()
     return rows;
 }
 
+std::vector<std::string> fault_names()
+{
+    std::vector<std::string> names;
+    for (const FaultRow& row : all_faults()) {
+        names.emplace_back(row.name);
+    }
+    return names;
+}
+
 std::set<Fault> parse_faults(const std::vector<std::string>& names)
 {
     std::set<Fault> faults;
@@ -34,11 +43,7 @@ std::set<Fault> parse_faults(const std::vector<std::string>& names)
         const auto row =
             std::find_if(rows.begin(), rows.end(), [&name](const FaultRow& one) { return name == one.name; });
         if (row == rows.end()) {
-            std::string known;
-            for (const FaultRow& one : rows) {
-                known += (known.empty() ? "" : ", ") + std::string(one.name);
-            }
-            throw BadInput("unknown fault '" + name + "', expected one of " + known);
+            throw BadInput("unknown fault '" + name + "', expected " + one_of(name, fault_names()));
         }
         faults.insert(row->fault);
     }

@@ -29,6 +29,8 @@ struct FaultRow {
 /// All faults, in the order of the enumeration.
 const std::array<FaultRow, fault_count>& all_faults();
 
+std::vector<std::string> fault_names();
+
 /// The faults of these names. Throws BadInput for an unknown one, which lists the known ones.
 std::set<Fault> parse_faults(const std::vector<std::string>& names);
 

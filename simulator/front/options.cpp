@@ -2,9 +2,8 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <functional>
 #include <iostream>
-#include <map>
-#include <sstream>
 
 #include "simulator/base/data.h"
 #include "simulator/base/page_files.h"
@@ -14,8 +13,7 @@
 namespace sim {
 namespace {
 
-const std::map<std::string, bool> sizes = {{"1080p", false}, {"4k", true}};
-const std::map<std::string, std::uint32_t> formats = {{"argb1555", 0}, {"argb4444", 1}, {"argb8888", 2}};
+using Names = std::vector<const char*>;
 
 const char* const description = "A simulated network camera with its on-screen menu.\n"
                                 "Without options it serves a web page and prints its address; Ctrl-C ends it.";
@@ -41,27 +39,24 @@ const char* const examples =
     "\nExit status: 0 success; 1 the camera failed, a scenario differs or --check has found something; 2 the input "
     "can't be used.\n";
 
-/// What the command line says before it is checked and turned into Options.
-struct Words {
-    std::string keys;
-    std::string keys_file;
-    std::string record;
-    std::string check;
-    std::string scenario;
-    std::string update_scenario;
-    std::string snapshot;
-    std::string size = "1080p";
-    std::string format = "argb8888";
-    std::string language;
-    std::string data;
-    std::string prompt;
-    std::string contact_sheet;
-    std::string listen;
-    std::string token;
-    std::string resources;
-    std::string faults;
-    std::string import_file;
-    std::string export_file;
+const Names web_options = {"--listen", "--open", "--token"};
+const Names no_web_options = {"--window", "--snapshot", "--contact-sheet", "--export"};
+const Names key_options = {"--keys", "--keys-file"}; // they end the camera, but for the options of the web page
+const Names standalone_options = {"--check", "--scenario", "--update-scenario"};
+
+/// Options that would be ignored beside another.
+const std::pair<const char*, Names> exclusions[] = {
+    {"--window", {"--snapshot"}},
+    {"--keys", {"--keys-file"}},
+    {"--contact-sheet",
+     {"--window", "--snapshot", "--export", "--import", "--keys", "--keys-file", "--record", "--channel", "--data",
+      "--faults", "--prompt", "--reloading"}},
+    {"--export",
+     {"--window", "--snapshot", "--keys", "--keys-file", "--record", "--channel", "--page", "--style", "--size",
+      "--format", "--language", "--prompt", "--reloading"}},
+    {"--listen", no_web_options},
+    {"--open", no_web_options},
+    {"--token", no_web_options},
 };
 
 std::string key_help()
@@ -76,212 +71,138 @@ std::string key_help()
     return text + "Escape is the menu key while the menu is open.\n";
 }
 
-std::string fault_names()
+std::uint32_t pixel_format_of(const std::string& name)
 {
-    std::string names;
-    for (const FaultRow& row : all_faults()) {
-        names += " " + std::string(row.name);
-    }
-    return names;
+    return static_cast<std::uint32_t>(std::find(format_names.begin(), format_names.end(), name) - format_names.begin());
 }
 
-template <typename Value>
-std::vector<std::string> names_of(const std::map<std::string, Value>& table)
+/// word: what the help calls its value
+template <typename Target>
+CLI::Option* add(CLI::App& app, const char* name, const char* word, Target& target, const std::string& help)
 {
-    std::vector<std::string> names;
-    for (const auto& [name, value] : table) {
-        names.push_back(name);
-    }
-    return names;
+    return app.add_option(name, target, help)->type_name(word);
 }
 
-void declare(CLI::App& app, Options& options, Words& words)
+/// The same for a value that a function takes.
+CLI::Option* add_read(CLI::App& app, const char* name, const char* word,
+                      const std::function<void(const std::string&)>& take, const char* help)
 {
-    app.add_option("--keys", words.keys, "Press these keys, separated by spaces, and end")->type_name("\"KEY ...\"");
-    app.add_option("--keys-file", words.keys_file,
-                   "Press the keys of a file, one a line, optionally behind a time in seconds: 1.250 down")
-        ->type_name("FILE");
-    app.add_option("--record", words.record, "Write each key that is pressed into a new file for --keys-file")
-        ->type_name("FILE");
-    app.add_option("--snapshot", words.snapshot, "Write what the channel shows at the end")->type_name("FILE.png");
+    return app.add_option_function(name, take, help)->type_name(word);
+}
+
+void declare_keys(CLI::App& app, Options& options)
+{
+    add_read(
+        app, "--keys", "\"KEY ...\"", [&](const std::string& text) { options.keys = parse_keys(text); },
+        "Press these keys, separated by spaces, and end");
+    add_read(
+        app, "--keys-file", "FILE", [&](const std::string& path) { options.keys = read_keys_file(path); },
+        "Press the keys of a file, one a line, optionally behind a time in seconds: 1.250 down");
+    add(app, "--record", "FILE", options.record, "Write each key that is pressed into a new file for --keys-file");
+}
+
+void declare_picture(CLI::App& app, Options& options)
+{
+    add(app, "--snapshot", "FILE.png", options.snapshot, "Write what the channel shows at the end");
     app.add_option("--channel", options.channel, "Channel that is shown: 0 main, 1 sub, 2 preview")
         ->check(CLI::Range(0, channel_count - 1))
         ->capture_default_str();
-    app.add_option("--size", words.size, "Size of the main channel: 1080p or 4k")
-        ->check(CLI::IsMember(names_of(sizes)))
-        ->type_name("SIZE")
-        ->capture_default_str();
-    app.add_option("--format", words.format, "Pixels of the menu: argb1555, argb4444 or argb8888")
-        ->check(CLI::IsMember(names_of(formats)))
-        ->type_name("FORMAT")
-        ->capture_default_str();
-    app.add_option("--style", options.style, "Skin of the menu: 0, 1 or 2")->check(CLI::Range(0, 2));
-    app.add_option("--language", words.language, "Language for this run only; the stored setting stays")
-        ->type_name("NAME");
-    app.add_option("--page", options.page, "Page that the menu key opens instead of main")->type_name("NAME");
-    app.add_option("--data", words.data, "Folder of stored settings (default: camera-sim in your XDG data home)")
-        ->type_name("DIR");
+    add_read(
+        app, "--size", "SIZE", [&](const std::string& name) { options.uhd = name == size_name(true); },
+        "Size of the main channel")
+        ->check(CLI::IsMember(size_names))
+        ->default_str(size_name(options.uhd));
+    add_read(
+        app, "--format", "FORMAT", [&](const std::string& name) { options.pixel_format = pixel_format_of(name); },
+        "Pixels of the menu")
+        ->check(CLI::IsMember(format_names))
+        ->default_str(format_names[options.pixel_format]);
+    app.add_option("--style", options.style, "Skin of the menu: " + std::string(style_words))
+        ->check(CLI::Range(0U, style_count - 1));
+    add(app, "--language", "NAME", options.language, "Language for this run only; the stored setting stays");
+    add(app, "--page", "NAME", options.page, "Page that the menu key opens instead of main");
+}
+
+void declare_camera(CLI::App& app, Options& options)
+{
+    add(app, "--data", "DIR", options.data, "Folder of stored settings (default: camera-sim in your XDG data home)");
     app.add_flag("--reset", options.reset, "Set all settings back to their defaults first");
     app.add_flag("--still", options.still, "The scene stands at time 0, so that pictures repeat exactly");
     app.add_flag("--window", options.window, "Open a window");
-    app.add_option("--listen", words.listen, "Serve the web page there (default: 127.0.0.1:8080 or another free port)")
-        ->type_name("ADDRESS:PORT");
-    app.add_option("--token", words.token, "What every web request must bring; needed to listen beyond this machine")
-        ->type_name("TOKEN");
+    add_read(
+        app, "--listen", "ADDRESS:PORT", [&](const std::string& text) { options.listen = parse_listen_address(text); },
+        "Serve the web page there (default: 127.0.0.1:8080 or another free port)");
+    add(app, "--token", "TOKEN", options.token,
+        "What every web request must bring; needed to listen beyond this machine")
+        ->check([](const std::string& text) {
+            return is_usable_token(text) ? "" : "expected letters, digits and any of - . _ ~";
+        });
     app.add_flag("--open", options.open, "Open the web page in a browser");
-    app.add_option(
-           "--resources", words.resources,
-           "Folder of pages, translations, settings definitions and pictures; changes show at once on the web page")
-        ->type_name("DIR");
-    app.add_option("--faults", words.faults, "Let parts of the camera fail, separated by commas:" + fault_names())
-        ->type_name("NAME,...");
-    app.add_option("--import", words.import_file, "Take settings over from a file that --export wrote")
-        ->type_name("FILE");
-    app.add_option("--export", words.export_file, "Write all settings into a JSON file and end")->type_name("FILE");
-    app.add_option("--prompt", words.prompt, "Show this text over the picture from the start")->type_name("TEXT");
+    add(app, "--resources", "DIR", options.resources,
+        "Folder of pages, translations, settings definitions and pictures; changes show at once on the web page");
+}
+
+void declare_others(CLI::App& app, Options& options)
+{
+    app.add_option_function<std::vector<std::string>>(
+           "--faults", [&options](const std::vector<std::string>& names) { options.faults = parse_faults(names); },
+           "Let parts of the camera fail, separated by commas: " + joined(fault_names()))
+        ->delimiter(',')
+        ->allow_extra_args(false)
+        ->type_name("NAME,NAME");
+    add(app, "--import", "FILE", options.import_file, "Take settings over from a file that --export wrote");
+    add(app, "--export", "FILE", options.export_file, "Write all settings into a JSON file and end");
+    add(app, "--prompt", "TEXT", options.prompt, "Show this text over the picture from the start");
     app.add_flag("--reloading", options.reloading,
                  "The media service counts as reloading (/tmp/.mpp_reloading): no zoom ratio shows");
-    app.add_option("--contact-sheet", words.contact_sheet,
-                   "Write all pages side by side; a folder gets a sheet for each language and style, and for each page")
-        ->type_name("FILE.png|DIR");
-    app.add_option("--check", words.check, "Tell everything that is wrong with a folder of resources; stands alone")
-        ->type_name("DIR");
-    app.add_option("--scenario", words.scenario, "Play a scenario and compare; stands alone")->type_name("DIR");
-    app.add_option("--update-scenario", words.update_scenario,
-                   "Play a scenario and write its calls.txt and frame.png anew; stands alone")
-        ->type_name("DIR");
+    add(app, "--contact-sheet", "FILE.png|DIR", options.contact_sheet,
+        "Write all pages side by side; a folder gets a sheet for each language and style, and for each page");
+    add(app, "--check", "DIR", options.check, "Tell everything that is wrong with a folder of resources; stands alone");
+    add(app, "--scenario", "DIR", options.scenario, "Play a scenario and compare; stands alone");
+    add(app, "--update-scenario", "DIR", options.scenario,
+        "Play a scenario and write its calls.txt and frame.png anew; stands alone");
 }
 
-/// What would be ignored beside another option.
-struct Enemies {
-    const char* option;
-    std::vector<const char*> others;
-};
-
-const std::vector<Enemies> all_enemies = {
-    {"--window", {"--snapshot"}},
-    {"--keys", {"--keys-file"}},
-    {"--contact-sheet",
-     {"--window", "--snapshot", "--export", "--import", "--keys", "--keys-file", "--record", "--channel", "--data",
-      "--faults", "--prompt", "--reloading"}},
-    {"--export",
-     {"--window", "--snapshot", "--keys", "--keys-file", "--record", "--channel", "--page", "--style", "--size",
-      "--format", "--language", "--prompt", "--reloading"}},
-};
-
-void check_combinations(const CLI::App& app)
+void declare_exclusions(CLI::App& app)
 {
-    for (const auto& [one, others] : all_enemies) {
+    for (const auto& [name, others] : exclusions) {
         for (const char* other : others) {
-            if (app.count(one) > 0 && app.count(other) > 0) {
-                throw BadInput(std::string(one) + " and " + other + " can't be used together");
-            }
+            app.get_option(name)->excludes(app.get_option(other));
         }
     }
-    if (app.count("--channel") > 0 && app.count("--window") + app.count("--snapshot") == 0) {
+    for (const char* name : standalone_options) {
+        CLI::Option* option = app.get_option(name);
+        for (CLI::Option* other : app.get_options([option](const CLI::Option* one) { return one != option; })) {
+            option->excludes(other);
+        }
+    }
+}
+
+bool any_given(const CLI::App& app, const Names& names)
+{
+    return std::any_of(names.begin(), names.end(), [&app](const char* name) { return app.count(name) > 0; });
+}
+
+/// What one option alone doesn't tell.
+void complete(const CLI::App& app, Options& options)
+{
+    if (app.count("--channel") > 0 && !any_given(app, {"--window", "--snapshot"})) {
         throw BadInput("--channel is for --window and --snapshot; the web page shows all channels");
     }
-    for (const char* web : {"--listen", "--open", "--token"}) {
-        for (const char* other : {"--window", "--snapshot", "--contact-sheet", "--export"}) {
-            if (app.count(web) > 0 && app.count(other) > 0) {
-                throw BadInput(std::string(web) + " is for the web page, which " + other + " does without");
-            }
-        }
-    }
-    for (const char* lonely : {"--check", "--scenario", "--update-scenario"}) {
-        if (app.count(lonely) > 0 && app.parse_order().size() > 1) {
-            throw BadInput(std::string(lonely) + " stands alone: what it needs is in its folder");
-        }
-    }
-}
-
-void take_scenario(const CLI::App& app, const Words& words, Options& options)
-{
-    options.update_scenario = app.count("--update-scenario") > 0;
-    if (options.update_scenario || app.count("--scenario") > 0) {
-        options.scenario = options.update_scenario ? words.update_scenario : words.scenario;
-    }
-}
-
-void take_keys(const CLI::App& app, const Words& words, Options& options)
-{
-    if (app.count("--keys") > 0) {
-        options.keys = parse_keys(words.keys);
-    } else if (app.count("--keys-file") > 0) {
-        options.keys = read_keys_file(words.keys_file);
-    }
-    if (app.count("--record") > 0) {
-        options.record = words.record;
-    }
-}
-
-void take_web(const CLI::App& app, const Words& words, Options& options)
-{
-    const auto asked = [&app](const char* name) { return app.count(name) > 0; };
-    const bool other = asked("--keys") || asked("--keys-file") || asked("--snapshot") || asked("--window") ||
-                       asked("--contact-sheet") || asked("--export");
-    options.web = !other || asked("--listen") || asked("--open") || asked("--token");
-    if (asked("--listen")) {
-        options.listen = parse_listen_address(words.listen);
-    }
-    if (asked("--token")) {
-        options.token = words.token;
-        if (!is_usable_token(words.token)) {
-            throw BadInput("--token: expected letters, digits and any of - . _ ~");
-        }
-    }
+    options.web = any_given(app, web_options) || !(any_given(app, no_web_options) || any_given(app, key_options));
     if (options.listen && !options.token && !is_loopback(options.listen->host)) {
-        throw BadInput("--listen " + words.listen + " lets other machines in: add --token TOKEN");
+        throw BadInput("--listen at " + options.listen->host + " lets other machines in: add --token TOKEN");
     }
-}
-
-std::vector<std::string> split_at_commas(const std::string& text)
-{
-    std::istringstream stream(text);
-    std::vector<std::string> parts;
-    for (std::string part; std::getline(stream, part, ',');) {
-        parts.push_back(part);
-    }
-    return parts;
-}
-
-void take_files(const CLI::App& app, const Words& words, Options& options)
-{
-    options.resources = app.count("--resources") > 0 ? std::filesystem::path(words.resources) : default_resources();
-    if (app.count("--import") > 0) {
-        options.import_file = words.import_file;
-    }
-    if (app.count("--export") > 0) {
-        options.export_file = words.export_file;
-    }
-    options.faults = parse_faults(split_at_commas(words.faults));
-}
-
-void take_over(const CLI::App& app, const Words& words, Options& options)
-{
-    take_scenario(app, words, options);
-    take_keys(app, words, options);
-    take_web(app, words, options);
-    take_files(app, words, options);
-    if (app.count("--check") > 0) {
-        options.check = words.check;
-    }
-    if (app.count("--prompt") > 0) {
-        options.prompt = words.prompt;
-    }
-    if (app.count("--contact-sheet") > 0) {
-        options.contact_sheet = words.contact_sheet;
-    }
-    if (app.count("--snapshot") > 0) {
-        options.snapshot = words.snapshot;
+    options.update_scenario = app.count("--update-scenario") > 0;
+    if (options.snapshot) {
         check_snapshot_path(*options.snapshot);
     }
-    if (app.count("--language") > 0) {
-        options.language = words.language;
+    if (app.count("--data") == 0) {
+        options.data = default_data_folder();
     }
-    options.uhd = sizes.at(words.size);
-    options.pixel_format = formats.at(words.format);
-    options.data = app.count("--data") > 0 ? std::filesystem::path(words.data) : default_data_folder();
+    if (app.count("--resources") == 0) {
+        options.resources = default_resources();
+    }
     if (app.count("--page") > 0) {
         require_page(options.page, options.resources);
     }
@@ -296,18 +217,21 @@ std::optional<Options> parse_options(int argc, const char* const* argv)
     CLI::App app(description, "camera-sim");
     app.footer(key_help() + examples);
     Options options;
-    Words words;
-    declare(app, options, words);
+    declare_keys(app, options);
+    declare_picture(app, options);
+    declare_camera(app, options);
+    declare_others(app, options);
+    const std::string help = app.help(); // would name all exclusions at each option
+    declare_exclusions(app);
     try {
         app.parse(argc, argv);
     } catch (const CLI::CallForHelp&) {
-        std::cout << app.help();
+        std::cout << help;
         return std::nullopt;
     } catch (const CLI::ParseError& error) {
         throw BadInput(first_line(error.what()) + "; --help explains all options");
     }
-    check_combinations(app);
-    take_over(app, words, options);
+    complete(app, options);
     return options;
 }
 

@@ -15,8 +15,6 @@
 namespace sim {
 namespace {
 
-constexpr std::uint32_t last_style = 2;
-
 struct ScenarioOptions {
     std::optional<std::string> language;
     std::uint32_t style = 0;
@@ -54,8 +52,8 @@ ScenarioOptions read_options(const std::filesystem::path& path)
     if (reader.has("style")) {
         options.style = static_cast<std::uint32_t>(reader.integer("style"));
     }
-    if (options.style > last_style) {
-        reader.complain("style", "'style' is " + std::to_string(options.style), "0, 1 or 2");
+    if (options.style >= style_count) {
+        reader.complain("style", "'style' is " + std::to_string(options.style), style_words);
     }
     if (reader.has("page")) {
         options.page = reader.text("page", 1, OSD_TEXT_LEN - 1);

@@ -50,53 +50,56 @@ void call(MenuHost& host)
 const std::vector<Key>& all_keys()
 {
     static const std::vector<Key> keys = {
-        {"menu", SDLK_m, press_menu, "opens the menu; drops an edited address, goes back one page, closes the menu"},
-        {"home", SDLK_RETURN, call<OSD_MENU_HandleKeyHome>, "enters: opens a page, presses a button, applies a value"},
-        {"up", SDLK_UP, call<OSD_MENU_HandleKeyUp>, "moves the cursor up"},
-        {"down", SDLK_DOWN, call<OSD_MENU_HandleKeyDown>, "moves the cursor down"},
-        {"left", SDLK_LEFT, call<OSD_MENU_HandleKeyLeft>, "changes the value downwards"},
-        {"right", SDLK_RIGHT, call<OSD_MENU_HandleKeyRight>, "changes the value upwards"},
-        {"up-left", SDLK_UNKNOWN, call<OSD_MENU_HandleKeyUp_Left>, "up, then left"},
-        {"up-right", SDLK_UNKNOWN, call<OSD_MENU_HandleKeyUp_Right>, "up, then right"},
-        {"down-left", SDLK_UNKNOWN, call<OSD_MENU_HandleKeyDown_Left>, "down, then left"},
-        {"down-right", SDLK_UNKNOWN, call<OSD_MENU_HandleKeyDown_Right>, "down, then right"},
-        {"advanced", SDLK_a, call<OSD_MENU_HandleKeyAdvancedMenu>, "opens the advanced menu"},
-        {"return", SDLK_BACKSPACE, call<OSD_MENU_ReturnMenu>, "goes back one page, an edited address with it"},
-        {"close", SDLK_c, call<OSD_MENU_CloseMenu>, "closes the menu"},
-        {"left-keep", SDLK_UNKNOWN, call<OSD_MENU_HandleKeyLeftUpdateItem>, "left, but the camera isn't told yet"},
-        {"right-keep", SDLK_UNKNOWN, call<OSD_MENU_HandleKeyRightUpdateItem>, "right, but the camera isn't told yet"},
-        {"apply", SDLK_SPACE, call<OSD_MENU_HandleSetParam>, "tells the camera the value of the selected item"},
-        {"zoom+", SDLK_PLUS, zoom_in, "zooms in and shows the ratio for two seconds"},
-        {"zoom-", SDLK_MINUS, zoom_out, "zooms out and shows the ratio for two seconds"},
-        {"prompt", SDLK_p, show_prompt, "shows the text of --prompt over the picture for three seconds"},
-        {"rec", SDLK_r, toggle_recording, "puts the mark of a recording over the picture, or takes it away"},
+        {"menu", "Menu", SDLK_m, Held::Once, press_menu,
+         "opens the menu; drops an edited address, goes back one page, closes the menu"},
+        {"home", "Home, OK", SDLK_RETURN, Held::Once, call<OSD_MENU_HandleKeyHome>,
+         "enters: opens a page, presses a button, applies a value"},
+        {"up", "Up", SDLK_UP, Held::Repeats, call<OSD_MENU_HandleKeyUp>, "moves the cursor up"},
+        {"down", "Down", SDLK_DOWN, Held::Repeats, call<OSD_MENU_HandleKeyDown>, "moves the cursor down"},
+        {"left", "Left", SDLK_LEFT, Held::Repeats, call<OSD_MENU_HandleKeyLeft>, "changes the value downwards"},
+        {"right", "Right", SDLK_RIGHT, Held::Repeats, call<OSD_MENU_HandleKeyRight>, "changes the value upwards"},
+        {"up-left", "Up and left", SDLK_UNKNOWN, Held::Repeats, call<OSD_MENU_HandleKeyUp_Left>, "up, then left"},
+        {"up-right", "Up and right", SDLK_UNKNOWN, Held::Repeats, call<OSD_MENU_HandleKeyUp_Right>, "up, then right"},
+        {"down-left", "Down and left", SDLK_UNKNOWN, Held::Repeats, call<OSD_MENU_HandleKeyDown_Left>,
+         "down, then left"},
+        {"down-right", "Down and right", SDLK_UNKNOWN, Held::Repeats, call<OSD_MENU_HandleKeyDown_Right>,
+         "down, then right"},
+        {"advanced", "Advanced", SDLK_a, Held::Once, call<OSD_MENU_HandleKeyAdvancedMenu>, "opens the advanced menu"},
+        {"return", "Return", SDLK_BACKSPACE, Held::Once, call<OSD_MENU_ReturnMenu>,
+         "goes back one page, an edited address with it"},
+        {"close", "Close", SDLK_c, Held::Once, call<OSD_MENU_CloseMenu>, "closes the menu"},
+        {"left-keep", "Left without applying", SDLK_UNKNOWN, Held::Repeats, call<OSD_MENU_HandleKeyLeftUpdateItem>,
+         "left, but the camera isn't told yet"},
+        {"right-keep", "Right without applying", SDLK_UNKNOWN, Held::Repeats, call<OSD_MENU_HandleKeyRightUpdateItem>,
+         "right, but the camera isn't told yet"},
+        {"apply", "Apply", SDLK_SPACE, Held::Once, call<OSD_MENU_HandleSetParam>,
+         "tells the camera the value of the selected item"},
+        {"zoom+", "Zoom in", SDLK_PLUS, Held::Repeats, zoom_in, "zooms in and shows the ratio for two seconds"},
+        {"zoom-", "Zoom out", SDLK_MINUS, Held::Repeats, zoom_out, "zooms out and shows the ratio for two seconds"},
+        {"prompt", "Prompt", SDLK_p, Held::Once, show_prompt,
+         "shows the text of --prompt over the picture for three seconds"},
+        {"rec", "Rec", SDLK_r, Held::Once, toggle_recording,
+         "puts the mark of a recording over the picture, or takes it away"},
     };
     return keys;
 }
 
-std::string key_names()
-{
-    std::string names;
-    for (const Key& key : all_keys()) {
-        names += (names.empty() ? "" : " ") + std::string(key.name);
-    }
-    return names;
-}
-
 const Key& find_key(const std::string& name)
 {
-    const auto has_name = [&name](const Key& key) { return name == key.name; };
-    const auto found = std::find_if(all_keys().begin(), all_keys().end(), has_name);
-    if (found == all_keys().end()) {
-        throw BadInput("unknown key '" + name + "', expected one of: " + key_names());
+    std::vector<std::string> names;
+    for (const Key& key : all_keys()) {
+        if (name == key.name) {
+            return key;
+        }
+        names.emplace_back(key.name);
     }
-    return *found;
+    throw BadInput("unknown key '" + name + "', expected " + one_of(name, names));
 }
 
 const Key* find_keyboard_key(SDL_Keycode code, bool menu_is_open)
 {
     if (code == SDLK_ESCAPE) { // leaves one thing at a time, as the menu key does, but opens nothing
-        code = menu_is_open ? SDLK_m : SDLK_UNKNOWN;
+        return menu_is_open ? &find_key(escape_key) : nullptr;
     }
     const auto has_code = [code](const Key& key) { return key.keyboard == code && code != SDLK_UNKNOWN; };
     const auto found = std::find_if(all_keys().begin(), all_keys().end(), has_code);

@@ -9,9 +9,14 @@
 
 namespace sim {
 
+/// What a key does that stays down.
+enum class Held { Once, Repeats };
+
 struct Key {
     const char* name;     ///< as scripts write it
-    SDL_Keycode keyboard; ///< key of the window's keyboard, SDLK_UNKNOWN for none
+    const char* title;    ///< as people read it
+    SDL_Keycode keyboard; ///< key of the keyboard, SDLK_UNKNOWN for none
+    Held held;
     void (*function)(MenuHost& host);
     const char* help;
 };
@@ -19,8 +24,8 @@ struct Key {
 /// All keys, in the order of the help text.
 const std::vector<Key>& all_keys();
 
-/// The names of all keys, separated by spaces.
-std::string key_names();
+/// The name of the key that Escape is too, while the menu is open.
+constexpr const char* escape_key = "menu";
 
 /// The key of this name. Throws BadInput for an unknown name, which lists the known ones.
 const Key& find_key(const std::string& name);

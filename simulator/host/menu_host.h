@@ -1,6 +1,7 @@
 // The camera's side of the menu: starts the library and answers its callbacks.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <map>
@@ -12,9 +13,12 @@
 
 namespace sim {
 
+/// What the pixels of the menu can be, in the library's order.
+constexpr std::array<const char*, 3> format_names = {"argb1555", "argb4444", "argb8888"};
+
 struct MenuConfig {
-    std::uint32_t pixel_format = 2; ///< index of ARGB1555, ARGB4444, ARGB8888
-    std::uint32_t style = 0;        ///< skin, 0 to 2
+    std::uint32_t pixel_format = 2; ///< index in format_names
+    std::uint32_t style = 0;        ///< skin, below style_count
     bool uhd = false;               ///< canvas for 3840 by 2160
     std::string page;               ///< page that opens instead of "main", empty for "main"
     std::string prompt;             ///< what the key "prompt" shows

@@ -53,22 +53,22 @@ const Setting* Settings::find_key(const std::string& key) const
 const Setting& Settings::by_name(const std::string& name) const
 {
     const Setting* found = nullptr;
-    std::string names; // of all with this key
+    std::vector<std::string> names; // of all with this key
     for (const auto& [id, setting] : definitions_) {
         if (name_of(id) == name) {
             return setting;
         }
         if (id.key == name) {
             found = &setting;
-            names += (names.empty() ? "" : ", ") + name_of(id);
+            names.push_back(name_of(id));
         }
     }
     if (found == nullptr) {
         throw UnknownSetting("no setting '" + name +
                              "', expected PARENT.KEY or KEY as the settings definitions have it");
     }
-    if (name_of(found->id) != names) {
-        throw UnknownSetting("several settings are called '" + name + "', expected one of " + names);
+    if (names.size() > 1) {
+        throw UnknownSetting("several settings are called '" + name + "', expected one of " + joined(names));
     }
     return *found;
 }

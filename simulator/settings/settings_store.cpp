@@ -1,5 +1,7 @@
 #include "simulator/settings/settings_store.h"
 
+#include <SQLiteCpp/SQLiteCpp.h>
+#include <SQLiteCpp/VariadicBind.h>
 #include <sqlite3.h>
 
 namespace sim {
@@ -12,140 +14,92 @@ constexpr const char* table_sql = "CREATE TABLE setting (parent TEXT NOT NULL, k
                                   " PRIMARY KEY (parent, key)) STRICT, WITHOUT ROWID";
 constexpr int busy_wait_ms = 500;
 
-std::string column_text(sqlite3_stmt* statement, int column)
-{
-    const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
-    return text == nullptr ? "" : text;
-}
-
-void bind_text(sqlite3_stmt* statement, int place, const std::string& text)
-{
-    sqlite3_bind_text(statement, place, text.data(), static_cast<int>(text.size()), SQLITE_TRANSIENT);
-}
-
 const char* const what_to_do = "; 'camera-sim --reset' moves it aside to a .bak file and starts with default settings";
 
 } // namespace
 
-void SettingsStore::Close::operator()(sqlite3* database) const { sqlite3_close(database); }
-
-void SettingsStore::Finalize::operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
+template <typename Body>
+auto SettingsStore::call(const Body& body) const
+{
+    try {
+        return body();
+    } catch (const SQLite::Exception& error) {
+        fail(error);
+    }
+}
 
 SettingsStore::SettingsStore(const std::filesystem::path& file) : name_("settings database " + file.string())
 {
-    sqlite3* raw = nullptr;
-    const int code = sqlite3_open_v2(file.c_str(), &raw, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
-    database_.reset(raw);
-    if (code != SQLITE_OK) {
-        fail(code);
-    }
-    sqlite3_busy_timeout(raw, busy_wait_ms);
-    const bool fresh = is_fresh();
-    if (!fresh) {
-        check_health();
-    }
-    if (sqlite3_db_readonly(raw, "main") != 0) {
-        throw BadInput(name_ + ": can't be written");
-    }
-    use_write_ahead_log();
-    run("PRAGMA synchronous=FULL");
-    if (fresh) {
-        make_tables();
-    }
-}
-
-std::map<SettingId, std::string> SettingsStore::load_all()
-{
-    const Statement statement = prepare("SELECT parent, key, value FROM setting");
-    std::map<SettingId, std::string> values;
-    int step = sqlite3_step(statement.get());
-    for (; step == SQLITE_ROW; step = sqlite3_step(statement.get())) {
-        values[{column_text(statement.get(), 0), column_text(statement.get(), 1)}] = column_text(statement.get(), 2);
-    }
-    if (step != SQLITE_DONE) {
-        fail(step);
-    }
-    return values;
-}
-
-void SettingsStore::write(const SettingId& id, const std::string& value)
-{
-    const Statement statement = prepare("INSERT OR REPLACE INTO setting VALUES (?, ?, ?)");
-    bind_text(statement.get(), 1, id.parent);
-    bind_text(statement.get(), 2, id.key);
-    bind_text(statement.get(), 3, value);
-    const int step = sqlite3_step(statement.get());
-    if (step != SQLITE_DONE) {
-        fail(step);
-    }
-}
-
-void SettingsStore::clear() { run("DELETE FROM setting"); }
-
-void SettingsStore::remove(const std::vector<SettingId>& ids)
-{
-    run_together([&] {
-        for (const SettingId& id : ids) {
-            const Statement statement = prepare("DELETE FROM setting WHERE parent = ? AND key = ?");
-            bind_text(statement.get(), 1, id.parent);
-            bind_text(statement.get(), 2, id.key);
-            const int step = sqlite3_step(statement.get());
-            if (step != SQLITE_DONE) {
-                fail(step);
-            }
+    call([&] {
+        database_ = std::make_unique<SQLite::Database>(file.string(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE,
+                                                       busy_wait_ms);
+        const bool fresh = is_fresh();
+        if (!fresh) {
+            check_health();
+        }
+        if (sqlite3_db_readonly(database_->getHandle(), "main") != 0) {
+            throw BadInput(name_ + ": can't be written");
+        }
+        use_write_ahead_log();
+        database_->exec("PRAGMA synchronous=FULL");
+        if (fresh) {
+            make_tables();
         }
     });
+}
+
+SettingsStore::~SettingsStore() = default;
+SettingsStore::SettingsStore(SettingsStore&& other) noexcept = default;
+
+std::map<SettingId, std::string> SettingsStore::load_all() const
+{
+    return call([&] {
+        SQLite::Statement row(*database_, "SELECT parent, key, value FROM setting");
+        std::map<SettingId, std::string> values;
+        while (row.executeStep()) {
+            values[{row.getColumn(0).getString(), row.getColumn(1).getString()}] = row.getColumn(2).getString();
+        }
+        return values;
+    });
+}
+
+void SettingsStore::write(const SettingId& id, const std::string& value) { write_all({{id, value}}); }
+
+void SettingsStore::clear()
+{
+    call([&] { database_->exec("DELETE FROM setting"); });
 }
 
 void SettingsStore::write_all(const std::map<SettingId, std::string>& values)
 {
-    run_together([&] {
-        for (const auto& [id, value] : values) {
-            write(id, value);
+    run_together("INSERT OR REPLACE INTO setting VALUES (?, ?, ?)", values,
+                 [](SQLite::Statement& row, const auto& entry) {
+                     SQLite::bind(row, entry.first.parent, entry.first.key, entry.second);
+                 });
+}
+
+void SettingsStore::remove(const std::vector<SettingId>& ids)
+{
+    run_together("DELETE FROM setting WHERE parent = ? AND key = ?", ids,
+                 [](SQLite::Statement& row, const SettingId& id) { SQLite::bind(row, id.parent, id.key); });
+}
+
+template <typename List, typename Bind>
+void SettingsStore::run_together(const char* sql, const List& list, const Bind& bind)
+{
+    call([&] {
+        SQLite::Transaction transaction(*database_, SQLite::TransactionBehavior::IMMEDIATE);
+        SQLite::Statement row(*database_, sql);
+        for (const auto& entry : list) {
+            bind(row, entry);
+            row.exec();
+            row.reset();
         }
+        transaction.commit();
     });
 }
 
-void SettingsStore::run_together(const std::function<void()>& body)
-{
-    run("BEGIN IMMEDIATE");
-    try {
-        body();
-        run("COMMIT");
-    } catch (...) {
-        (void)sqlite3_exec(database_.get(), "ROLLBACK", nullptr, nullptr, nullptr); // the first failure counts
-        throw;
-    }
-}
-
-void SettingsStore::run(const std::string& sql)
-{
-    const int code = sqlite3_exec(database_.get(), sql.c_str(), nullptr, nullptr, nullptr);
-    if (code != SQLITE_OK) {
-        fail(code);
-    }
-}
-
-SettingsStore::Statement SettingsStore::prepare(const std::string& sql)
-{
-    sqlite3_stmt* raw = nullptr;
-    const int code = sqlite3_prepare_v2(database_.get(), sql.c_str(), -1, &raw, nullptr);
-    Statement statement(raw);
-    if (code != SQLITE_OK) {
-        fail(code);
-    }
-    return statement;
-}
-
-std::string SettingsStore::read_text(const std::string& sql)
-{
-    const Statement statement = prepare(sql);
-    const int step = sqlite3_step(statement.get());
-    if (step != SQLITE_ROW) {
-        fail(step);
-    }
-    return column_text(statement.get(), 0);
-}
+std::string SettingsStore::read_text(const std::string& sql) const { return database_->execAndGet(sql).getString(); }
 
 /// Whether the database is empty. One that is neither empty nor ours must not get a table of ours.
 bool SettingsStore::is_fresh()
@@ -182,14 +136,15 @@ void SettingsStore::check_health()
 
 void SettingsStore::make_tables()
 {
-    run("BEGIN IMMEDIATE;" + std::string(table_sql) + ";PRAGMA application_id = " + std::to_string(application_id) +
-        ";PRAGMA user_version = " + std::to_string(table_version) + ";COMMIT");
+    database_->exec("BEGIN IMMEDIATE;" + std::string(table_sql) +
+                    ";PRAGMA application_id = " + std::to_string(application_id) +
+                    ";PRAGMA user_version = " + std::to_string(table_version) + ";COMMIT");
 }
 
-void SettingsStore::fail(int code) const
+void SettingsStore::fail(const SQLite::Exception& error) const
 {
-    const std::string words = name_ + ": " + sqlite3_errstr(code);
-    switch (code & 0xFF) {
+    const std::string words = name_ + ": " + error.what();
+    switch (error.getErrorCode() & 0xFF) {
     case SQLITE_NOTADB:
     case SQLITE_CORRUPT:
         throw BadDatabase(words + what_to_do);

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <filesystem>
-#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -10,8 +9,10 @@
 
 #include "simulator/base/data.h"
 
-struct sqlite3;
-struct sqlite3_stmt;
+namespace SQLite {
+class Database;
+class Exception;
+} // namespace SQLite
 
 namespace sim {
 
@@ -30,7 +31,10 @@ public:
     /// it is, and BadInput when it is locked, can't be written, or lies where no write-ahead log can be.
     explicit SettingsStore(const std::filesystem::path& file);
 
-    std::map<SettingId, std::string> load_all();
+    ~SettingsStore();
+    SettingsStore(SettingsStore&& other) noexcept;
+
+    std::map<SettingId, std::string> load_all() const;
     /// These four throw std::runtime_error when the database refuses; nothing has changed then.
     void write(const SettingId& id, const std::string& value);
     void clear();
@@ -40,28 +44,22 @@ public:
     void remove(const std::vector<SettingId>& ids);
 
 private:
-    struct Close {
-        void operator()(sqlite3* database) const;
-    };
-    struct Finalize {
-        void operator()(sqlite3_stmt* statement) const;
-    };
-    using Statement = std::unique_ptr<sqlite3_stmt, Finalize>;
-
-    void run(const std::string& sql);
-    /// Runs the body as one transaction, which is undone when it throws.
-    void run_together(const std::function<void()>& body);
-    Statement prepare(const std::string& sql);
+    /// Calls the database; what it refuses is told in words that help.
+    template <typename Body>
+    auto call(const Body& body) const;
+    /// Runs a statement for each entry of a list, all of them or none.
+    template <typename List, typename Bind>
+    void run_together(const char* sql, const List& list, const Bind& bind);
     /// The first column of the first row.
-    std::string read_text(const std::string& sql);
+    std::string read_text(const std::string& sql) const;
     bool is_fresh();
     void use_write_ahead_log();
     void check_health();
     void make_tables();
-    [[noreturn]] void fail(int code) const;
+    [[noreturn]] void fail(const SQLite::Exception& error) const;
 
     std::string name_;
-    std::unique_ptr<sqlite3, Close> database_;
+    std::unique_ptr<SQLite::Database> database_;
 };
 
 /// Renames a database with its write-ahead log to the first free name with ".bak" behind it. Returns the new name.

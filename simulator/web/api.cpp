@@ -61,6 +61,7 @@ const std::vector<Api::Route>& Api::routes()
         {"GET", "/channels/*/snapshot.jpg", &Api::get_jpeg},
         {"GET", "/channels/*/snapshot.png", &Api::get_png},
         {"GET", "/overlay.png", &Api::get_overlay},
+        {"GET", "/keys", &Api::get_keys},
         {"POST", "/keys", &Api::post_keys},
         {"GET", "/state", &Api::get_state},
         {"GET", "/settings", &Api::get_settings},
@@ -110,7 +111,7 @@ void Api::serve(const httplib::Request& request, httplib::Response& response)
 void Api::dispatch(const httplib::Request& request, httplib::Response& response)
 {
     const std::string method = request.method == "HEAD" ? "GET" : request.method;
-    std::string allowed;
+    std::vector<std::string> allowed;
     for (const Route& route : routes()) {
         const auto arguments = match_path(route.path, request.path);
         if (arguments && method == route.method) {
@@ -118,7 +119,7 @@ void Api::dispatch(const httplib::Request& request, httplib::Response& response)
             return;
         }
         if (arguments) {
-            allowed += (allowed.empty() ? "" : ", ") + std::string(route.method);
+            allowed.emplace_back(route.method);
         }
     }
     if (allowed.empty() && serve_page_file(page_, request, response)) {
@@ -127,8 +128,8 @@ void Api::dispatch(const httplib::Request& request, httplib::Response& response)
     if (allowed.empty()) {
         throw HttpError(404, "there is nothing at " + request.path);
     }
-    response.set_header("Allow", allowed);
-    throw HttpError(405, request.path + " takes " + allowed + ", not " + request.method);
+    response.set_header("Allow", joined(allowed));
+    throw HttpError(405, request.path + " takes " + joined(allowed) + ", not " + request.method);
 }
 
 ChannelStream& Api::stream_of(const std::string& channel)
@@ -212,6 +213,8 @@ void Api::get_overlay(const Call& call)
         return encode_png(canvas ? *canvas : Image(parts_.camera.video.channels.size(0)), true);
     });
 }
+
+void Api::get_keys(const Call& call) { answer_json(call.response, keys_json()); }
 
 /// Each key in a turn of its own, so that a long list doesn't keep others away.
 std::size_t Api::press_keys(const json& names)
@@ -320,9 +323,11 @@ void Api::post_menu(const Call& call)
     const json body = read_object(call.request);
     refuse_other_fields(body, {"style", "size", "page"});
     const json style = body.value("style", json(0));
-    const json size = body.value("size", json("1080p"));
-    if (body.empty() || !style.is_number_integer() || style < 0 || style > 2 || (size != "1080p" && size != "4k")) {
-        throw HttpError(400, "expected a 'style' of 0, 1 or 2, a 'size' of \"1080p\" or \"4k\", or a 'page'");
+    const json size = body.value("size", json(size_name(false)));
+    if (body.empty() || !style.is_number_integer() || style < 0 || style >= style_count ||
+        std::count(size_names.begin(), size_names.end(), size) == 0) {
+        throw HttpError(400, std::string("expected a 'style' of ") + style_words + ", a 'size' of \"" +
+                                 size_name(false) + "\" or \"" + size_name(true) + "\", or a 'page'");
     }
     const std::optional<std::string> page =
         body.contains("page") ? std::optional(text_field(body, "page")) : std::nullopt;
@@ -332,7 +337,7 @@ void Api::post_menu(const Call& call)
         }
         MenuConfig wanted = parts_.session.config();
         wanted.style = body.contains("style") ? style.get<std::uint32_t>() : wanted.style;
-        wanted.uhd = body.contains("size") ? size == "4k" : wanted.uhd;
+        wanted.uhd = body.contains("size") ? size == size_name(true) : wanted.uhd;
         if (body.contains("style") || body.contains("size")) {
             parts_.session.restart(wanted);
         }
@@ -342,7 +347,7 @@ void Api::post_menu(const Call& call)
         }
         return wanted;
     });
-    answer_json(call.response, {{"style", config.style}, {"size", config.uhd ? "4k" : "1080p"}});
+    answer_json(call.response, {{"style", config.style}, {"size", size_name(config.uhd)}});
 }
 
 void Api::get_faults(const Call& call) { answer_json(call.response, faults_json(parts_.camera.faults)); }

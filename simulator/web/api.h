@@ -52,6 +52,7 @@ private:
     void get_jpeg(const Call& call);
     void get_png(const Call& call);
     void get_overlay(const Call& call);
+    void get_keys(const Call& call);
     void post_keys(const Call& call);
     void get_state(const Call& call);
     void get_settings(const Call& call);

@@ -62,6 +62,34 @@ json problems_json(const LiveReload& reload)
     return problems;
 }
 
+/// What a browser calls a key of the keyboard.
+std::string browser_name(SDL_Keycode code)
+{
+    switch (code) {
+    case SDLK_UP:
+    case SDLK_DOWN:
+    case SDLK_LEFT:
+    case SDLK_RIGHT:
+        return std::string("Arrow") + SDL_GetKeyName(code);
+    case SDLK_RETURN:
+        return "Enter";
+    default: // what has a character is called by it
+        return code >= SDLK_SPACE && code <= SDLK_z ? std::string(1, static_cast<char>(code)) : SDL_GetKeyName(code);
+    }
+}
+
+json keyboard_json(const Key& key)
+{
+    json names = json::array();
+    if (key.keyboard != SDLK_UNKNOWN) {
+        names.push_back(browser_name(key.keyboard));
+    }
+    if (std::string(key.name) == escape_key) {
+        names.push_back(browser_name(SDLK_ESCAPE));
+    }
+    return names;
+}
+
 } // namespace
 
 json channels_json(Camera& camera)
@@ -90,13 +118,28 @@ json state_json(const CameraParts& parts)
             {"language", parts.camera.language()},
             {"languages", languages_json(parts.camera)},
             {"style", config.style},
-            {"size", config.uhd ? "4k" : "1080p"},
+            {"styles", style_count},
+            {"sizes", size_names},
+            {"size", size_name(config.uhd)},
             {"channels", channels_json(parts.camera)},
             {"pages", std::move(list)},
             {"all_pages", page_names(parts.camera.resources)},
             {"focus", focus_json(pages)},
             {"problems", problems_json(parts.reload)},
             {"faults", parts.camera.faults.names()}};
+}
+
+json keys_json()
+{
+    json list = json::array();
+    for (const Key& key : all_keys()) {
+        list.push_back({{"name", key.name},
+                        {"title", key.title},
+                        {"help", key.help},
+                        {"keyboard", keyboard_json(key)},
+                        {"repeats", key.held == Held::Repeats}});
+    }
+    return {{"keys", std::move(list)}};
 }
 
 json faults_json(const Faults& faults)

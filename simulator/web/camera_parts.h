@@ -24,6 +24,9 @@ nlohmann::json state_json(const CameraParts& parts);
 /// The channels with name and size. On any thread.
 nlohmann::json channels_json(Camera& camera);
 
+/// The keys as GET /keys tells them.
+nlohmann::json keys_json();
+
 /// The faults as GET /faults tells them.
 nlohmann::json faults_json(const Faults& faults);
 

@@ -11,23 +11,6 @@ using nlohmann::json;
 
 namespace {
 
-constexpr int deepest = 32;
-
-/// Copying and writing JSON takes stack for each level.
-bool refuse_deep(int depth, json::parse_event_t /*event*/, const json& /*parsed*/)
-{
-    if (depth > deepest) {
-        throw HttpError(400, "the body nests deeper than " + std::to_string(deepest) + " levels");
-    }
-    return true;
-}
-
-/// Its parsed body is gone before the real one comes.
-void check_depth(const std::string& body)
-{
-    [[maybe_unused]] const json parsed = json::parse(body, refuse_deep, false);
-}
-
 std::vector<std::string> split_path(const std::string& path)
 {
     std::istringstream stream(path);
@@ -71,11 +54,7 @@ void answer_error(httplib::Response& response, int status, const std::string& wo
     answer_json(response, {{"error", words}});
 }
 
-json read_object(const httplib::Request& request)
-{
-    check_depth(request.body);
-    return parse_json_object(request.body, "body");
-}
+json read_object(const httplib::Request& request) { return parse_json_object(request.body, "body"); }
 
 std::string text_field(const json& object, const char* name)
 {
@@ -86,16 +65,11 @@ std::string text_field(const json& object, const char* name)
     return found->get<std::string>();
 }
 
-void refuse_other_fields(const json& object, std::initializer_list<const char*> known)
+void refuse_other_fields(const json& object, const std::vector<std::string>& known)
 {
-    std::string names;
-    for (const char* name : known) {
-        names += (names.empty() ? "'" : ", '") + std::string(name) + "'";
-    }
     for (const auto& [field, value] : object.items()) {
-        const auto is_field = [&name = field](const char* other) { return name == other; };
-        if (std::none_of(known.begin(), known.end(), is_field)) {
-            throw HttpError(400, "unknown field '" + field + "', expected " + names);
+        if (std::count(known.begin(), known.end(), field) == 0) {
+            throw HttpError(400, "unknown field '" + field + "', expected " + one_of(field, known));
         }
     }
 }

@@ -40,6 +40,6 @@ nlohmann::json read_object(const httplib::Request& request);
 std::string text_field(const nlohmann::json& object, const char* name);
 
 /// Throws HttpError when the object has a field that isn't in the list.
-void refuse_other_fields(const nlohmann::json& object, std::initializer_list<const char*> known);
+void refuse_other_fields(const nlohmann::json& object, const std::vector<std::string>& known);
 
 } // namespace sim

@@ -53,7 +53,7 @@ def load(width=1280, height=800):
     browser.execute_cdp_cmd("Emulation.setDeviceMetricsOverride", {"width": width, "height": height,
                                                                    "deviceScaleFactor": 1, "mobile": width < 700})
     browser.get(camera.address)
-    eventually(lambda: find(BRIGHTNESS), "the page")
+    eventually(lambda: find(BRIGHTNESS) and find("#keys-list kbd"), "the page")
 
 
 def run(script, *arguments):

@@ -178,7 +178,7 @@ TEST_F(ShowTest, CommandsSayWhatTheyExpect)
         {"chek DIR/good", 2, "there is no command 'chek', expected 'check' (one of check, "},
         {"texts exprot DIR/good", 2, "there is no command 'exprot', expected 'export' (one of export, import)"},
         {"--version", 0, "osdmenu-pages 1."},
-        {"measure DIR/good --page nope", 2, "no page 'nope', expected one of: "},
+        {"measure DIR/good --page nope", 2, "no page 'nope', expected one of "},
         {"measure DIR/good --language Deutsch --page image", 0, "  German  "},
         {"preview DIR/good --language Deutsch --page image -o DIR/out", 0, "DIR/out/index.html"},
         {"texts export DIR/good Deutsch DIR/de.po", 0, "texts, "},

@@ -3,7 +3,8 @@
 #include <sys/wait.h>
 
 #include "simulator/settings/settings_store.h"
-#include "tests/simulator/running_camera.h"
+#include "tests/simulator/camera_process.h"
+#include "tests/simulator/temp_folder.h"
 
 using namespace testing;
 
@@ -11,7 +12,7 @@ using namespace testing;
 /// status as a last line.
 static std::string run_camera(const TempFolder& folder, const std::string& arguments)
 {
-    const CameraProcess camera(folder, arguments + " 2>&1 >/dev/null");
+    const CameraProcess camera(folder.path(), CAMERA_SIM, arguments + " 2>&1 >/dev/null");
     std::string words;
     for (std::string line = camera.next_line(); !line.empty(); line = camera.next_line()) {
         words += std::isdigit(line[0]) != 0 && line[2] == ':' ? "" : line; // the log's lines begin with the time
@@ -25,7 +26,7 @@ TEST(Program, RefusesBadInputInOneLine)
     const std::string damaged(4000, '?');
     folder.write("camera-sim/settings.db", damaged);
     const std::pair<const char*, const char*> keys_files[] = {
-        {"menu\n\njump", "keys.txt:3: unknown key 'jump', expected one of: menu"},
+        {"menu\n\njump", "keys.txt:3: unknown key 'jump', expected one of menu"},
         {"1,5 menu", "keys.txt:1: '1,5' is no time in seconds"},
         {"nan menu", "keys.txt:1: 'nan' is no time"},
         {"1 menu\n0.9 up", "keys.txt:2: the time 0.9 lies before"},
@@ -36,9 +37,12 @@ TEST(Program, RefusesBadInputInOneLine)
     }
     const std::pair<const char*, std::string> cases[] = {
         {"--colour", "--colour"},
-        {"--keys 'menu jump' --snapshot a.png", "unknown key 'jump', expected one of: menu home up"},
+        {"--keys 'menu jump' --snapshot a.png", "unknown key 'jump', expected one of menu, home, up"},
         {"--keys-file a.txt", "a.txt: can't be read"},
-        {"--export a.json --keys menu", "--export and --keys can't be used together"},
+        {"--export a.json --keys menu", "--(keys excludes --export|export excludes --keys)"},
+        {"--scenario case --still", "excludes --"},
+        {"--listen 127.0.0.1:0 --window", "excludes --"},
+        {"--format argb565 --keys menu", "argb565 not in .argb1555,argb4444,argb8888"},
         {"--channel 1 --keys menu", "--channel is for --window and --snapshot"},
         {"--scenario case", "no such folder"},
         {"--keys menu --language Klingon", "expected one of English"},
@@ -99,7 +103,7 @@ TEST(Program, KeepsEachValueThatItReportedBeforeItIsKilled)
     }
     folder.write("keys.txt", keys);
     for (const int value : {51, 62, 80}) {
-        const CameraProcess camera(folder, "--keys-file keys.txt --data data 2>&1 >/dev/null");
+        const CameraProcess camera(folder.path(), CAMERA_SIM, "--keys-file keys.txt --data data 2>&1 >/dev/null");
         int last = -1;
         for (std::string line = camera.next_line(); !line.empty(); line = camera.next_line()) { // it may set some more
             (void)std::sscanf(line.c_str(), "%*s %*s %*s 'Brightness' of 'ImageParam' is now %d", &last);

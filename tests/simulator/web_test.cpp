@@ -78,14 +78,17 @@ TEST_F(WebTest, RefusesInWords)
         {with_body("POST /keys", R"({"keys": ["menu", "jump"]})"), 400, "unknown key 'jump', expected one of"},
         {with_body("POST /keys", R"({"keys": "menu"})"), 400, "must be a list"},
         {with_body("POST /keys", R"({"keys": )" + std::string(60000, '[')), 400, "nests deeper than 32 levels"},
-        {with_body("POST /keys", R"({"kees": []})"), 400, "unknown field 'kees', expected 'keys'"},
+        {with_body("POST /keys", R"({"kees": []})"), 400, "unknown field 'kees', expected 'keys' (one of keys, press"},
         {with_body("POST /keys", "{}"), 400, "expected one of 'keys', 'press', 'renew' and 'release'"},
         {with_body("POST /keys", std::string(std::size_t{100} << 20, ' ')), 413, "too large"},
         {with_body("PUT /settings/Colour", R"({"value": "1"})"), 404, "no setting 'Colour'"},
         {with_body("PUT /settings/Zoom", R"({"value": 99})"), 400, "a whole number from 100 to 2000"},
+        {with_body("PUT /settings/Zoom", R"({"value": "0150"})"), 400, "expected '150', without zeros"},
+        {with_body("PUT /settings/IpAddr", R"({"value": "hello"})"), 400, "such as 192.168.1.120"},
+        {with_body("PUT /settings/NetMask", R"({"value": "999.1.1.1"})"), 400, "'999.1.1.1' is no address"},
         {with_body("PUT /settings.json", R"({"Zoom": "300", "Colour": "1"})"), 400, "no setting 'Colour'"},
         {with_body("POST /menu", R"({"style": 3})"), 400, "'style' of 0, 1 or 2"},
-        {with_body("POST /menu", R"({"page": "nowhere", "style": 1})"), 400, "expected one of: advanced"},
+        {with_body("POST /menu", R"({"page": "nowhere", "style": 1})"), 400, "expected one of advanced"},
         {with_body("PUT /faults", R"({"on": 1})"), 400, "a list of names"},
         {bare_request("GET /state", "Host: camera.example\r\n"), 403, "serves this machine only"},
         {request("GET /state", "Origin: http://camera.example\r\n"), 403, "may not use this camera"},
@@ -120,6 +123,18 @@ TEST_F(WebTest, StartsAnotherMenu)
     EXPECT_EQ(ask("GET /state")["pages"][1]["name"], "network");
     EXPECT_EQ(ask("POST /menu", {{"page", "main"}})["style"], 0);
     EXPECT_EQ(ask("GET /state")["pages"].size(), 1);
+}
+
+TEST_F(WebTest, TellsItsKeys)
+{
+    const json keys = ask("GET /keys")["keys"];
+    EXPECT_EQ(keys[0]["keyboard"], json({"m", "Escape"}));
+    EXPECT_EQ(keys[1]["keyboard"], json({"Enter"}));
+    EXPECT_EQ(keys[2], json({{"name", "up"},
+                             {"title", "Up"},
+                             {"help", "moves the cursor up"},
+                             {"keyboard", {"ArrowUp"}},
+                             {"repeats", true}}));
 }
 
 TEST_F(WebTest, GivesPicturesAsFiles)

@@ -2,7 +2,7 @@
 
 import { byId, make, setOptions, stored, wireTabs } from "./dom.js";
 import { listen, makePause, request, showErrorsWith, trouble } from "./camera.js";
-import { flash, wireRemote } from "./remote.js";
+import { flash, loadKeys, wireRemote } from "./remote.js";
 import { showProblems, wireProblems } from "./problems.js";
 import { loadSettings, settingChanged, wireSettings } from "./settings.js";
 import { addLine, expectReplay, wireLog } from "./log.js";
@@ -144,13 +144,15 @@ function showStart({ menu, style }) {
   else if (!box.firstChild) box.append(startAgain(style));
 }
 
-function showView({ channels, languages, language, style, size }) {
+function showView({ channels, languages, language, styles, style, sizes, size }) {
   setOptions(byId("channel"), channels.map(({ name }, index) => [String(index), name]))
   const { width, height } = channels[byId("channel").value];
   byId("channel-size").textContent = `${width}×${height}`;
   setOptions(byId("language"), languages.map(name => [name, name.replace(/(?<=[a-z])(?=[A-Z])/, " ")]));
   byId("language").value = language;
+  setOptions(byId("style"), [...Array(styles).keys()].map(number => [String(number), number]));
   byId("style").value = String(style);
+  setOptions(byId("size"), sizes.map(name => [name, name]));
   byId("size").value = size;
 }
 
@@ -239,7 +241,7 @@ function onLink(now) {
   if (!connected) return;
   expectReplay();
   startStream(); // a stream that broke off leaves its last frame behind, and no error
-  Promise.all([loadSettings(), loadFaults()]).catch(trouble);
+  Promise.all([loadKeys(), loadSettings(), loadFaults()]).catch(trouble);
 }
 
 showErrorsWith(toast);

@@ -3,26 +3,10 @@
 import { byId, make, mark, stored } from "./dom.js";
 import { makeQueue, request } from "./camera.js";
 
-// event.key, how the page shows it, the camera's key
-const keyboard = [
-  ["ArrowUp", "↑", "up"],
-  ["ArrowDown", "↓", "down"],
-  ["ArrowLeft", "←", "left"],
-  ["ArrowRight", "→", "right"],
-  ["Enter", "Enter", "home"],
-  ["m", "M", "menu"],
-  ["Escape", "Esc", "menu"],
-  ["Backspace", "Backspace", "return"],
-  ["c", "C", "close"],
-  ["a", "A", "advanced"],
-  [" ", "Space", "apply"],
-  ["+", "+", "zoom+"],
-  ["-", "-", "zoom-"],
-  ["p", "P", "prompt"],
-  ["r", "R", "rec"],
-];
-const keyOf = new Map(keyboard.map(([key, , name]) => [key, name]));
-const once = new Set(["menu", "home", "advanced", "return", "close", "apply", "prompt", "rec"]);
+const shownAs = { ArrowUp: "↑", ArrowDown: "↓", ArrowLeft: "←", ArrowRight: "→", Escape: "Esc", " ": "Space" };
+const spokenAs = { " ": "Space", "+": "Plus" };
+const keyOf = new Map(); // event.key to the camera's key
+const once = new Set(); // the keys that nobody holds
 
 const queue = makeQueue(message => request("POST", "keys", message, { keepalive: true }));
 const buttons = new Map();
@@ -106,24 +90,32 @@ function wireButton(button) {
   button.addEventListener("contextmenu", event => event.preventDefault()); // a long touch is a hold
 }
 
-function showKeyboard() {
-  for (const [key, shown, name] of keyboard) {
-    const button = buttons.get(name);
-    byId("keys-list").append(make("div", {}, make("dt", {}, make("kbd", {}, shown)), make("dd", {},
-      button.getAttribute("aria-label") ?? button.firstChild.textContent, make("small", {}, button.title))));
-    if (!button.hasAttribute("aria-keyshortcuts")) {
-      button.setAttribute("aria-keyshortcuts", { " ": "Space", "+": "Plus" }[key] ?? key);
-    }
+function showKey({ name, title, help, keyboard, repeats }) {
+  if (!repeats) once.add(name);
+  const button = buttons.get(name);
+  const words = help[0].toUpperCase() + help.slice(1);
+  button.title = words;
+  button.ariaLabel = title;
+  if (keyboard.length) button.setAttribute("aria-keyshortcuts", spokenAs[keyboard[0]] ?? keyboard[0]);
+  for (const key of keyboard) {
+    const shown = shownAs[key] ?? (key.length === 1 ? key.toUpperCase() : key);
+    keyOf.set(key, name);
+    byId("keys-list").append(make("div", {}, make("dt", {}, make("kbd", {}, shown)),
+      make("dd", {}, title, make("small", {}, words))));
+    if (/^[a-z ]$/.test(key)) button.append(make("kbd", { ariaHidden: "true" }, shown));
   }
-  for (const [key, shown, name] of keyboard) {
-    if (/^[macpr]$|^ $/.test(key)) buttons.get(name).append(make("kbd", { ariaHidden: "true" }, shown));
-  }
+}
+
+/** Learns from the camera what its keys are called and do. */
+export async function loadKeys() {
+  if (keyOf.size) return;
+  const { keys } = await request("GET", "keys");
+  if (!keyOf.size) keys.filter(({ name }) => buttons.has(name)).forEach(showKey);
 }
 
 /** Makes the remote control work; menuIsOpen tells whether Escape has anything to close. */
 export function wireRemote(menuIsOpen) {
   document.querySelectorAll("[data-key]").forEach(wireButton);
-  showKeyboard();
   const enabled = byId("keys-on");
   enabled.checked = stored.get("keys", "on") === "on";
   enabled.addEventListener("change", () => stored.set("keys", enabled.checked ? "on" : "off"));
