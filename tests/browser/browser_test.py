@@ -156,13 +156,19 @@ class PageTest(unittest.TestCase):
         self.wait_value("8")  # what somebody types stays
         press(Keys.ESCAPE)
         self.wait_value("60")
-        fill(BRIGHTNESS, "700" + Keys.ENTER)
-        eventually(lambda: "Brightness" in text("#toasts"), "a refused value is told")
+        for value, row in (("700", ".setting:has([id='setting-ImageParam.Contrast'])"),
+                           ("800", f".setting:has({BRIGHTNESS})")):
+            fill(f"{row} input", value + Keys.ENTER)
+            told = eventually(lambda: text(f"{row} #message"), "a refused value is told beside its field")
+            self.assertIn(value, told)
+            self.assertEqual(told.count("Brightness") + told.count("Contrast"), 1, told)
+        self.assertEqual(run("return document.querySelectorAll('.problem').length"), 1)
         self.wait_value("60")
         file = camera.folder / "import.json"
         file.write_text(json.dumps({**camera.get("settings.json"), "ImageParam.Brightness": "33"}), "utf-8")
         fill("#import-file", str(file))
         self.wait_value("33")
+        eventually(lambda: "imported from import.json" in text("#message.note"), "an import that worked says so")
 
     def test_language_and_faults(self):
         camera.keys("menu home")
@@ -220,6 +226,30 @@ class PageTest(unittest.TestCase):
             browser.switch_to.window(browser.window_handles[0])
             ActionChains(browser).reset_actions()
 
+    def test_address_that_waits(self):
+        camera.ask("POST", "menu", {"page": "network"})
+        for keys, address in (("up up up up home left up", "192.168.001.121"), ("home down", "192.168.1.121")):
+            camera.keys(keys)
+            eventually(lambda: address in text("#items"), f"the panel shows {address}, as the picture")
+        self.assertEqual(camera.get("settings.json")["NetCard0.IpAddr"], "192.168.1.120")
+
+    def test_many_tabs(self):
+        first = browser.current_window_handle
+        for _ in range(7):
+            browser.switch_to.new_window("tab")
+            load()
+        self.wait_moving_picture()
+        eventually(lambda: len(camera.get("channels")["channels"][0]["viewers"]) == 1, "one page alone has a stream")
+        browser.switch_to.window(first)
+        find("[data-key='right']").click()
+        self.wait_focus("main", "Exposure")
+        self.wait_moving_picture()
+        for handle in browser.window_handles:
+            if handle != first:
+                browser.switch_to.window(handle)
+                browser.close()
+        browser.switch_to.window(first)
+
     def test_theme(self):
         colours = []
         for system, theme in (("light", "auto"), ("dark", "light"), ("dark", "auto"), ("light", "dark")):
@@ -236,8 +266,9 @@ class PageTest(unittest.TestCase):
         camera.stop()
         eventually(lambda: run(VEILED), "the page says that the camera is gone")
         find("[data-key='menu']").click()
-        eventually(lambda: text("#toasts"), "a key without an answer is told")
+        eventually(lambda: text("#remote #message"), "a key without an answer is told")
         camera.start(camera.place)
+        eventually(lambda: not text("#message"), "that is gone when the camera answers")
         self.wait_moving_picture()
         camera.process.send_signal(signal.SIGSTOP)
         eventually(lambda: run(VEILED), "the page says that the camera is silent")

@@ -24,7 +24,7 @@ const keyboard = [
 const keyOf = new Map(keyboard.map(([key, , name]) => [key, name]));
 const once = new Set(["menu", "home", "advanced", "return", "close", "apply", "prompt", "rec"]);
 
-const queue = makeQueue(message => request("POST", "keys", message, { keepalive: true }));
+const queue = makeQueue(message => request("POST", "keys", message, { keepalive: true }), () => byId("remote"));
 const buttons = new Map();
 let held = null; // {name, source, timer}: the key that the camera repeats, and the finger or key that holds it
 
