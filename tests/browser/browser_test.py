@@ -29,6 +29,8 @@ VISIBLE_CONTROLS = """return [...document.querySelectorAll('button, select, inpu
     .filter(element => element.checkVisibility())"""
 # A stream that ends leaves its last picture, and no error.
 ENDED_STREAM = "const { stream } = window; stream.src = 'channels/0/snapshot.jpg'; return stream.decode()"
+MARKED = """return [...document.querySelectorAll('.setting')].filter(row => row.querySelector('.unused').innerText)
+    .map(row => row.title)"""
 BOTTOM = "return Math.max(...['.frame', '#remote'].map(s => document.querySelector(s).getBoundingClientRect().bottom))"
 
 
@@ -107,7 +109,7 @@ class PageTest(unittest.TestCase):
         eventually(lambda: len(set(run(PIXELS).split(","))) > 20, "the picture has pixels")
         for element in run(VISIBLE_CONTROLS):
             self.assertTrue(element.accessible_name, element.get_attribute("outerHTML"))
-        for width, height in ((360, 740), (390, 844), (768, 1024), (1920, 1080), (1280, 800)):
+        for width, height in ((320, 740), (360, 740), (390, 844), (768, 1024), (1920, 1080), (1280, 800)):
             load(width, height)
             self.assertLessEqual(run("return document.documentElement.scrollWidth"), width)
         self.assertLessEqual(run(BOTTOM), 800)
@@ -225,6 +227,47 @@ class PageTest(unittest.TestCase):
             browser.close()
             browser.switch_to.window(browser.window_handles[0])
             ActionChains(browser).reset_actions()
+
+    def test_rows_and_pages_answer_to_clicks(self):
+        camera.keys("menu")
+        for selector, expected in (("#items li:nth-child(2)", ("main", "Exposure")),
+                                   ("#items [aria-current]", ("exposure", "Exposure Mode", "Auto")),
+                                   ("#pages button", ("main", "Exposure")),
+                                   ("#items li:nth-child(1)", ("main", "Image")),
+                                   ("#items [aria-current]", ("image", "Brightness")),
+                                   ("#items li:nth-child(4)", ("image", "Sharpness")),
+                                   ("#items li:nth-child(2)", ("image", "Contrast"))):
+            find(selector).click()
+            self.wait_focus(*expected)
+
+    def test_settings_by_the_menus_text(self):
+        for language, words, label in (("English", "kelvin", "Kelvin"), ("German", "helligkeit", "Helligkeit"),
+                                       ("German", "ImageParam.Bright", "Helligkeit")):
+            find(f"#language option[value='{language}']").click()
+            fill("#settings-search", words)
+            eventually(lambda: label in text("#settings-list").split("\n"), f"{label} is found by {words}")
+
+    def test_marks_what_the_picture_does_not_show(self):
+        others = {"ImageParam.NoiseReduction": "Manual", "ExposureParam.ExposureMode": "Manual", "PipMode": "On",
+                  "WhiteBalanceParam.WbMode": "Manual", "Zoom": "200", "Tally": "Red"}
+        settings = [setting for setting in camera.get("settings")["settings"] if setting["kind"] != "text"
+                    and setting["key"] not in ("Language", "RotateAngle", "RotateFit", "ExposureMode")]
+        for base in ({}, others):
+            camera.put("settings.json", {**defaults, **base})
+            picture = lambda: camera.ask("GET", "channels/2/snapshot.png")
+            before, unseen = picture(), set()
+            for setting in settings:
+                values = {str(value) for value in setting.get("options", [setting.get("min"), setting.get("max")])}
+                values = {"FF0000"} if setting["kind"] == "color" else values
+                unseen.add(setting["name"])
+                for value in sorted(values - {base.get(setting["name"], setting["default"])}):
+                    camera.put(f"settings/{setting['name']}", {"value": value})
+                    if picture() != before:
+                        unseen.discard(setting["name"])
+                        break
+                camera.put("settings.json", {**defaults, **base})
+            marked = {name for name in run(MARKED) if name in {setting["name"] for setting in settings}}
+            self.assertEqual(marked, unseen)
 
     def test_address_that_waits(self):
         camera.ask("POST", "menu", {"page": "network"})
