@@ -41,6 +41,7 @@ def start_browser():
     for flag in FLAGS:
         options.add_argument(flag)
     started = Chrome(options=options, service=Service("/usr/bin/chromedriver"))
+    started.set_page_load_timeout(30)
     atexit.register(started.quit)
     return started
 
