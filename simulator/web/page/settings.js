@@ -110,6 +110,9 @@ function search() {
 }
 
 function makeRows(settings) {
+  const isTwinOf = one => other => other !== one && other.parent === one.parent && called(other) === called(one);
+  const twins = settings.filter(setting => settings.some(isTwinOf(setting)));
+  for (const twin of twins) twin.label += ` ${twin.key}`;
   const groups = new Map();
   for (const setting of settings) {
     const parent = setting.parent || "Camera";
