@@ -18,7 +18,7 @@ export async function request(method, path, body, options = {}) {
   return answer;
 }
 
-/** A queue that sends one message after the other, so that they arrive in order; errors are told at placeOf(message). */
+/** A queue that sends one message after the other, in their order; errors are told at placeOf(message). */
 export function makeQueue(send, placeOf) {
   const waiting = [];
   let sending = false;
