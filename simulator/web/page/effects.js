@@ -3,6 +3,8 @@
 const seen = new Set(`Brightness Contrast Saturation Sharpness NoiseReduction Mirror Flip RotateAngle Zoom ExposureMode
   Wdr WbMode Hue TestPattern PipMode Tally LedMode Language`.split(/\s+/));
 
+const besidePattern = new Set("Tally TallyLevel LedMode LedCustomColor TestPattern Language".split(" "));
+
 // key: {the other's key: one of these values, or, behind "!", any but this one}
 const needs = {
   Nr2d: { NoiseReduction: "Manual" },
@@ -28,9 +30,9 @@ const needs = {
 
 /** Why a setting has no effect on the picture now; nothing when it has one. called() gives a setting its name. */
 export function whyUnseen(key, settings, called) {
-  if (seen.has(key)) return "";
-  if (!needs[key]) return "not in the picture";
-  for (const [other, wanted] of Object.entries(needs[key])) {
+  if (!seen.has(key) && !needs[key]) return "not in the picture";
+  const scene = besidePattern.has(key) ? {} : { TestPattern: "Off" };
+  for (const [other, wanted] of Object.entries({ ...scene, ...needs[key] })) {
     const setting = settings.get(other);
     const values = wanted.replace("!", "").split(" ");
     if (setting && values.includes(setting.value) === wanted.startsWith("!")) {
