@@ -30,16 +30,14 @@ bool shows_value(const tagITEM_NODE_S& item)
     return item.enCtx == NAME_VAL || item.enCtx == NAME_BAR_VAL || item.enCtx == NAME_IP_VAL;
 }
 
-/// A value that the menu reads anew at each draw: the setting's own.
+/// A value that the menu reads anew at each draw: the setting's own. An address is shown as it is, all else translated.
 std::string live_value(Camera& camera, const tagITEM_NODE_S& item)
 {
-    const Setting* setting = camera.settings.find_key(text_of_field(item.acItemIndex));
-    if (setting == nullptr) {
-        return "";
-    }
-    const std::string value = camera.settings.value(setting->id);
+    const std::string key = text_of_field(item.acItemIndex);
+    const Setting* setting = camera.settings.find_key(key);
+    const std::string value = setting == nullptr ? "" : camera.settings.value(setting->id);
     const std::string* text = camera.texts.find(camera.language(), value);
-    return text == nullptr ? value : *text;
+    return key == "IpAddr" ? value : text == nullptr ? "" : *text;
 }
 
 std::string value_text(Camera& camera, const tagITEM_NODE_S& item)
@@ -47,8 +45,11 @@ std::string value_text(Camera& camera, const tagITEM_NODE_S& item)
     if (!shows_value(item)) {
         return "";
     }
-    if (item.enAttr == STATUS || item.enAttr == EDITABLE) {
-        return text_of_field(item.acValue[item.bEditing == 1 ? 1 : 0]);
+    if (item.enValType == EDITTXT) { // as it was edited, also before it is confirmed
+        return text_of_field(item.acValue[1]);
+    }
+    if (item.enAttr == STATUS) {
+        return text_of_field(item.acValue[0]);
     }
     if (item.enValType == NUMERICAL) {
         return std::to_string(item.s32Cur);

@@ -77,6 +77,11 @@ const std::vector<Api::Route>& Api::routes()
     return table;
 }
 
+void Api::ask_for_token(httplib::Response& response) const
+{
+    response.set_content(read_text_file(page_ / "token.html"), "text/html; charset=utf-8");
+}
+
 void Api::close()
 {
     parts_.hub.close();
@@ -273,7 +278,14 @@ void Api::get_channels(const Call& call)
 
 void Api::get_settings(const Call& call)
 {
-    answer_json(call.response, parts_.loop.call([&] { return settings_list(parts_.camera.settings); }));
+    answer_json(call.response, parts_.loop.call([&] {
+        json list = settings_list(parts_.camera.settings);
+        for (json& setting : list["settings"]) {
+            const std::string* label = parts_.camera.texts.find(parts_.camera.language(), setting["key"]);
+            setting["label"] = label == nullptr ? "" : *label;
+        }
+        return list;
+    }));
 }
 
 void Api::put_setting(const Call& call)

@@ -25,6 +25,9 @@ public:
     /// Throws HttpError for a request that this camera doesn't serve, see check_access().
     void admit(const httplib::Request& request) const { check_access(request, token_); }
 
+    /// Puts a page that asks for the token in the place of a refusal.
+    void ask_for_token(httplib::Response& response) const;
+
     /// Answers a request that was admitted; what is wrong with it is told in a JSON object with the field "error".
     void serve(const httplib::Request& request, httplib::Response& response);
 

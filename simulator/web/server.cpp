@@ -124,6 +124,9 @@ private:
             check_form(request);
         } catch (const HttpError& error) {
             answer_error(response, error.status(), error.what());
+            if (error.status() == 401 && request.get_header_value("Accept").find("text/html") != std::string::npos) {
+                api.ask_for_token(response); // a person with a browser
+            }
             return HandlerResponse::Handled;
         }
         if (has_body_method(request)) {

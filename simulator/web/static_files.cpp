@@ -16,6 +16,7 @@ struct FileKind {
 constexpr FileKind file_kinds[] = {{".html", "text/html; charset=utf-8"},
                                    {".css", "text/css; charset=utf-8"},
                                    {".js", "text/javascript; charset=utf-8"},
+                                   {".md", "text/plain; charset=utf-8"},
                                    {".svg", "image/svg+xml"}};
 
 /// A name as our own files have it: no folder, no "..".

@@ -29,6 +29,8 @@ VISIBLE_CONTROLS = """return [...document.querySelectorAll('button, select, inpu
     .filter(element => element.checkVisibility())"""
 # A stream that ends leaves its last picture, and no error.
 ENDED_STREAM = "const { stream } = window; stream.src = 'channels/0/snapshot.jpg'; return stream.decode()"
+MARKED = """return [...document.querySelectorAll('.setting')].filter(row => row.querySelector('.unused').innerText)
+    .map(row => row.title)"""
 BOTTOM = "return Math.max(...['.frame', '#remote'].map(s => document.querySelector(s).getBoundingClientRect().bottom))"
 
 
@@ -39,6 +41,7 @@ def start_browser():
     for flag in FLAGS:
         options.add_argument(flag)
     started = Chrome(options=options, service=Service("/usr/bin/chromedriver"))
+    started.set_page_load_timeout(30)
     atexit.register(started.quit)
     return started
 
@@ -107,7 +110,7 @@ class PageTest(unittest.TestCase):
         eventually(lambda: len(set(run(PIXELS).split(","))) > 20, "the picture has pixels")
         for element in run(VISIBLE_CONTROLS):
             self.assertTrue(element.accessible_name, element.get_attribute("outerHTML"))
-        for width, height in ((360, 740), (390, 844), (768, 1024), (1920, 1080), (1280, 800)):
+        for width, height in ((320, 740), (360, 740), (390, 844), (768, 1024), (1920, 1080), (1280, 800)):
             load(width, height)
             self.assertLessEqual(run("return document.documentElement.scrollWidth"), width)
         self.assertLessEqual(run(BOTTOM), 800)
@@ -156,13 +159,19 @@ class PageTest(unittest.TestCase):
         self.wait_value("8")  # what somebody types stays
         press(Keys.ESCAPE)
         self.wait_value("60")
-        fill(BRIGHTNESS, "700" + Keys.ENTER)
-        eventually(lambda: "Brightness" in text("#toasts"), "a refused value is told")
+        for value, row in (("700", ".setting:has([id='setting-ImageParam.Contrast'])"),
+                           ("800", f".setting:has({BRIGHTNESS})")):
+            fill(f"{row} input", value + Keys.ENTER)
+            told = eventually(lambda: text(f"{row} #message"), "a refused value is told beside its field")
+            self.assertIn(value, told)
+            self.assertEqual(told.count("Brightness") + told.count("Contrast"), 1, told)
+        self.assertEqual(run("return document.querySelectorAll('.problem').length"), 1)
         self.wait_value("60")
         file = camera.folder / "import.json"
         file.write_text(json.dumps({**camera.get("settings.json"), "ImageParam.Brightness": "33"}), "utf-8")
         fill("#import-file", str(file))
         self.wait_value("33")
+        eventually(lambda: "imported from import.json" in text("#message.note"), "an import that worked says so")
 
     def test_language_and_faults(self):
         camera.keys("menu home")
@@ -220,6 +229,68 @@ class PageTest(unittest.TestCase):
             browser.switch_to.window(browser.window_handles[0])
             ActionChains(browser).reset_actions()
 
+    def test_rows_and_pages_answer_to_clicks(self):
+        camera.keys("menu")
+        self.wait_focus("main", "Image")
+        for selector, expected in (("#items li:nth-child(2)", ("main", "Exposure")),
+                                   ("#items [aria-current]", ("exposure", "Exposure Mode", "Auto")),
+                                   ("#pages button", ("main", "Exposure")),
+                                   ("#items li:nth-child(1)", ("main", "Image")),
+                                   ("#items [aria-current]", ("image", "Brightness")),
+                                   ("#items li:nth-child(4)", ("image", "Sharpness")),
+                                   ("#items li:nth-child(2)", ("image", "Contrast"))):
+            find(selector).click()
+            self.wait_focus(*expected)
+
+    def test_settings_by_the_menus_text(self):
+        for language, words, label in (("English", "kelvin", "Kelvin"), ("German", "helligkeit", "Helligkeit"),
+                                       ("German", "ImageParam.Bright", "Helligkeit")):
+            find(f"#language option[value='{language}']").click()
+            fill("#settings-search", words)
+            eventually(lambda: label in text("#settings-list").split("\n"), f"{label} is found by {words}")
+
+    def test_marks_what_the_picture_does_not_show(self):
+        others = {"ImageParam.NoiseReduction": "Manual", "ExposureParam.ExposureMode": "Manual", "PipMode": "On",
+                  "WhiteBalanceParam.WbMode": "Manual", "Zoom": "200", "Tally": "Red"}
+        settings = [setting for setting in camera.get("settings")["settings"] if setting["kind"] != "text"
+                    and setting["key"] not in ("Language", "RotateAngle", "RotateFit", "ExposureMode")]
+        for base in ({}, others, {"TestPattern": "ColorBars"}):
+            camera.put("settings.json", {**defaults, **base})
+            before, unseen = camera.snapshot(2), set()
+            for setting in settings:
+                values = {str(value) for value in setting.get("options", [setting.get("min"), setting.get("max")])}
+                values = {"FF0000"} if setting["kind"] == "color" else values
+                other = max(values - {base.get(setting["name"], setting["default"])})
+                camera.put(f"settings/{setting['name']}", {"value": other})
+                if camera.snapshot(2) == before:
+                    unseen.add(setting["name"])
+                camera.put("settings.json", {**defaults, **base})
+            self.assertEqual(set(run(MARKED)) & {setting["name"] for setting in settings}, unseen)
+
+    def test_address_that_waits(self):
+        camera.ask("POST", "menu", {"page": "network"})
+        for keys, address in (("up up up up home left up", "192.168.001.121"), ("home down", "192.168.1.121")):
+            camera.keys(keys)
+            eventually(lambda: address in text("#items"), f"the panel shows {address}, as the picture")
+        self.assertEqual(camera.get("settings.json")["NetCard0.IpAddr"], "192.168.1.120")
+
+    def test_many_tabs(self):
+        first = browser.current_window_handle
+        for _ in range(7):
+            browser.switch_to.new_window("tab")
+            load()
+        self.wait_moving_picture()
+        eventually(lambda: len(camera.get("channels")["channels"][0]["viewers"]) == 1, "one page alone has a stream")
+        browser.switch_to.window(first)
+        find("[data-key='right']").click()
+        self.wait_focus("main", "Exposure")
+        self.wait_moving_picture()
+        for handle in browser.window_handles:
+            if handle != first:
+                browser.switch_to.window(handle)
+                browser.close()
+        browser.switch_to.window(first)
+
     def test_theme(self):
         colours = []
         for system, theme in (("light", "auto"), ("dark", "light"), ("dark", "auto"), ("light", "dark")):
@@ -236,8 +307,9 @@ class PageTest(unittest.TestCase):
         camera.stop()
         eventually(lambda: run(VEILED), "the page says that the camera is gone")
         find("[data-key='menu']").click()
-        eventually(lambda: text("#toasts"), "a key without an answer is told")
+        eventually(lambda: text("#remote #message"), "a key without an answer is told")
         camera.start(camera.place)
+        eventually(lambda: not text("#message"), "that is gone when the camera answers")
         self.wait_moving_picture()
         camera.process.send_signal(signal.SIGSTOP)
         eventually(lambda: run(VEILED), "the page says that the camera is silent")

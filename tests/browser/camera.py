@@ -49,8 +49,8 @@ class Camera:
     def keys(self, names):
         self.ask("POST", "keys", {"keys": names.split()})
 
-    def snapshot(self):
-        return self.ask("GET", "channels/0/snapshot.png")
+    def snapshot(self, channel=0):
+        return self.ask("GET", f"channels/{channel}/snapshot.png")
 
     def focus(self):
         """Page, label and value of the row with the cursor; nothing while the menu is closed."""

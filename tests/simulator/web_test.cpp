@@ -202,6 +202,8 @@ TEST(Web, NeedsTheTokenBeyondThisMachine)
     }
     EXPECT_THAT(answer_to(camera.port, bare_request("GET /?token=s3cret", host)),
                 AllOf(StartsWith("HTTP/1.1 200"), HasSubstr("Set-Cookie: " + name + "=s3cret; ")));
+    EXPECT_THAT(answer_to(camera.port, bare_request("GET /?token=s3cre", host + "Accept: text/html,*/*\r\n")),
+                AllOf(StartsWith("HTTP/1.1 401"), HasSubstr("<input name=\"token\""))); // a person is asked
 }
 
 TEST(KeyHold, LastsWhileItIsRenewed)

@@ -1,7 +1,9 @@
 // The simulated camera in a browser: shows what the camera tells, and sends what the person does.
 
 import { byId, make, setOptions, stored, wireTabs } from "./dom.js";
-import { listen, makePause, request, showErrorsWith, trouble } from "./camera.js";
+import { listen, makePause, request } from "./camera.js";
+import { trouble } from "./message.js";
+import { showMenu } from "./menu.js";
 import { flash, loadKeys, wireRemote } from "./remote.js";
 import { showProblems, wireProblems } from "./problems.js";
 import { loadSettings, settingChanged, wireSettings } from "./settings.js";
@@ -75,12 +77,27 @@ function wireStream() {
     clearTimeout(streamTimer);
     streamTimer = setTimeout(startStream, streamPause.next());
   });
-  document.addEventListener("visibilitychange", startStream);
+  document.addEventListener("visibilitychange", () => { if (document.hidden) startStream(); }); // else onLink() does
   byId("channel").addEventListener("change", () => {
     startStream();
     showView(state);
   });
   setInterval(checkStream, 3000);
+}
+
+function wireEnlarge() {
+  const button = byId("enlarge");
+  const show = large => {
+    document.body.classList.toggle("large", large);
+    button.setAttribute("aria-pressed", large);
+  };
+  button.addEventListener("click", event => {
+    if (event.detail) button.blur(); // so that Enter stays the camera's OK
+    show(!document.body.classList.contains("large"));
+    if (document.fullscreenElement) document.exitFullscreen();
+    else document.documentElement.requestFullscreen?.().catch(() => {}); // the window will do
+  });
+  document.addEventListener("fullscreenchange", () => show(Boolean(document.fullscreenElement)));
 }
 
 // --- what a screen reader says ---
@@ -108,30 +125,6 @@ function speak({ focus }) {
 
 // --- panels ---
 
-function itemLine({ label, value, selected, editing }) {
-  const shown = make("span", {}, value);
-  if (editing) shown.append(make("em", {}, "editing"));
-  const line = make("li", {}, make("span", {}, label), shown);
-  if (selected) line.ariaCurrent = "true";
-  return line;
-}
-
-function showMenu({ open, menu, pages, all_pages: names, language }) {
-  const items = byId("items");
-  const top = pages.at(-1);
-  byId("pages").lang = items.lang = byId("spoken").lang = codes[language] ?? "";
-  byId("pages").replaceChildren(...pages.map(({ name, title }) => make("li", { title: name }, title || name)));
-  byId("pages").lastElementChild?.setAttribute("aria-current", "page");
-  setOptions(byId("page"), [["", "no page"], ...names.map(name => [name, name])]);
-  byId("page").value = top?.name ?? "";
-  items.replaceChildren(...(top?.items ?? []).map(itemLine));
-  items.hidden = !top;
-  byId("menu-note").textContent = menu === false ? "The menu could not start, see the log. Keys do nothing."
-    : open ? top?.message ?? "" : "The menu is closed. Menu, or the key M, opens it.";
-  const chosen = items.querySelector("[aria-current]");
-  if (chosen) items.scrollTop = chosen.offsetTop - (items.clientHeight - chosen.offsetHeight) / 2;
-}
-
 function startAgain(style) {
   const button = make("button", {}, "Start again");
   button.addEventListener("click", () => request("POST", "menu", { style }).catch(trouble));
@@ -158,14 +151,18 @@ function showView({ channels, languages, language, styles, style, sizes, size })
 
 function showState(next) {
   const otherSize = state && state.size !== next.size;
+  const otherLanguage = state && state.language !== next.language;
+  const code = codes[next.language] ?? "";
   state = next;
-  showMenu(next);
+  byId("spoken").lang = code;
+  showMenu(next, code);
   showStart(next);
   showProblems(next.problems);
   showView(next);
   showFaults(next);
   speak(next);
   if (otherSize) startStream();
+  if (otherLanguage) loadSettings().catch(trouble);
 }
 
 function faultSwitch({ name, help }) {
@@ -177,10 +174,12 @@ function faultSwitch({ name, help }) {
       await request("PUT", "faults", { on });
     } catch (error) {
       showFaults(state);
-      trouble(error);
+      trouble(error, line);
     }
   });
-  return make("label", { className: "switch" }, box, make("span", {}, name, make("small", {}, help)));
+  const line = make("div", {},
+    make("label", { className: "switch" }, box, make("span", {}, name, make("small", {}, help))));
+  return line;
 }
 
 function showFaults({ faults }) {
@@ -196,7 +195,7 @@ function wireSwitch(id, requestOf) {
       await request("POST", ...requestOf(event.target.value));
     } catch (error) {
       if (state) showState(state);
-      trouble(error);
+      trouble(error, byId(id).closest("section"));
     }
   });
 }
@@ -212,19 +211,7 @@ function wireTheme() {
   });
 }
 
-// --- errors and the connection ---
-
-function toast(text) {
-  const now = new Date().toLocaleTimeString("en-GB");
-  addLine({ time: `${now}.${String(Date.now() % 1000).padStart(3, "0")}`, level: "ERROR", tag: "page", text });
-  const close = make("button", { ariaLabel: "Close this message" }, "×");
-  const box = make("p", { className: "problem" }, make("span", {}, text), close);
-  const same = [...byId("toasts").children].find(other => other.firstChild.textContent === text);
-  same?.remove();
-  close.addEventListener("click", () => box.remove());
-  setTimeout(() => box.remove(), 10000); // it stays in the log
-  byId("toasts").append(box);
-}
+// --- the connection ---
 
 async function loadFaults() {
   const { faults } = await request("GET", "faults");
@@ -244,7 +231,6 @@ function onLink(now) {
   Promise.all([loadKeys(), loadSettings(), loadFaults()]).catch(trouble);
 }
 
-showErrorsWith(toast);
 wireTheme();
 wireTabs(document.querySelector("[role=tablist]"));
 wireRemote(() => Boolean(state?.open));
@@ -252,6 +238,7 @@ wireSettings();
 wireProblems();
 wireLog();
 wireStream();
+wireEnlarge();
 wireSwitch("language", language => ["language", { language }]);
 wireSwitch("style", style => ["menu", { style: Number(style) }]);
 wireSwitch("size", size => ["menu", { size }]);

@@ -1,16 +1,6 @@
-// Requests to the camera, its events, and the errors of both.
+// Requests to the camera, and its events.
 
-let tell = () => {};
-
-/** Names the function that shows an error to the person. */
-export function showErrorsWith(show) {
-  tell = show;
-}
-
-/** Shows an error; nothing is swallowed. */
-export function trouble(error) {
-  tell(error.message);
-}
+import { answered, trouble } from "./message.js";
 
 /** Sends a request; what the camera answers, or an Error with its words. A string goes as it is, as JSON. */
 export async function request(method, path, body, options = {}) {
@@ -20,21 +10,25 @@ export async function request(method, path, body, options = {}) {
   try {
     response = await fetch(path, { method, headers, body: text, ...options });
   } catch {
-    throw new Error("The camera doesn't answer.");
+    throw Object.assign(new Error("The camera doesn't answer."), { silent: true });
   }
+  answered();
   const answer = await response.json().catch(() => ({}));
   if (!response.ok) throw new Error(answer.error ?? `The camera refuses ${path} with status ${response.status}.`);
   return answer;
 }
 
-/** A queue that sends one message after the other, so that they arrive in order. */
-export function makeQueue(send) {
+/** A queue that sends one message after the other, in their order; errors are told at placeOf(message). */
+export function makeQueue(send, placeOf) {
   const waiting = [];
   let sending = false;
   const pump = async () => {
     if (sending) return;
     sending = true;
-    while (waiting.length) await send(waiting.shift()).catch(trouble);
+    while (waiting.length) {
+      const message = waiting.shift();
+      await send(message).catch(error => trouble(error, placeOf(message)));
+    }
     sending = false;
   };
   return {
@@ -63,20 +57,26 @@ export function makePause() {
 }
 
 /**
- * Listens to the camera's events for good: a lost connection is told to onLink and made again. renew() is for who has
- * noticed the loss first.
+ * Listens to the camera's events while the page is seen: a lost connection is told to onLink and made again. renew() is
+ * for who has noticed the loss first. A browser has six connections to a camera for all its tabs together, so that a
+ * page that nobody sees lets go of its own.
  */
 export function listen(handlers, onLink) {
   const pause = makePause();
   let source = null;
   let timer = 0;
-  const renew = () => {
-    source.close();
-    onLink(false);
+  const drop = () => {
+    source?.close();
     clearTimeout(timer);
+  };
+  const renew = () => {
+    drop();
+    onLink(false);
     timer = setTimeout(connect, pause.next());
   };
   const connect = () => {
+    drop();
+    if (document.hidden) return;
     source = new EventSource("events");
     source.onopen = () => {
       pause.reset();
@@ -87,6 +87,7 @@ export function listen(handlers, onLink) {
       source.addEventListener(name, event => handle(JSON.parse(event.data)));
     }
   };
+  document.addEventListener("visibilitychange", connect);
   connect();
   return { renew };
 }

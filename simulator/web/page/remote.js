@@ -8,7 +8,7 @@ const spokenAs = { " ": "Space", "+": "Plus" };
 const keyOf = new Map(); // event.key to the camera's key
 const once = new Set(); // the keys that nobody holds
 
-const queue = makeQueue(message => request("POST", "keys", message, { keepalive: true }));
+const queue = makeQueue(message => request("POST", "keys", message, { keepalive: true }), () => byId("remote"));
 const buttons = new Map();
 let held = null; // {name, source, timer}: the key that the camera repeats, and the finger or key that holds it
 

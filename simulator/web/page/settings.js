@@ -1,9 +1,11 @@
 // The camera's settings: shown as it holds them now, each with a control that fits its kind; export and import.
 
 import { byId, make, mark } from "./dom.js";
-import { makeQueue, request, trouble } from "./camera.js";
+import { makeQueue, request } from "./camera.js";
+import { whyUnseen } from "./effects.js";
+import { say, trouble } from "./message.js";
 
-const rows = new Map(); // name: {setting, row, control, reset, typing}
+const rows = new Map(); // name: {setting, row, control, reset, unseen, typing}
 let definitions = ""; // what the rows are made of
 let meanwhile = null; // changes since the newest reading of all settings began: its answer may be older
 const narrow = matchMedia("(max-width: 699px)");
@@ -24,9 +26,9 @@ const queue = makeQueue(async ({ name, value }) => {
     if (answer.value === rows.get(name)?.setting.value) show(name); // else the event is still on its way
   } catch (error) {
     show(name);
-    throw new Error(`${name}: ${error.message}`);
+    throw error;
   }
-});
+}, ({ name }) => rows.get(name)?.row);
 
 function show(name) {
   const held = rows.get(name);
@@ -37,6 +39,14 @@ function show(name) {
   reset.hidden = setting.value === setting.default;
 }
 
+const called = ({ label, key }) => label || key;
+
+/** Marks what has no effect on the picture now; each value may decide about others. */
+function showEffects() {
+  const byKey = new Map([...rows.values()].map(({ setting }) => [setting.key, setting]));
+  for (const { setting, unseen } of rows.values()) unseen.textContent = whyUnseen(setting.key, byKey, called);
+}
+
 /** The camera told that a setting changed. */
 export function settingChanged({ name, value }) {
   meanwhile?.push({ name, value });
@@ -44,6 +54,7 @@ export function settingChanged({ name, value }) {
   if (!held || held.setting.value === value) return;
   held.setting.value = value;
   show(name);
+  showEffects();
   mark(held.row, "changed", 2000);
 }
 
@@ -74,20 +85,23 @@ function makeRow(setting) {
   control.addEventListener("blur", drop); // behind "change", if what was typed is another value
   control.addEventListener("keydown", event => { if (event.key === "Escape") drop(); });
   const reset = make("button", { className: "reset", title: `Back to ${setting.default || "nothing"}` }, "↺");
-  reset.setAttribute("aria-label", `${setting.key} back to its default, ${setting.default}`);
+  reset.setAttribute("aria-label", `${called(setting)} back to its default, ${setting.default}`);
   reset.addEventListener("click", () => send(setting.default));
-  const range = make("small", { id: `${control.id}-range` }, rangeOf(setting));
-  control.setAttribute("aria-describedby", range.id);
+  const range = make("small", { id: `${control.id}-range`, className: "range" }, rangeOf(setting));
+  const unseen = make("small", { id: `${control.id}-unseen`, className: "unused" });
+  control.setAttribute("aria-describedby", `${range.id} ${unseen.id}`);
   const row = make("div", { className: "setting", title: setting.name },
-    make("label", { htmlFor: control.id }, ...breakable(setting.key)), control, range, reset);
-  rows.set(setting.name, Object.assign(held, { row, reset }));
+    make("label", { htmlFor: control.id }, ...breakable(called(setting))), control, range, reset, unseen);
+  rows.set(setting.name, Object.assign(held, { row, reset, unseen }));
   show(setting.name);
   return row;
 }
 
 function search() {
   const wanted = byId("settings-search").value.trim().toLowerCase();
-  for (const { setting, row } of rows.values()) row.hidden = !setting.name.toLowerCase().includes(wanted);
+  for (const { setting: { name, label }, row } of rows.values()) {
+    row.hidden = !`${name}\n${label}`.toLowerCase().includes(wanted);
+  }
   for (const group of byId("settings-list").children) {
     group.hidden = !group.querySelector(".setting:not([hidden])");
     if (wanted) group.open = true;
@@ -96,6 +110,9 @@ function search() {
 }
 
 function makeRows(settings) {
+  const isTwinOf = one => other => other !== one && other.parent === one.parent && called(other) === called(one);
+  const twins = settings.filter(setting => settings.some(isTwinOf(setting)));
+  for (const twin of twins) twin.label += ` ${twin.key}`;
   const groups = new Map();
   for (const setting of settings) {
     const parent = setting.parent || "Camera";
@@ -104,6 +121,7 @@ function makeRows(settings) {
   rows.clear();
   byId("settings-list").replaceChildren(...[...groups].map(([parent, members]) =>
     make("details", { open: !narrow.matches }, make("summary", {}, parent), ...members.map(makeRow))));
+  showEffects();
   search();
 }
 
@@ -138,10 +156,12 @@ export function wireSettings() {
   file.addEventListener("change", async () => {
     const [chosen] = file.files;
     if (!chosen) return;
+    const place = byId("import").parentElement;
     try {
-      await request("PUT", "settings.json", await chosen.text());
+      const { settings } = await request("PUT", "settings.json", await chosen.text());
+      say(`${settings} settings imported from ${chosen.name}.`, place);
     } catch (error) {
-      trouble(new Error(`${chosen.name}: ${error.message}`));
+      trouble(error, place);
     }
     file.value = ""; // so that the same file can be chosen again
   });
