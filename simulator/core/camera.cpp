@@ -65,7 +65,7 @@ Camera::Camera(const CameraConfig& config)
       forced_language_(config.language ? option_of_language(definitions_, *config.language) : ""), folder_(config.data),
       store_(open_store(folder_.database(), config.reset)), settings_(definitions_.settings, store_),
       channels_(config.uhd ? ultra_hd : full_hd), resources_(config.resources), pages_(config.pages),
-      still_(config.still), mounting_(look_of(settings_).mounting)
+      still_(config.still), clouds_(config.clouds), mounting_(look_of(settings_).mounting)
 {
     if (!forced_language_.empty()) {
         settings_.set_for_this_run(language_setting, forced_language_);
@@ -192,6 +192,7 @@ Camera::Moment Camera::present_moment() const
     const std::lock_guard<std::mutex> lock(look_mutex_);
     Moment moment{look_of(settings_), still_ ? 0.0 : seconds() - picture_start_};
     moment.look.mounting = mounting_;
+    moment.look.clouds = clouds_;
     return moment;
 }
 

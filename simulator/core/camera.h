@@ -34,6 +34,7 @@ struct CameraConfig {
     bool still = false;                  ///< the scene stands at time 0
     std::optional<std::string> language; ///< language for this run, by its name or its option key
     std::filesystem::path pages;         ///< page files that go before those of the resources; empty for none
+    bool clouds = false;                 ///< clouds cross all of the sky, also behind the menu
 };
 
 /// Owns the services and the channels. One camera at a time: the platform functions forward to it.
@@ -135,6 +136,7 @@ private:
     std::filesystem::path pages_;
     std::map<std::string, std::string> kept_pages_; ///< by name
     bool still_;
+    bool clouds_;
     const std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
     double picture_start_ = 0; ///< in seconds since start_
     Mounting mounting_;

@@ -33,5 +33,6 @@ using pages::SettingId;
 using pages::SettingKind;
 using pages::text_of;
 using pages::to_string;
+using pages::write_text_file;
 
 } // namespace sim

@@ -123,6 +123,7 @@ void declare(CLI::App& app, Options& options, Words& words)
         ->type_name("DIR");
     app.add_flag("--reset", options.reset, "Set all settings back to their defaults first");
     app.add_flag("--still", options.still, "The scene stands at time 0, so that pictures repeat exactly");
+    app.add_flag("--clouds", options.clouds, "Clouds cross all of the sky, also behind the menu");
     app.add_flag("--window", options.window, "Open a window");
     app.add_option("--listen", words.listen, "Serve the web page there (default: 127.0.0.1:8080 or another free port)")
         ->type_name("ADDRESS:PORT");
