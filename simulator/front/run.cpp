@@ -85,7 +85,13 @@ void run_camera(const Options& options, Pictures& pictures)
     if (options.record) {
         recorder.emplace(*options.record);
     }
-    Camera camera({options.resources, options.data, options.reset, options.uhd, options.still, options.language, {},
+    Camera camera({options.resources,
+                   options.data,
+                   options.reset,
+                   options.uhd,
+                   options.still,
+                   options.language,
+                   {},
                    options.clouds});
     camera.faults().set(options.faults);
     if (recorder) {
