@@ -4,10 +4,11 @@
 #include <algorithm>
 #include <cerrno>
 #include <fstream>
+#include <memory>
 #include <system_error>
 
 #include "simulator/core/data.h"
-#include "simulator/core/surface.h"
+#include "simulator/video/cairo_image.h"
 #include "simulator/video/encode.h"
 
 namespace sim {
@@ -36,17 +37,15 @@ void save_png(const Image& image, const std::filesystem::path& path)
 
 Image load_png(const std::filesystem::path& path)
 {
+    using Surface = std::unique_ptr<SDL_Surface, EndWith<SDL_FreeSurface>>;
     const Surface file(IMG_Load(path.c_str()));
     const Surface surface(file == nullptr ? nullptr
                                           : SDL_ConvertSurfaceFormat(file.get(), SDL_PIXELFORMAT_ARGB8888, 0));
     if (surface == nullptr) {
         throw BadInput("picture " + path.string() + ": can't be read: " + SDL_GetError());
     }
-    Image image({surface->w, surface->h});
-    for (int y = 0; y < surface->h; ++y) {
-        const auto* bytes = static_cast<const char*>(surface->pixels) + std::ptrdiff_t{y} * surface->pitch;
-        std::copy_n(reinterpret_cast<const Color*>(bytes), surface->w, image.row(y));
-    }
+    Image image({surface->w, surface->h}); // rows of whole words have no gap between them here either
+    std::copy_n(static_cast<const Color*>(surface->pixels), image.pixels.size(), image.pixels.begin());
     return image;
 }
 
