@@ -10,10 +10,10 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <jpeglib.h>
 #include <mutex>
 #include <string>
 #include <thread>
+#include <turbojpeg.h>
 #include <unistd.h>
 #include <vector>
 
@@ -123,23 +123,19 @@ private:
 /// The left 896 columns of a picture, where the menu stands, at an eighth of their size.
 std::vector<unsigned char> menu_pixels(const std::string& jpeg)
 {
-    jpeg_decompress_struct reader{};
-    jpeg_error_mgr errors{};
-    reader.err = jpeg_std_error(&errors);
-    jpeg_create_decompress(&reader);
-    jpeg_mem_src(&reader, reinterpret_cast<const unsigned char*>(jpeg.data()), jpeg.size());
-    jpeg_read_header(&reader, TRUE);
-    reader.scale_denom = 8;
-    jpeg_start_decompress(&reader);
-    std::vector<unsigned char> row(std::size_t{reader.output_width} * 3);
-    std::vector<unsigned char> pixels;
-    while (reader.output_scanline < reader.output_height) {
-        unsigned char* rows[] = {row.data()};
-        jpeg_read_scanlines(&reader, rows, 1);
-        pixels.insert(pixels.end(), row.begin(), row.begin() + 896 / 8 * 3);
+    constexpr int width = 1920 / 8;
+    constexpr int height = 1080 / 8;
+    const tjhandle reader = tjInitDecompress();
+    std::vector<unsigned char> pixels(std::size_t{width} * height);
+    const int status = tjDecompress2(reader, reinterpret_cast<const unsigned char*>(jpeg.data()), jpeg.size(),
+                                     pixels.data(), width, 0, height, TJPF_GRAY, 0);
+    tjDestroy(reader);
+    if (status != 0) {
+        throw std::runtime_error("a picture of the stream can't be read");
     }
-    jpeg_finish_decompress(&reader);
-    jpeg_destroy_decompress(&reader);
+    for (std::size_t i = 0; i < pixels.size(); ++i) {
+        pixels[i] = i % width < 896 / 8 ? pixels[i] : 0;
+    }
     return pixels;
 }
 

@@ -41,5 +41,6 @@ using pages::style_count;
 using pages::style_words;
 using pages::text_of;
 using pages::to_string;
+using pages::write_text_file;
 
 } // namespace sim

@@ -18,7 +18,7 @@ Size main_size(bool uhd) { return uhd ? Size{3840, 2160} : Size{1920, 1080}; }
 
 VideoOutput::VideoOutput(const Settings& settings, const Uptime& uptime, const Config& config)
     : channels(main_size(config.uhd)), settings_(settings), uptime_(uptime), still_(config.still),
-      mounting_(look_of(settings).mounting)
+      clouds_(config.clouds), mounting_(look_of(settings).mounting)
 {
 }
 
@@ -53,6 +53,7 @@ VideoOutput::Moment VideoOutput::present_moment() const
     const std::lock_guard<std::mutex> lock(look_mutex_);
     Moment moment{look_of(settings_), still_ ? 0.0 : uptime_.seconds() - picture_start_};
     moment.look.mounting = mounting_;
+    moment.look.clouds = clouds_;
     return moment;
 }
 

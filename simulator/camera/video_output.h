@@ -15,8 +15,9 @@ namespace sim {
 class VideoOutput {
 public:
     struct Config {
-        bool uhd = false;   ///< a main channel of 3840 by 2160 pixels instead of 1920 by 1080
-        bool still = false; ///< the scene stands at time 0
+        bool uhd = false;    ///< a main channel of 3840 by 2160 pixels instead of 1920 by 1080
+        bool still = false;  ///< the scene stands at time 0
+        bool clouds = false; ///< clouds cross all of the sky, also behind the menu
     };
     VideoOutput(const Settings& settings, const Uptime& uptime, const Config& config);
 
@@ -58,6 +59,7 @@ private:
     const Settings& settings_;
     const Uptime& uptime_;
     const bool still_;
+    const bool clouds_;
     mutable std::mutex look_mutex_; ///< guards what a look is made of: settings_, picture_start_, mounting_
     double picture_start_ = 0;      ///< by the uptime
     Mounting mounting_;

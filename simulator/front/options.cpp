@@ -128,6 +128,7 @@ void declare_camera(CLI::App& app, Options& options)
     add(app, "--data", "DIR", options.data, "Folder of stored settings (default: camera-sim in your XDG data home)");
     app.add_flag("--reset", options.reset, "Set all settings back to their defaults first");
     app.add_flag("--still", options.still, "The scene stands at time 0, so that pictures repeat exactly");
+    app.add_flag("--clouds", options.clouds, "Clouds cross all of the sky, also behind the menu");
     app.add_flag("--window", options.window, "Open a window");
     add_read(
         app, "--listen", "ADDRESS:PORT", [&](const std::string& text) { options.listen = parse_listen_address(text); },

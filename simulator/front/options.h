@@ -27,6 +27,7 @@ struct Options {
     std::filesystem::path data;
     bool reset = false;
     bool still = false;
+    bool clouds = false;
     bool window = false;
     bool web = false;  ///< serves a web page; so it is when nothing else was asked for
     bool open = false; ///< opens a browser

@@ -90,7 +90,12 @@ void run_camera(const Options& options, Pictures& pictures)
     if (options.record) {
         recorder.emplace(*options.record);
     }
-    Camera camera({options.resources, options.data, options.reset, {options.uhd, options.still}, options.language, {}});
+    Camera camera({options.resources,
+                   options.data,
+                   options.reset,
+                   {options.uhd, options.still, options.clouds},
+                   options.language,
+                   {}});
     camera.faults.set(options.faults);
     if (recorder) {
         recorder->follow(camera);

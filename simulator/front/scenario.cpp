@@ -79,7 +79,7 @@ Outcome play(const std::filesystem::path& folder)
     const ScenarioOptions options = read_options(folder / "options.json");
     const TemporaryFolder data;
     Outcome outcome;
-    Camera camera({OSD_RESOURCE_DIR, data.path(), false, {false, true}, options.language, folder / "pages"});
+    Camera camera({OSD_RESOURCE_DIR, data.path(), false, {false, true, false}, options.language, folder / "pages"});
     set_up(camera, options.settings);
     MenuHost host(camera, {2, options.style, false, options.page, "Prompt"});
     const Subscription calls =

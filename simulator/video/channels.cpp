@@ -65,7 +65,7 @@ std::optional<Image> Channels::lowest_canvas(int channel) const
     if (pile.empty() || !pile.front().below) {
         return std::nullopt;
     }
-    return straight_pixels(*pile.front().layer);
+    return pile.front().layer->pixels;
 }
 
 std::uint64_t Channels::changes() const

@@ -34,7 +34,7 @@ public:
     /// Lays all canvases of a channel over a picture of the channel's size.
     void lay_canvases_over(int channel, Image& picture);
 
-    /// The canvas that was shown below the others, in its own size and with straight alpha; none while it is hidden.
+    /// The canvas that was shown below the others, in its own size; none while it is hidden.
     std::optional<Image> lowest_canvas(int channel) const;
 
     /// How often something was shown, hidden or resized, on any channel.

@@ -11,7 +11,8 @@ namespace sim {
 /// the format can't hold: one without pixels, or with a side above 65500.
 std::string encode_jpeg(const Image& image, int quality);
 
-/// The picture as a PNG file: with the alpha of its pixels, or opaque. Throws std::runtime_error, as above.
+/// The picture as a PNG file: with the alpha by which its components are multiplied, or opaque. Throws
+/// std::runtime_error, as above; a side has at most 32767 pixels.
 std::string encode_png(const Image& image, bool alpha);
 
 } // namespace sim

@@ -25,11 +25,6 @@ Layer copy_canvas(const tagOSD_MENU_CANVAS_S& canvas);
 /// Why a canvas with a block of this many bytes can't be shown; null when it can.
 const char* canvas_problem(const tagOSD_MENU_CANVAS_S& canvas, std::size_t block_bytes);
 
-/// The layer's own pixels with straight alpha, as picture files have it: each component is divided by its alpha and
-/// rounded to the nearest. Under alpha 255 it comes back as it was drawn, down to 85 it is off by 1 at most, and below
-/// that by 127 / alpha: as coarse as the layer keeps it.
-Image straight_pixels(const Layer& layer);
-
 /// A layer as it lies on a channel; shrinking averages the pixels.
 struct ScaledLayer {
     Image pixels;

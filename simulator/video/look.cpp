@@ -3,46 +3,17 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
-#include <iterator>
+#include <limits>
 #include <string>
+#include <utility>
 
 namespace sim {
 namespace {
 
-struct ShareKey {
-    const char* key;
-    double Tones::*tone;
-};
-/// Seen as a share of the range on either side of the default.
-constexpr ShareKey share_keys[] = {
-    {"Brightness", &Tones::brightness}, {"Contrast", &Tones::contrast}, {"Saturation", &Tones::saturation}};
-
-struct SwitchKey {
-    const char* key;
-    bool Look::*on;
-};
-constexpr SwitchKey switch_keys[] = {{"Mirror", &Look::mirror}, {"Flip", &Look::flip}};
-
 /// What an option stands for.
-struct NumberOption {
-    const char* option;
-    double number;
-};
+template <typename Value>
+using Choice = std::pair<const char*, Value>;
 
-/// What an exposure mode leaves to the operator; all else the camera sets by itself.
-struct ExposureMode {
-    const char* option;
-    bool shutter;
-    bool iris;
-    bool gain;
-    bool bright_level;
-    bool corrected; ///< by compensation and backlight
-};
-constexpr ExposureMode exposure_modes[] = {{"Auto", false, false, false, false, true},
-                                           {"Manual", true, true, true, false, false},
-                                           {"ShutterPri", true, false, false, false, false},
-                                           {"IrisPri", false, true, false, false, false},
-                                           {"BrightPri", false, false, false, true, false}};
 constexpr double stops_per_compensation = 1.0 / 3;
 constexpr double stops_per_bright_level = 0.25;
 constexpr double backlight_stops = 1;
@@ -51,7 +22,7 @@ constexpr double decibels_per_gain_limit = 2;
 /// The share of the light that an operator's shutter or iris takes away, or gives, for which the camera makes up.
 constexpr double automatic_share = 0.5;
 
-constexpr NumberOption wdr_options[] = {{"Low", 0.33}, {"Medium", 0.66}, {"High", 1}};
+constexpr Choice<double> wdr_strengths[] = {{"Low", 0.33}, {"Medium", 0.66}, {"High", 1}};
 
 /// Grain of the sensor, in steps of a component.
 constexpr double noise_at_rest = 4;
@@ -63,117 +34,81 @@ constexpr double nr3d_per_step = 0.08;
 
 /// In kelvin: the light for which a mode makes white; the scene lies in daylight.
 constexpr double daylight = 5600;
-constexpr NumberOption white_options[] = {{"Indoor", 3200}, {"Outdoor", 6500}};
+constexpr Choice<double> white_lights[] = {{"Indoor", 3200}, {"Outdoor", 6500}};
 /// What a measurement of the whole scene finds, which takes sky and grass for white: the means of red, green and blue
 /// become alike.
-constexpr double measured_red = 1.5;
-constexpr double measured_blue = 0.83;
+constexpr double measured_red_stops = 0.58;
+constexpr double measured_blue_stops = -0.27;
+constexpr double stops_at_full_gain = 2;
 constexpr double degrees_per_hue = 6;
 
-struct TallyColor {
-    const char* option;
-    Color color;
+constexpr Choice<Color> tally_colors[] = {{"Red", 0xE8202A}, {"Green", 0x1FC24B}};
+constexpr double aspect = 16.0 / 9;
+constexpr Choice<Mounting> angles[] = {{"90deg", {0, 1, aspect}}, {"180deg", {-1, 0, 1}}, {"270deg", {0, -1, aspect}}};
+constexpr Choice<double> inset_widths[] = {{"SizeSmall", 0.2}, {"Medium", 0.25}, {"SizeLarge", 0.33}};
+constexpr Choice<Pattern> patterns[] = {{"ColorBars", Pattern::ColorBars}, {"GrayRamp", Pattern::GrayRamp}};
+
+/// A number that is set, with its default, which leaves the picture as it is, and its range.
+struct Number {
+    double present = 0;
+    double neutral = 0;
+    double min = 0;
+    double max = 0;
+
+    double steps() const { return present - neutral; }
+    /// How far it stands from its default, as a share of the range on that side: -1 to 1.
+    double share() const { return steps() == 0 ? 0 : steps() / (steps() > 0 ? max - neutral : neutral - min); }
 };
-constexpr TallyColor tally_colors[] = {{"Red", 0xE8202A}, {"Green", 0x1FC24B}};
 
-struct AngleOption {
-    const char* option;
-    int angle;
-};
-constexpr AngleOption angle_options[] = {{"90deg", 90}, {"180deg", 180}, {"270deg", 270}};
-
-struct CornerOption {
-    const char* option;
-    bool right;
-    bool bottom;
-};
-constexpr CornerOption corner_options[] = {
-    {"TopLeft", false, false}, {"TopRight", true, false}, {"BottomLeft", false, true}, {"BottomRight", true, true}};
-
-constexpr NumberOption width_options[] = {{"SizeSmall", 0.2}, {"Medium", 0.25}, {"SizeLarge", 0.33}};
-
-struct PatternOption {
-    const char* option;
-    Pattern pattern;
-};
-constexpr PatternOption pattern_options[] = {{"ColorBars", Pattern::ColorBars}, {"GrayRamp", Pattern::GrayRamp}};
-
-template <typename Row, std::size_t N>
-const Row* find_row(const Row (&table)[N], const std::string& option)
+/// The number in an option such as "1/60" or "F2.8", behind so many characters; 0 when there is none.
+double number_behind(std::size_t start, const std::string& option)
 {
-    const auto found =
-        std::find_if(std::begin(table), std::end(table), [&option](const Row& row) { return option == row.option; });
-    return found == std::end(table) ? nullptr : found;
+    return option.size() > start ? std::strtod(option.c_str() + start, nullptr) : 0;
 }
 
-/// A setting's value as a share of its maximum: 0 to 1.
-double share_of_max(const Settings& settings, const Setting& setting)
-{
-    return setting.max < 1 ? 0 : std::clamp(static_cast<double>(settings.number(setting.id)) / setting.max, 0.0, 1.0);
-}
+/// The settings as a picture needs them; one that the definitions don't have is empty or 0.
+class Reader {
+public:
+    explicit Reader(const Settings& settings) : settings_(settings) {}
 
-const Setting* find_option(const Settings& settings, const char* key)
-{
-    const Setting* setting = settings.find_key(key);
-    return setting != nullptr && setting->kind == SettingKind::Option ? setting : nullptr;
-}
-
-std::string option_of(const Settings& settings, const char* key)
-{
-    const Setting* setting = find_option(settings, key);
-    return setting != nullptr ? settings.value(setting->id) : "";
-}
-
-const Setting* find_number(const Settings& settings, const char* key)
-{
-    const Setting* setting = settings.find_key(key);
-    const bool fits =
-        setting != nullptr && (setting->kind == SettingKind::Integer || setting->kind == SettingKind::HexColor);
-    return fits ? setting : nullptr;
-}
-
-double number_or(const Settings& settings, const char* key, double missing)
-{
-    const Setting* setting = find_number(settings, key);
-    return setting != nullptr ? settings.number(setting->id) : missing;
-}
-
-/// How far a setting stands from its default, which leaves the picture as it is; 0 when there is none.
-double steps_from_default(const Settings& settings, const char* key)
-{
-    const Setting* setting = find_number(settings, key);
-    return setting == nullptr ? 0.0 : settings.number(setting->id) - number_of(*setting, setting->default_text);
-}
-
-/// The same as a share of the range on that side: -1 to 1.
-double share_from_default(const Settings& settings, const char* key)
-{
-    const double steps = steps_from_default(settings, key);
-    if (steps == 0) {
-        return 0;
+    std::string option(const char* key) const
+    {
+        const Setting* setting = settings_.find_key(key);
+        return setting != nullptr && setting->kind == SettingKind::Option ? settings_.value(setting->id) : "";
     }
-    const Setting& setting = *find_number(settings, key);
-    const double neutral = number_of(setting, setting.default_text);
-    return steps / (steps > 0 ? setting.max - neutral : neutral - setting.min);
-}
 
-/// The number in an option such as "1/60" or "F2.8"; 0 when it doesn't begin like that.
-double number_behind(const std::string& start, const std::string& option)
-{
-    return option.compare(0, start.size(), start) == 0 ? std::strtod(option.c_str() + start.size(), nullptr) : 0;
-}
+    bool on(const char* key) const { return option(key) == "On"; }
 
-/// How many times larger an option's number is than its default's; 1 when one of them has none.
-double ratio_to_default(const Settings& settings, const char* key, const std::string& start)
-{
-    const Setting* setting = find_option(settings, key);
-    if (setting == nullptr) {
-        return 1;
+    /// What the table has for the option, if anything.
+    template <typename Value, std::size_t N>
+    std::optional<Value> choice(const char* key, const Choice<Value> (&table)[N]) const
+    {
+        const std::string present = option(key);
+        const auto found = std::find_if(table, table + N, [&](const auto& row) { return present == row.first; });
+        return found == table + N ? std::nullopt : std::optional<Value>(found->second);
     }
-    const double neutral = number_behind(start, setting->default_text);
-    const double present = number_behind(start, settings.value(setting->id));
-    return neutral > 0 && present > 0 ? present / neutral : 1;
-}
+
+    Number number(const char* key) const
+    {
+        const Setting* setting = settings_.find_key(key);
+        if (setting == nullptr || (setting->kind != SettingKind::Integer && setting->kind != SettingKind::HexColor)) {
+            return {};
+        }
+        const double neutral = number_of(*setting, setting->default_text);
+        return {1.0 * settings_.number(setting->id), neutral, 1.0 * setting->min, 1.0 * setting->max};
+    }
+
+    /// How often an option's number is twice its default's; 0 when one of them has none.
+    double doublings(const char* key, std::size_t start) const
+    {
+        const double present = number_behind(start, option(key));
+        const double neutral = present > 0 ? number_behind(start, settings_.find_key(key)->default_text) : 0;
+        return neutral > 0 ? std::log2(present / neutral) : 0;
+    }
+
+private:
+    const Settings& settings_;
+};
 
 /// Light by exposure and gain, and the gain alone, which brings noise.
 struct Light {
@@ -181,161 +116,136 @@ struct Light {
     double decibels = 0;
 };
 
-/// What the camera itself does about the light that its operator's shutter and iris give: it amplifies, up to the
-/// limit, or takes light away.
-Light make_up_for(double stops, double limit)
+/// What the operator's shutter and iris give, and what the camera itself does about it: it amplifies, up to the limit, or
+/// takes light away.
+Light made_up_for(double stops, double limit)
 {
     const double missing = -stops * automatic_share;
     const double decibels = std::clamp(missing * decibels_per_stop, 0.0, limit);
-    return {missing < 0 ? missing : decibels / decibels_per_stop, decibels};
+    return {stops + (missing < 0 ? missing : decibels / decibels_per_stop), decibels};
 }
 
-Light corrections(const Settings& settings)
+/// Of what the settings say, a mode leaves some to the operator; all else the camera sets by itself.
+Light light_of(const Reader& read)
 {
-    Light light;
-    if (option_of(settings, "ExpComp") == "On") {
-        light.stops += stops_per_compensation * steps_from_default(settings, "ExpCompLevel");
+    const std::string mode = read.option("ExposureMode");
+    const bool shutter = mode == "Manual" || mode == "ShutterPri";
+    const bool iris = mode == "Manual" || mode == "IrisPri";
+    if (iris && read.option("Iris") == "IrisClose") {
+        return {-std::numeric_limits<double>::infinity(), 0};
     }
-    if (option_of(settings, "Backlight") == "On") {
-        light.stops += backlight_stops;
+    double stops = 0;
+    if (mode == "Auto") {
+        stops += read.on("ExpComp") ? stops_per_compensation * read.number("ExpCompLevel").steps() : 0;
+        stops += read.on("Backlight") ? backlight_stops : 0;
+    } else if (mode == "BrightPri") {
+        stops += stops_per_bright_level * read.number("BrightLevel").steps();
     }
-    return light;
+    stops -= shutter ? read.doublings("Shutter", 2) : 0;
+    stops -= iris ? 2 * read.doublings("Iris", 1) : 0;
+    if (mode == "Manual") {
+        return {stops + read.number("Gain").steps() / decibels_per_stop, read.number("Gain").present};
+    }
+    return shutter || iris ? made_up_for(stops, decibels_per_gain_limit * read.number("GainLimit").present)
+                           : Light{stops, 0};
 }
 
-Light light_of(const Settings& settings, const ExposureMode& mode)
-{
-    Light light = mode.corrected ? corrections(settings) : Light();
-    if (mode.shutter) {
-        light.stops -= std::log2(ratio_to_default(settings, "Shutter", "1/"));
-    }
-    if (mode.iris) {
-        light.stops -= 2 * std::log2(ratio_to_default(settings, "Iris", "F"));
-    }
-    if (mode.bright_level) {
-        light.stops += stops_per_bright_level * steps_from_default(settings, "BrightLevel");
-    }
-    if (mode.gain) {
-        light.decibels = number_or(settings, "Gain", 0);
-        light.stops += steps_from_default(settings, "Gain") / decibels_per_stop;
-    } else if (mode.shutter || mode.iris) {
-        const double limit = decibels_per_gain_limit * number_or(settings, "GainLimit", 0);
-        const Light automatic = make_up_for(light.stops, limit);
-        light = {light.stops + automatic.stops, automatic.decibels};
-    }
-    return light;
-}
-
-double noise_of(const Settings& settings, double decibels)
+double noise_of(const Reader& read, double decibels)
 {
     const double gained = noise_per_decibel * decibels;
-    const std::string reduction = option_of(settings, "NoiseReduction");
+    const std::string reduction = read.option("NoiseReduction");
     if (reduction == "Off") {
         return noise_at_rest + gained;
     }
     if (reduction == "Manual") {
-        return (noise_at_rest + gained) * (1 - nr2d_per_step * number_or(settings, "Nr2d", 0)) *
-               (1 - nr3d_per_step * number_or(settings, "Nr3d", 0));
+        return (noise_at_rest + gained) * (1 - nr2d_per_step * read.number("Nr2d").present) *
+               (1 - nr3d_per_step * read.number("Nr3d").present);
     }
     return automatic_rest * gained;
 }
 
-void read_exposure(const Settings& settings, Look& look)
+void read_exposure(const Reader& read, Look& look)
 {
-    Light light;
-    if (const ExposureMode* mode = find_row(exposure_modes, option_of(settings, "ExposureMode"))) {
-        light = light_of(settings, *mode);
-        look.tones.closed = mode->iris && option_of(settings, "Iris") == "IrisClose";
-    }
+    const Light light = light_of(read);
     look.tones.stops = light.stops;
-    look.noise = noise_of(settings, light.decibels);
-    if (const NumberOption* row = find_row(wdr_options, option_of(settings, "Wdr"))) {
-        look.tones.shadow_light = row->number;
-    }
+    look.noise = std::isinf(light.stops) ? 0 : noise_of(read, light.decibels);
+    look.tones.shadow_light = read.choice("Wdr", wdr_strengths).value_or(0);
 }
 
-/// A picture of daylight, made white for light of another temperature.
-void balance_for(double kelvin, Tones& tones)
+void read_white_balance(const Reader& read, Tones& tones)
 {
-    tones.red_gain = std::pow(kelvin / daylight, 1.2);
-    tones.blue_gain = std::pow(daylight / kelvin, 1.4);
-}
-
-void read_white_balance(const Settings& settings, Tones& tones)
-{
-    const std::string mode = option_of(settings, "WbMode");
-    if (const NumberOption* row = find_row(white_options, mode)) {
-        balance_for(row->number, tones);
-    } else if (mode == "ColorTempMode") {
-        balance_for(number_or(settings, "ColorTemp", daylight), tones);
-    } else if (mode == "OnePush") {
-        tones.red_gain = measured_red;
-        tones.blue_gain = measured_blue;
+    const std::string mode = read.option("WbMode");
+    if (mode == "OnePush") {
+        tones.red_stops = measured_red_stops;
+        tones.blue_stops = measured_blue_stops;
     } else if (mode == "Manual") {
-        constexpr double stops = 2; // at both ends of the range
-        tones.red_gain = std::exp2(stops * share_from_default(settings, "RedGain"));
-        tones.blue_gain = std::exp2(stops * share_from_default(settings, "BlueGain"));
+        tones.red_stops = stops_at_full_gain * read.number("RedGain").share();
+        tones.blue_stops = stops_at_full_gain * read.number("BlueGain").share();
+    } else { // a picture of daylight, made white for light of another temperature
+        const double set = mode == "ColorTempMode" ? read.number("ColorTemp").present : 0;
+        const double kelvin = read.choice("WbMode", white_lights).value_or(set > 0 ? set : daylight);
+        const double warmth = std::log2(kelvin / daylight);
+        tones.red_stops = 1.2 * warmth;
+        tones.blue_stops = -1.4 * warmth;
     }
-    tones.hue = degrees_per_hue * steps_from_default(settings, "Hue");
+    tones.hue = degrees_per_hue * read.number("Hue").steps();
 }
 
-void read_lights(const Settings& settings, Look& look)
+Color dimmed(Color color, double level)
 {
-    const std::string tally = option_of(settings, "Tally");
-    if (const TallyColor* row = find_row(tally_colors, tally)) {
-        look.tally = row->color;
-    }
-    if (const Setting* level = find_number(settings, "TallyLevel")) {
-        look.tally_level = share_of_max(settings, *level);
-    }
-    const std::string mode = option_of(settings, "LedMode");
-    const Setting* custom = find_number(settings, "LedCustomColor");
+    const auto part = [&](int shift) { return static_cast<std::uint32_t>(component(color, shift) * level); };
+    return make_color(0, part(16), part(8), part(0));
+}
+
+void read_lights(const Reader& read, Look& look)
+{
+    const std::optional<Color> tally = read.choice("Tally", tally_colors);
+    const std::string mode = read.option("LedMode");
     if (mode == "LedFollow") {
-        look.lamp = look.tally;
-    } else if (mode == "LedCustom" && custom != nullptr) {
-        look.lamp = static_cast<Color>(settings.number(custom->id));
+        look.lamp = tally;
+    } else if (mode == "LedCustom") {
+        look.lamp = static_cast<Color>(read.number("LedCustomColor").present);
+    }
+    if (tally) {
+        const Number level = read.number("TallyLevel");
+        look.tally = dimmed(*tally, level.max > 0 ? level.present / level.max : 1);
     }
 }
 
-void read_arrangement(const Settings& settings, Look& look)
+std::optional<Inset> inset_of(const Reader& read)
 {
-    if (const AngleOption* row = find_row(angle_options, option_of(settings, "RotateAngle"))) {
-        look.mounting.angle = row->angle;
+    if (!read.on("PipMode")) {
+        return std::nullopt;
     }
-    look.mounting.crop = option_of(settings, "RotateFit") != "FitBars";
-    if (option_of(settings, "PipMode") != "On") {
-        return;
-    }
-    Inset& inset = look.inset.emplace();
-    inset.panorama = option_of(settings, "PipSource") != "PipMain";
-    if (const CornerOption* row = find_row(corner_options, option_of(settings, "PipPos"))) {
-        inset.right = row->right;
-        inset.bottom = row->bottom;
-    }
-    if (const NumberOption* row = find_row(width_options, option_of(settings, "PipSize"))) {
-        inset.width = row->number;
-    }
+    const std::string corner = read.option("PipPos");
+    const Inset usual;
+    return Inset{read.option("PipSource") != "PipMain", corner != "TopLeft" && corner != "BottomLeft",
+                 corner != "TopLeft" && corner != "TopRight",
+                 read.choice("PipSize", inset_widths).value_or(usual.width)};
 }
 
 } // namespace
 
 Look look_of(const Settings& settings)
 {
+    const Reader read(settings);
     Look look;
-    for (const ShareKey& row : share_keys) {
-        look.tones.*row.tone = share_from_default(settings, row.key);
+    look.tones.brightness = read.number("Brightness").share();
+    look.tones.contrast = read.number("Contrast").share();
+    look.tones.saturation = read.number("Saturation").share();
+    read_exposure(read, look);
+    read_white_balance(read, look.tones);
+    look.sharpness = read.number("Sharpness").share();
+    look.mirror = read.on("Mirror");
+    look.flip = read.on("Flip");
+    look.zoom = std::max(1.0, read.number("Zoom").present / 100); // the setting counts in percent
+    look.mounting = read.choice("RotateAngle", angles).value_or(Mounting());
+    if (read.option("RotateFit") == "FitBars") {
+        look.mounting.scale = 1 / look.mounting.scale;
     }
-    for (const SwitchKey& row : switch_keys) {
-        look.*row.on = option_of(settings, row.key) == "On";
-    }
-    look.sharpness = share_from_default(settings, "Sharpness");
-    look.zoom = std::max(1.0, number_or(settings, "Zoom", 100) / 100.0); // the setting counts in percent
-    if (const PatternOption* row = find_row(pattern_options, option_of(settings, "TestPattern"))) {
-        look.pattern = row->pattern;
-    }
-    read_exposure(settings, look);
-    read_white_balance(settings, look.tones);
-    read_arrangement(settings, look);
-    read_lights(settings, look);
+    look.inset = inset_of(read);
+    look.pattern = read.choice("TestPattern", patterns).value_or(Pattern::None);
+    read_lights(read, look);
     return look;
 }
 

@@ -10,8 +10,7 @@ namespace sim {
 /// Throws BadInput when a picture can't be written to this path: no folder, a folder of that name, no right to write.
 void check_snapshot_path(const std::filesystem::path& path);
 
-/// Writes the image under a temporary name and renames it, so that the file is always whole. Throws
-/// std::runtime_error, leaving an earlier file of that name as it was.
+/// Writes the image as a whole file. Throws BadInput, leaving an earlier file of that name as it was.
 void save_png(const Image& image, const std::filesystem::path& path);
 
 /// Reads a picture. Throws BadInput when the file can't be read as one.

@@ -1,23 +1,30 @@
-// Light and color of a picture.
+// Light and color.
 #pragma once
+
+#include <tuple>
 
 #include "simulator/video/image.h"
 
 namespace sim {
 
-/// The default values leave a picture as it is.
+/// The default values leave all colors as they are.
 struct Tones {
-    double stops = 0;        ///< exposure: each doubles the light
-    bool closed = false;     ///< no light at all
+    double stops = 0;     ///< exposure: each doubles the light
+    double red_stops = 0; ///< more of red, as the white balance sets it
+    double blue_stops = 0;
     double shadow_light = 0; ///< 0 to 1: dark parts become lighter, the lightest parts stay
-    double red_gain = 1;     ///< of light, as the white balance sets it
-    double blue_gain = 1;
-    double brightness = 0; ///< -1 to 1
-    double contrast = 0;   ///< -1 to 1
-    double saturation = 0; ///< -1 to 1
-    double hue = 0;        ///< degrees; above 0 from red to green
+    double brightness = 0;   ///< -1 to 1
+    double contrast = 0;     ///< -1 to 1
+    double saturation = 0;   ///< -1 to 1
+    double hue = 0;          ///< degrees; above 0 from red to green
+
+    auto all() const
+    {
+        return std::tie(stops, red_stops, blue_stops, shadow_light, brightness, contrast, saturation, hue);
+    }
 };
 
-void apply_tones(Image& image, const Tones& tones);
+/// How a color of the scene looks; alpha is left out.
+Color toned(Color color, const Tones& tones);
 
 } // namespace sim

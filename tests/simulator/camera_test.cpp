@@ -29,7 +29,7 @@ struct CameraTest : Test {
         folder.write("settings.json", settings_with_gain(R"("max": 10, "default": 5)"));
         folder.write("lang/English.json", R"({"On": "Yes"})");
         folder.write("lang/Deutsch.json", "{}");
-        return {folder.path(), folder.path("data"), false, {false, true}, "English", {}};
+        return {folder.path(), folder.path("data"), false, {false, true, false}, "English", {}};
     }
     std::map<SettingId, std::string> stored() const
     {

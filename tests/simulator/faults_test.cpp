@@ -13,7 +13,7 @@ using namespace testing;
 TEST(Faults, AreLoggedAndLeaveNothingBehind)
 {
     const TempFolder folder;
-    Camera camera({OSD_RESOURCE_DIR, folder.path("data"), false, {false, true}, "English", {}});
+    Camera camera({OSD_RESOURCE_DIR, folder.path("data"), false, {false, true, false}, "English", {}});
     const MenuConfig menu{2, 0, false, "", "Prompt"};
     auto host = std::make_unique<MenuHost>(camera, menu);
     const auto press_keys = [&](const char* keys) { KeyPlayer(parse_keys(keys), *host).press_all_now(); };

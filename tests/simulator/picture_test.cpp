@@ -140,6 +140,26 @@ TEST(Picture, ShowsEachThingWhereItBelongs)
     }
 }
 
+TEST(Picture, KeepsCloudsOutOfTheMenusHalfUnlessToldOtherwise)
+{
+    Look look;
+    const auto clouds_in_left_half = [&look](double seconds) {
+        const Image image = draw_picture({640, 360}, look, seconds);
+        for (int y = 0; y < 120; ++y) { // above the hills
+            const auto cloud = [](Color color) { return component(color, 16) > 0xC8; };
+            if (std::any_of(image.row(y), image.row(y) + 320, cloud)) {
+                return true;
+            }
+        }
+        return false;
+    };
+    for (const double seconds : {0.0, 14.0, 42.0, 95.0, 140.0}) {
+        EXPECT_FALSE(clouds_in_left_half(seconds)) << seconds;
+    }
+    look.clouds = true;
+    EXPECT_TRUE(clouds_in_left_half(95));
+}
+
 /// A picture of one color under a canvas whose base is 1920 by 1080. Pixels of 16 bits lie two in a word.
 static Image picture_under(Size size, std::uint32_t format, std::vector<std::uint32_t> pixels, SDL_Rect place)
 {

@@ -64,7 +64,7 @@ struct Reload : testing::Test {
         for (const char* part : {"pages", "lang", "pic", "settings.json"}) {
             fs::copy(default_resources() / part, folder.path(part));
         }
-        return {folder.path(), folder.path("data"), false, {false, true}, "English", {}};
+        return {folder.path(), folder.path("data"), false, {false, true, false}, "English", {}};
     }
     void SetUp() override { EXPECT_EQ(look(), ""); }
     void press_keys(const std::string& keys) { KeyPlayer(parse_keys(keys), host).press_all_now(); }
