@@ -219,8 +219,11 @@ tinyxml2::XMLDocument* CFG_GetDocByFileName(const char* pcPath, OSD_BOOL /*bRead
 {
     tinyxml2::XMLDocument* const none = nullptr;
     return guarded("pages", none, [&] {
+        if (current_camera == nullptr) {
+            return none;
+        }
         const std::filesystem::path path = text_or_empty(pcPath);
-        auto document = current_camera == nullptr ? nullptr : current_camera->pages.open(path);
+        auto document = current_camera->pages.open(path);
         if (document != nullptr) {
             current_camera->events.tell({"page", page_name(path)});
         }

@@ -172,8 +172,9 @@ void draw_glyph(Painter& painter, unsigned glyph, double left)
     constexpr double top = 42;
     constexpr double dot = 5;
     for (int i = 0; i < 15; ++i) {
+        const int row = i / 3;
         if ((glyph >> (14 - i) & 1U) != 0) {
-            painter.box(left + i % 3 * dot, top + i / 3 * dot, dot, dot, 0xF2F2F2);
+            painter.box(left + i % 3 * dot, top + row * dot, dot, dot, 0xF2F2F2);
         }
     }
 }

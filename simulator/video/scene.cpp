@@ -42,8 +42,8 @@ template <typename HeightAt>
 void draw_ground(Painter& painter, Color color, HeightAt height_at)
 {
     std::vector<Point> outline = {{scene_width, scene_height}, {0, scene_height}};
-    for (double x = 0; x <= scene_width; x += 8) {
-        outline.push_back({x, height_at(x)});
+    for (int x = 0; x <= scene_width; x += 8) {
+        outline.push_back({static_cast<double>(x), height_at(x)});
     }
     painter.polygon(outline, color);
 }
@@ -85,7 +85,7 @@ void draw_street(Painter& painter)
     painter.box(0, 790, scene_width, 46, 0x98938A);
     painter.box(0, 836, scene_width, 8, 0x78746C);
     painter.box(0, 844, scene_width, 170, 0x53565B);
-    for (double x = 20; x < scene_width; x += 160) {
+    for (int x = 20; x < scene_width; x += 160) {
         painter.box(x, 925, 84, 7, 0xE8E6DC);
     }
     painter.box(0, 1014, scene_width, 66, 0x6D9A4C);
