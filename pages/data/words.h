@@ -21,4 +21,15 @@ std::string one_of(const std::string& word, const std::vector<std::string>& know
 /// "'Gain'" as the nearest of many words, or else the other words.
 std::string nearest_or(const std::string& word, const std::vector<std::string>& known, const std::string& otherwise);
 
+/// The keys of a map from names, in their order.
+template <typename Map>
+std::vector<std::string> keys_of(const Map& map)
+{
+    std::vector<std::string> keys;
+    for (const auto& [key, value] : map) {
+        keys.push_back(key);
+    }
+    return keys;
+}
+
 } // namespace pages

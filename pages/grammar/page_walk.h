@@ -104,14 +104,4 @@ bool is_unusable(const ResourceFolder& folder, const std::string& file, const st
 /// Whether the settings can't be used at all, or a member of theirs: what follows from it is not told.
 bool are_settings_broken(const ResourceFolder& folder);
 
-template <typename Map>
-std::vector<std::string> keys_of(const Map& map)
-{
-    std::vector<std::string> keys;
-    for (const auto& [key, value] : map) {
-        keys.push_back(key);
-    }
-    return keys;
-}
-
 } // namespace pages

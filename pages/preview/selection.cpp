@@ -5,21 +5,11 @@
 namespace pages {
 namespace {
 
-template <typename Map>
-std::vector<std::string> names_in(const Map& map)
-{
-    std::vector<std::string> names;
-    for (const auto& [name, value] : map) {
-        names.push_back(name);
-    }
-    return names;
-}
-
 std::string checked_language(const std::string& wanted, const ResourceFolder& folder)
 {
     const std::string name = language_named(folder.definitions, wanted);
     if (folder.languages.count(name) == 0) {
-        throw BadInput("no language '" + wanted + "', expected " + one_of(name, names_in(folder.languages)));
+        throw BadInput("no language '" + wanted + "', expected " + one_of(name, keys_of(folder.languages)));
     }
     return name;
 }
@@ -35,7 +25,7 @@ Selection checked(const Selection& selection, const ResourceFolder& folder)
     }
     for (const std::string& page : selection.pages) {
         if (folder.pages.count(page) == 0) {
-            throw BadInput("no page '" + page + "', expected " + one_of(page, names_in(folder.pages)));
+            throw BadInput("no page '" + page + "', expected " + one_of(page, keys_of(folder.pages)));
         }
     }
     for (const std::uint32_t style : selection.styles) {
