@@ -35,8 +35,7 @@ struct Options {
     bool update_scenario = false;
     std::optional<ListenAddress> listen; ///< none for the usual address
     std::optional<std::string> token;
-    std::filesystem::path
-        resources; ///< pages, translations, settings definitions and pictures as their authors have them
+    std::filesystem::path resources; ///< as their authors have them
     std::set<Fault> faults;
     std::optional<std::filesystem::path> import_file;
     std::optional<std::filesystem::path> export_file;

@@ -8,8 +8,7 @@
 namespace sim {
 
 /// While one lives, SIGINT and SIGTERM don't end the process but call a function, on a thread of its own; a second one
-/// ends the process at once. Threads that
-/// are to leave the signals alone must be started later.
+/// ends the process at once. Threads that are to leave the signals alone must be started later.
 class StopSignals {
 public:
     explicit StopSignals(std::function<void()> stop);

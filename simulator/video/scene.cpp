@@ -149,8 +149,7 @@ Image draw_backdrop(const View& view)
 /// The backdrop as it was drawn for one of the last few views, or a new one.
 std::shared_ptr<const Image> backdrop_of(const View& view)
 {
-    constexpr std::size_t max_kept =
-        8; // three channels and their small pictures, and what makes the edges of both soft
+    constexpr std::size_t max_kept = 8; // three channels, their small pictures, and what makes edges of both soft
     static std::mutex mutex;
     static std::list<std::pair<View, std::shared_ptr<const Image>>> kept; // the last used first
     const std::lock_guard<std::mutex> lock(mutex);

@@ -99,8 +99,8 @@ void ChannelStream::work()
     bool failing = false;
     while (wait_for_viewers()) {
         const auto begin = Clock::now();
-        due =
-            std::clamp(due + frame_time, begin, begin + frame_time); // however long drawing takes, or often pushes come
+        // However long drawing takes, or often pushes come.
+        due = std::clamp(due + frame_time, begin, begin + frame_time);
         const std::uint64_t seen = camera_.video.channels.changes();
         failing = !encode_or_tell(failing);
         (void)camera_.video.channels.wait_for_change(seen, due); // either way the next picture is due
