@@ -27,8 +27,6 @@ return stream.naturalWidth ? [...brush.getImageData(0, 0, 160, 90).data].join() 
 VEILED = "const { hidden, innerText } = document.getElementById('veil'); return !hidden && innerText.includes('lost')"
 VISIBLE_CONTROLS = """return [...document.querySelectorAll('button, select, input, a[href], [tabindex="0"]')]
     .filter(element => element.checkVisibility())"""
-# The smallest one leaves the machine time for all else.
-SMALL_PICTURE = "const { channel } = window; channel.value = 2; channel.dispatchEvent(new Event('change'))"
 # A stream that ends leaves its last picture, and no error.
 ENDED_STREAM = "const { stream } = window; stream.src = 'channels/0/snapshot.jpg'; return stream.decode()"
 MARKED = """return [...document.querySelectorAll('.setting')].filter(row => row.querySelector('.unused').innerText)
@@ -58,8 +56,7 @@ def load(width=1280, height=800):
     browser.execute_cdp_cmd("Emulation.setDeviceMetricsOverride", {"width": width, "height": height,
                                                                    "deviceScaleFactor": 1, "mobile": width < 700})
     browser.get(camera.address)
-    eventually(lambda: find(BRIGHTNESS) and find("#keys-list kbd") and find("#channel option[value='2']"), "the page")
-    run(SMALL_PICTURE)
+    eventually(lambda: find(BRIGHTNESS) and find("#keys-list kbd"), "the page")
 
 
 def run(script, *arguments):
@@ -284,7 +281,7 @@ class PageTest(unittest.TestCase):
             browser.switch_to.new_window("tab")
             load()
         self.wait_moving_picture()
-        eventually(lambda: len(camera.get("channels")["channels"][2]["viewers"]) == 1, "one page alone has a stream")
+        eventually(lambda: len(camera.get("channels")["channels"][0]["viewers"]) == 1, "one page alone has a stream")
         browser.switch_to.window(first)
         find("[data-key='right']").click()
         self.wait_focus("main", "Exposure")
