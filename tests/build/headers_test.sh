@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # Each public header stands alone: as C11 and as C++17, for both compilers, without a warning.
+#   headers_test.sh [FLAG OF THE COMPILERS...]
 set -euo pipefail
 cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/../.."
-flags=$(pkg-config --cflags sdl2 SDL2_ttf | sed 's/-I/-isystem /g')
+flags="$* $(pkg-config --cflags sdl2 SDL2_ttf | sed 's/-I/-isystem /g')"
 failed=0
 for header in include/*.h platform/*_service.h; do
     # What has C++ types in it is for C++ alone. The last exception: the numbers in an item's value area have no name of
